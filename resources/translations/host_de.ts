@@ -14095,31 +14095,31 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     <name>RenderReport</name>
     <message>
         <source>%1 drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gezeichnet</translation>
     </message>
     <message>
         <source>%1 invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 unsichtbar</translation>
     </message>
     <message>
         <source>simplified</source>
-        <translation type="unfinished">vereinfacht</translation>
+        <translation>vereinfacht</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished">übersprungen</translation>
+        <translation>übersprungen</translation>
     </message>
     <message>
         <source>not drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gezeichnet</translation>
     </message>
     <message>
         <source>drawn in part</source>
-        <translation type="unfinished"></translation>
+        <translation>teilweise gezeichnet</translation>
     </message>
     <message>
         <source>cut short: there is more than is drawn in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>abgebrochen: es gibt mehr, als auf einmal gezeichnet wird</translation>
     </message>
 </context>
 <context>

@@ -12,51 +12,51 @@
     <name>Batch</name>
     <message>
         <source>%1 of %2, %3 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2, dont %3 en échec</translation>
     </message>
     <message>
         <source>the process that worked on it was killed or crashed</source>
-        <translation type="unfinished"></translation>
+        <translation>le processus qui y travaillait a été tué ou a planté</translation>
     </message>
     <message>
         <source>interrupted: %1 of %2 were not worked on to the end</source>
-        <translation type="unfinished"></translation>
+        <translation>interrompu : le travail sur %1 de %2 n&apos;est pas allé à son terme</translation>
     </message>
     <message>
         <source>done</source>
-        <translation type="unfinished">fait</translation>
+        <translation>fait</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec</translation>
     </message>
     <message>
         <source>not read</source>
-        <translation type="unfinished"></translation>
+        <translation>non lu</translation>
     </message>
     <message>
         <source>not written</source>
-        <translation type="unfinished"></translation>
+        <translation>non écrit</translation>
     </message>
     <message>
         <source>incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>incomplet</translation>
     </message>
     <message>
         <source>cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>interrompu</translation>
     </message>
     <message>
         <source>%1, case %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, cas %2</translation>
     </message>
     <message>
         <source>%1: the folder cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le dossier ne peut pas être créé</translation>
     </message>
     <message>
         <source>two of the drawings are named %1: their results would have the same name</source>
-        <translation type="unfinished"></translation>
+        <translation>deux des dessins s&apos;appellent %1 : leurs résultats auraient le même nom</translation>
     </message>
 </context>
 <context>
@@ -106,5281 +106,5500 @@
     <name>Commands</name>
     <message>
         <source>Specify angle vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le sommet de l&apos;angle : </translation>
     </message>
     <message>
         <source>Specify first angle endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la première extrémité de l&apos;angle : </translation>
     </message>
     <message>
         <source>Specify second angle endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la seconde extrémité de l&apos;angle : </translation>
     </message>
     <message>
         <source>Select second line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez la seconde ligne : </translation>
     </message>
     <message>
         <source>Lines are parallel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes sont parallèles.</translation>
     </message>
     <message>
         <source>Object selected is not a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est pas une ligne.</translation>
     </message>
     <message>
         <source>Select arc, circle, line, or &lt;specify vertex&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un arc, un cercle ou une ligne, ou &lt;spécifier le sommet&gt; : </translation>
     </message>
     <message>
         <source>Object selected is not an arc, circle or line.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est ni un arc, ni un cercle, ni une ligne.</translation>
     </message>
     <message>
         <source>Enter text location (or press ENTER): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;emplacement du texte (ou appuyez sur ENTRÉE) : </translation>
     </message>
     <message>
         <source>Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de l&apos;arc de cote ou [Mtext/Text/Angle/Quadrant] : </translation>
     </message>
     <message>
         <source>Specify quadrant: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le quadrant : </translation>
     </message>
     <message>
         <source>Select arc or polyline arc segment: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un arc ou un segment d&apos;arc de polyligne : </translation>
     </message>
     <message>
         <source>Object selected is not an arc or polyline arc segment.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est ni un arc ni un segment d&apos;arc de polyligne.</translation>
     </message>
     <message>
         <source>Specify first point for arc length dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de la cote de longueur d&apos;arc : </translation>
     </message>
     <message>
         <source>Specify second point for arc length dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de la cote de longueur d&apos;arc : </translation>
     </message>
     <message>
         <source>The two points are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux points n&apos;en font qu&apos;un.</translation>
     </message>
     <message>
         <source>Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la cote de longueur d&apos;arc ou [Mtext/Text/Angle/Partial%1] : </translation>
     </message>
     <message>
         <source>A drawing of this version has no dimensions of arc lengths: they come with R2004.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de cotes de longueur d&apos;arc : elles existent depuis R2004.</translation>
     </message>
     <message>
         <source>
 Current attribute modes:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modes d&apos;attribut courants :  </translation>
     </message>
     <message>
         <source>Enter an option to change [Invisible/Constant/Verify/Preset] &lt;done&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option à modifier [Invisible/Constant/Verify/Preset] &lt;terminé&gt; : </translation>
     </message>
     <message>
         <source>Enter attribute tag name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;étiquette de l&apos;attribut : </translation>
     </message>
     <message>
         <source>A tag is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une étiquette est nécessaire.</translation>
     </message>
     <message>
         <source>A tag has no blanks.</source>
-        <translation type="unfinished">Une étiquette n&apos;a pas d&apos;espaces.</translation>
+        <translation>Une étiquette n&apos;a pas d&apos;espaces.</translation>
     </message>
     <message>
         <source>Enter attribute prompt: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;invite de l&apos;attribut : </translation>
     </message>
     <message>
         <source>Enter attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la valeur de l&apos;attribut : </translation>
     </message>
     <message>
         <source>Enter default attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la valeur par défaut de l&apos;attribut : </translation>
     </message>
     <message>
         <source>Enter attribute tag name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;étiquette de l&apos;attribut</translation>
     </message>
     <message>
         <source>Enter attribute prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;invite de l&apos;attribut</translation>
     </message>
     <message>
         <source>Enter default attribute value, . for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la valeur par défaut de l&apos;attribut, . pour aucune</translation>
     </message>
     <message>
         <source>Enter text</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le texte</translation>
     </message>
     <message>
         <source>Select an annotation object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet d&apos;annotation : </translation>
     </message>
     <message>
         <source>Requires a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texte est nécessaire.</translation>
     </message>
     <message>
         <source>Select continued dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez la cote à continuer : </translation>
     </message>
     <message>
         <source>Select base dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez la cote de base : </translation>
     </message>
     <message>
         <source>Linear, ordinate, or angular associative dimension required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une cote linéaire, d&apos;ordonnée ou angulaire est nécessaire.</translation>
     </message>
     <message>
         <source>
 All dimensions of the command are undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Toutes les cotes de la commande sont annulées.</translation>
     </message>
     <message>
         <source>Specify feature location or [Select/Undo] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de l&apos;élément ou [Select/Undo] &lt;Select&gt; : </translation>
     </message>
     <message>
         <source>Specify second extension line origin or [Select/Undo] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;origine de la seconde ligne d&apos;attache ou [Select/Undo] &lt;Select&gt; : </translation>
     </message>
     <message>
         <source>Specify a second extension line origin or [Select] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;origine d&apos;une seconde ligne d&apos;attache ou [Select] &lt;Select&gt; : </translation>
     </message>
     <message>
         <source>Enter obliquing angle (press ENTER for none): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;angle d&apos;inclinaison (ENTRÉE pour aucun) : </translation>
     </message>
     <message>
         <source>Unknown dimension variable &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de cote inconnue &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new value for dimension variable &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle valeur de la variable de cote &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>%1 does not take this value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;accepte pas cette valeur.</translation>
     </message>
     <message>
         <source>Enter dimension variable name to override: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la variable de cote à remplacer : </translation>
     </message>
     <message>
         <source>Enter type of dimension editing [Home/New/Rotate/Oblique] &lt;Home&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type d&apos;édition de cote [Home/New/Rotate/Oblique] &lt;Home&gt; : </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;&lt;&gt;&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le texte de la cote &lt;&lt;&gt;&gt; : </translation>
     </message>
     <message>
         <source>Specify angle for dimension text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle du texte de la cote : </translation>
     </message>
     <message>
         <source>Select dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une cote : </translation>
     </message>
     <message>
         <source>Object selected is not a dimension.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est pas une cote.</translation>
     </message>
     <message>
         <source>Specify new location for dimension text or [Left/Right/Center/Home/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouvel emplacement du texte de la cote ou [Left/Right/Center/Home/Angle] : </translation>
     </message>
     <message>
         <source>Enter dimension variable name to override or [Clear overrides]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la variable de cote à remplacer ou [Clear overrides] : </translation>
     </message>
     <message>
         <source>Enter new text style name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du nouveau style de texte</translation>
     </message>
     <message>
         <source>Dim: </source>
-        <translation type="unfinished"></translation>
+        <translation>Cote : </translation>
     </message>
     <message>
         <source>Unknown dimension subcommand &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-commande de cotation inconnue &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Nothing that was made here is left to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il ne reste rien à annuler de ce qui a été fait ici.</translation>
     </message>
     <message>
         <source>Enter dimension style(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les styles de cote à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter a dimension style name, [?] or &lt;select dimension&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom d&apos;un style de cote, [?] ou &lt;sélectionner une cote&gt; : </translation>
     </message>
     <message>
         <source>Cannot find dimension style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de cote &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter name for new dimension style or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du nouveau style de cote ou [?] : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name for a dimension style.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas un nom de style de cote.</translation>
     </message>
     <message>
         <source>That name is already in use, redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ce nom est déjà utilisé, le redéfinir ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Create annotative dimension style [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un style de cote annotatif [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>
 Current dimension style: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Style de cote courant : </translation>
     </message>
     <message>
         <source>Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de style de cote [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt; : </translation>
     </message>
     <message>
         <source>Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point interne ou [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency] : </translation>
     </message>
     <message>
         <source>
 Too many curves cross here: choose a boundary set.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Trop de courbes se croisent ici : choisissez un jeu de contours.</translation>
     </message>
     <message>
         <source>
 Valid hatch boundary not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun contour de hachures valide trouvé.</translation>
     </message>
     <message>
         <source>
 The objects make no closed boundary.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les objets ne forment pas de contour fermé.</translation>
     </message>
     <message>
         <source>Retain polyline boundary? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver la polyligne du contour ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Specify start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ : </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo] &lt;Close&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant ou [Close/Undo] &lt;Close&gt; : </translation>
     </message>
     <message>
         <source>Specify start point for new boundary or &lt;Accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ d&apos;un nouveau contour ou &lt;accepter&gt; : </translation>
     </message>
     <message>
         <source>Select boundary to remove: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez le contour à supprimer : </translation>
     </message>
     <message>
         <source>
 Current hatch pattern:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Motif de hachures courant :  </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Island detection/Object type] &lt;eXit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Boundary set/Island detection/Object type] &lt;eXit&gt; : </translation>
     </message>
     <message>
         <source>Enter type of boundary object [Region/Polyline] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type d&apos;objet de contour [Region/Polyline] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify internal point or [Advanced options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point interne ou [Advanced options] : </translation>
     </message>
     <message>
         <source>
 BOUNDARY created 1 region</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY a créé 1 région</translation>
     </message>
     <message>
         <source>
 BOUNDARY created 1 polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY a créé 1 polyligne</translation>
     </message>
     <message>
         <source>
 BOUNDARY created %1 regions</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY a créé %1 régions</translation>
     </message>
     <message>
         <source>
 BOUNDARY created %1 polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY a créé %1 polylignes</translation>
     </message>
     <message>
         <source>Enter pattern(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les motifs à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Specify angle for crosshatch lines &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle des lignes de hachures &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify spacing between the lines &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;espacement des lignes &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Double hatch area? [Yes/No] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Hachurer la zone en double ? [Yes/No] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify a scale for the pattern &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;échelle du motif &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify an angle for the pattern &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle du motif &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new color or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle couleur ou [. (for use current)] &lt;.&gt; : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas une couleur.</translation>
     </message>
     <message>
         <source>Specify new layer name or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouveau nom de calque ou [. (for use current)] &lt;.&gt; : </translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter new transparency value (0-90) or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle valeur de transparence (0-90) ou [. (for use current)] &lt;.&gt; : </translation>
     </message>
     <message>
         <source>Requires a whole number from 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier de 0 à 90 est nécessaire.</translation>
     </message>
     <message>
         <source>Enter draw order [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;send behind boundary&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;ordre de tracé [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;derrière le contour&gt; : </translation>
     </message>
     <message>
         <source>[Use current origin/Set new origin] &lt;Use current origin&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>[Use current origin/Set new origin] &lt;Use current origin&gt; : </translation>
     </message>
     <message>
         <source>Specify point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point : </translation>
     </message>
     <message>
         <source>Store as default origin? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer comme origine par défaut ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Unknown hatch pattern &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif de hachures inconnu &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter a pattern name or [?/Solid/User defined] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un nom de motif ou [?/Solid/User defined] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter hatching style [Ignore/Outer/Normal] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le style de hachures [Ignore/Outer/Normal] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify candidate set for boundary [New/Everything] &lt;Everything&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le jeu de contours candidats [New/Everything] &lt;Everything&gt; : </translation>
     </message>
     <message>
         <source>Do you want island detection? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous détecter les îlots ? [Yes/No] &lt;Y&gt; : </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt; : </translation>
     </message>
     <message>
         <source>Retain derived boundaries? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les contours dérivés ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Do you want associativity? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous l&apos;associativité ? [Yes/No] &lt;Y&gt; : </translation>
     </message>
     <message>
         <source>Specify a boundary gap tolerance value &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la tolérance d&apos;espacement du contour &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Create separate hatches? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Créer des hachures séparées ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Create annotative hatch [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Créer des hachures annotatives [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Annotative hatches are not made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les hachures annotatives ne sont pas créées.</translation>
     </message>
     <message>
         <source>
 A boundary needs three points.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un contour demande trois points.</translation>
     </message>
     <message>
         <source>
 A drawing of this version keeps no draw order.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un dessin de cette version ne conserve pas d&apos;ordre de tracé.</translation>
     </message>
     <message>
         <source>The hatch spacing is too dense, or the dash size too small.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;espacement des hachures est trop dense ou les tirets sont trop petits.</translation>
     </message>
     <message>
         <source>
 No polyline can follow the boundary: it has pieces of ellipses or splines.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses ou de splines.</translation>
     </message>
     <message>
         <source>Select hatch object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet hachure : </translation>
     </message>
     <message>
         <source>Object selected is not a hatch.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est pas une hachure.</translation>
     </message>
     <message>
         <source>Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de hachures [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt; : </translation>
     </message>
     <message>
         <source>Specify first endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la première extrémité de la ligne de base du texte : </translation>
     </message>
     <message>
         <source>Specify start point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ du texte : </translation>
     </message>
     <message>
         <source>Specify center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre de la ligne de base du texte : </translation>
     </message>
     <message>
         <source>Specify right endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité droite de la ligne de base du texte : </translation>
     </message>
     <message>
         <source>Specify middle point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point milieu du texte : </translation>
     </message>
     <message>
         <source>Specify top-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point haut gauche du texte : </translation>
     </message>
     <message>
         <source>Specify top-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point haut centre du texte : </translation>
     </message>
     <message>
         <source>Specify top-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point haut droit du texte : </translation>
     </message>
     <message>
         <source>Specify middle-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point milieu gauche du texte : </translation>
     </message>
     <message>
         <source>Specify middle-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point milieu centre du texte : </translation>
     </message>
     <message>
         <source>Specify middle-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point milieu droit du texte : </translation>
     </message>
     <message>
         <source>Specify bottom-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point bas gauche du texte : </translation>
     </message>
     <message>
         <source>Specify bottom-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point bas centre du texte : </translation>
     </message>
     <message>
         <source>Specify bottom-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point bas droit du texte : </translation>
     </message>
     <message>
         <source>Enter an option [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [%1] : </translation>
     </message>
     <message>
         <source>Enter next line of annotation text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la ligne suivante du texte d&apos;annotation : </translation>
     </message>
     <message>
         <source>A text, tolerance or block reference is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texte, une tolérance ou une référence de bloc est nécessaire.</translation>
     </message>
     <message>
         <source>Enter block name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du bloc : </translation>
     </message>
     <message>
         <source>Cannot find block &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le facteur d&apos;échelle &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation &lt;0&gt; : </translation>
     </message>
     <message>
         <source>Enter tolerance text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le texte de la tolérance : </translation>
     </message>
     <message>
         <source>Enter an annotation option [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option d&apos;annotation [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt; : </translation>
     </message>
     <message>
         <source>Select an object to copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet à copier : </translation>
     </message>
     <message>
         <source>Enter first line of annotation text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la première ligne du texte d&apos;annotation : </translation>
     </message>
     <message>
         <source>Enter leader format option [Spline/STraight/Arrow/None] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de format de repère [Spline/STraight/Arrow/None] &lt;Exit&gt; : </translation>
     </message>
     <message>
         <source>Specify leader start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ de la ligne de repère : </translation>
     </message>
     <message>
         <source>Specify next point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant : </translation>
     </message>
     <message>
         <source>Specify next point or [Annotation/Format/Undo] &lt;Annotation&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant ou [Annotation/Format/Undo] &lt;Annotation&gt; : </translation>
     </message>
     <message>
         <source>Enter first line of annotation text or &lt;options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la première ligne du texte d&apos;annotation ou &lt;options&gt; : </translation>
     </message>
     <message>
         <source>Specify first leader point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de la ligne de repère : </translation>
     </message>
     <message>
         <source>Specify text width &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur du texte &lt;0&gt; : </translation>
     </message>
     <message>
         <source>Enter first line of annotation text &lt;Mtext&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la première ligne du texte d&apos;annotation &lt;Mtext&gt; : </translation>
     </message>
     <message>
         <source>Leader start: </source>
-        <translation type="unfinished"></translation>
+        <translation>Départ du repère : </translation>
     </message>
     <message>
         <source>To point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Au point : </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le texte de la cote &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify first extension line origin or &lt;select object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;origine de la première ligne d&apos;attache ou &lt;sélectionner un objet&gt; : </translation>
     </message>
     <message>
         <source>Specify second extension line origin: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;origine de la seconde ligne d&apos;attache : </translation>
     </message>
     <message>
         <source>Select object to dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet à coter : </translation>
     </message>
     <message>
         <source>Object selected is not a line, arc, circle or piece of a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est ni une ligne, ni un arc, ni un cercle, ni un morceau de polyligne.</translation>
     </message>
     <message>
         <source>Specify angle of dimension line &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de la ligne de cote &lt;0&gt; : </translation>
     </message>
     <message>
         <source>Specify dimension line location or [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou [%1] : </translation>
     </message>
     <message>
         <source>Specify dimension line location or [Mtext/Text/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou [Mtext/Text/Angle] : </translation>
     </message>
     <message>
         <source>Specify feature location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de l&apos;élément : </translation>
     </message>
     <message>
         <source>Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de la ligne de repère ou [Xdatum/Ydatum/Mtext/Text/Angle] : </translation>
     </message>
     <message>
         <source>The object is not parallel to the current UCS.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet n&apos;est pas parallèle au SCU courant.</translation>
     </message>
     <message>
         <source>Select a leader type [Straight/sPline/None]</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un type de ligne de repère [Straight/sPline/None]</translation>
     </message>
     <message>
         <source>Use landing [Yes/No]</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser une ligne de guidage [Yes/No]</translation>
     </message>
     <message>
         <source>Specify fixed landing distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur fixe de la ligne de guidage</translation>
     </message>
     <message>
         <source>Select a content type [Block/Mtext/None]</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un type de contenu [Block/Mtext/None]</translation>
     </message>
     <message>
         <source>Enter the maximum points for leader or [None] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre maximal de points du repère ou [None] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>A leader has two points at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne de repère a au moins deux points.</translation>
     </message>
     <message>
         <source>Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt; : </translation>
     </message>
     <message>
         <source>Enter first angle constraint &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la première contrainte d&apos;angle &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter second angle constraint &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la seconde contrainte d&apos;angle &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify leader landing location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de guidage : </translation>
     </message>
     <message>
         <source>Enter text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le texte : </translation>
     </message>
     <message>
         <source>Specify first corner of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin du texte : </translation>
     </message>
     <message>
         <source>Specify insertion point for block: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point d&apos;insertion du bloc : </translation>
     </message>
     <message>
         <source>Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le coin opposé : </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [leader Landing first/Content first/Options] &lt;Options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la pointe de flèche ou [leader Landing first/Content first/Options] &lt;Options&gt; : </translation>
     </message>
     <message>
         <source>A drawing of this version has no multileaders: they come with R2007.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de repères multiples : ils existent depuis R2007.</translation>
     </message>
     <message>
         <source>Specify leader arrowhead location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la pointe de flèche : </translation>
     </message>
     <message>
         <source>Object selected is not a multileader.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est pas un repère multiple.</translation>
     </message>
     <message>
         <source>Select a multileader: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un repère multiple : </translation>
     </message>
     <message>
         <source>Specify leaders to remove or [Add leaders]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez les lignes de repère à supprimer ou [Add leaders] : </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [Remove leaders]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la pointe de flèche ou [Remove leaders] : </translation>
     </message>
     <message>
         <source>
 The multileader has no leader there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le repère multiple n&apos;a pas de ligne de repère à cet endroit.</translation>
     </message>
     <message>
         <source>Enter an option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt; : </translation>
     </message>
     <message>
         <source>Specify spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;espacement</translation>
     </message>
     <message>
         <source>Select multileaders: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez des repères multiples : </translation>
     </message>
     <message>
         <source>No multileaders were selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun repère multiple n&apos;a été sélectionné.</translation>
     </message>
     <message>
         <source>Specify first point or [Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point ou [Options] : </translation>
     </message>
     <message>
         <source>Specify second point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point : </translation>
     </message>
     <message>
         <source>Select multileader to align to or [Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez le repère multiple sur lequel aligner ou [Options] : </translation>
     </message>
     <message>
         <source>Specify direction: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la direction : </translation>
     </message>
     <message>
         <source>Specify angle of dimension text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle du texte de la cote : </translation>
     </message>
     <message>
         <source>
 Dimension text = </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Texte de la cote = </translation>
     </message>
     <message>
         <source>Enter justification [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la justification [%1]</translation>
     </message>
     <message>
         <source>Enter line spacing type [At least/Exactly]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type d&apos;interligne [At least/Exactly]</translation>
     </message>
     <message>
         <source>Enter line spacing factor or distance &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le facteur ou la distance d&apos;interligne &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Lines are 0.25x to 4x of the usual distance apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes sont espacées de 0.25x à 4x la distance habituelle.</translation>
     </message>
     <message>
         <source>Specify total width</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur totale</translation>
     </message>
     <message>
         <source>Specify number of columns &lt;2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nombre de colonnes &lt;2&gt; : </translation>
     </message>
     <message>
         <source>Specify gutter width</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de la gouttière</translation>
     </message>
     <message>
         <source>So many columns do not fit into this width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tant de colonnes ne tiennent pas dans cette largeur.</translation>
     </message>
     <message>
         <source>Specify column width</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de colonne</translation>
     </message>
     <message>
         <source>Enter column type [Dynamic/Static/No columns]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de colonnes [Dynamic/Static/No columns]</translation>
     </message>
     <message>
         <source>A drawing of this version has no columns in texts: they come with R2007.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de colonnes dans les textes : elles existent depuis R2007.</translation>
     </message>
     <message>
         <source>Specify column height</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la hauteur de colonne</translation>
     </message>
     <message>
         <source>Specify height</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la hauteur</translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify width</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur</translation>
     </message>
     <message>
         <source>Specify first corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin : </translation>
     </message>
     <message>
         <source>Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le coin opposé ou [Height/Justify/Line spacing/Rotation/Style/Width/Columns] : </translation>
     </message>
     <message>
         <source>
 Current text style:  &quot;%1&quot;  Text height:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Style de texte courant :  &quot;%1&quot;  Hauteur du texte :  %2</translation>
     </message>
     <message>
         <source>MText: </source>
-        <translation type="unfinished"></translation>
+        <translation>MText : </translation>
     </message>
     <message>
         <source>No texts were selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun texte n&apos;a été sélectionné.</translation>
     </message>
     <message>
         <source>
 %1 texts became one paragraph.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 textes sont devenus un paragraphe.</translation>
     </message>
     <message>
         <source>Object selected is not a circle or arc.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est ni un cercle ni un arc.</translation>
     </message>
     <message>
         <source>Specify dimension line location or leader length for text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou la longueur du repère du texte : </translation>
     </message>
     <message>
         <source>A drawing of this version has no jogged dimensions of radii: they come with R2004.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de cotes de rayon raccourcies : elles existent depuis R2004.</translation>
     </message>
     <message>
         <source>Select arc or circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un arc ou un cercle : </translation>
     </message>
     <message>
         <source>Specify center location override: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement remplaçant le centre : </translation>
     </message>
     <message>
         <source>Specify jog location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement du raccourcissement : </translation>
     </message>
     <message>
         <source>DIMCEN is 0: there is no centre mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>DIMCEN vaut 0 : il n&apos;y a pas de marque de centre.</translation>
     </message>
     <message>
         <source>Enter name of text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du style de texte</translation>
     </message>
     <message>
         <source>Invalid style name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de style non valide.</translation>
     </message>
     <message>
         <source>Specify full font name or font filename (TTF or SHX) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nom complet de la police ou le fichier de police (TTF ou SHX) &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify height of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la hauteur du texte</translation>
     </message>
     <message>
         <source>Specify width factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur de largeur</translation>
     </message>
     <message>
         <source>Specify obliquing angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle d&apos;inclinaison &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>The obliquing angle is from -85 to 85 degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angle d&apos;inclinaison va de -85 à 85 degrés.</translation>
     </message>
     <message>
         <source>Display text backwards?</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le texte à l&apos;envers ?</translation>
     </message>
     <message>
         <source>Display text upside-down?</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le texte tête en bas ?</translation>
     </message>
     <message>
         <source>
 Existing style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Style existant.</translation>
     </message>
     <message>
         <source>
 New style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nouveau style.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; is now the current text style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; est maintenant le style de texte courant.</translation>
     </message>
     <message>
         <source>Specify start point of text or [Justify/Style]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ du texte ou [Justify/Style] : </translation>
     </message>
     <message>
         <source>There is no text to go on below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de texte sous lequel continuer.</translation>
     </message>
     <message>
         <source>Specify second endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la seconde extrémité de la ligne de base du texte : </translation>
     </message>
     <message>
         <source>Specify height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la hauteur &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify rotation angle of text &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation du texte &lt;0&gt; : </translation>
     </message>
     <message>
         <source>The two endpoints are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux extrémités n&apos;en font qu&apos;une.</translation>
     </message>
     <message>
         <source>
 Style name: &quot;%1&quot;  Font files: %2  Height: %3  Width factor: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nom du style : &quot;%1&quot;  Fichiers de police : %2  Hauteur : %3  Facteur de largeur : %4</translation>
     </message>
     <message>
         <source>%1 or [?] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ou [?] &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Enter text style(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les styles de texte à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter style name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du style</translation>
     </message>
     <message>
         <source>Cannot find text style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de texte &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Fichier &quot;%1&quot; de la référence &quot;%2&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 Warning: &quot;%1&quot; shows this drawing, which is left out there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Attention : &quot;%1&quot; montre ce dessin, qui y est omis.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; chargé.</translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier &quot;%1&quot; de la référence &quot;%2&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; is a block of this drawing now.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; est maintenant un bloc de ce dessin.</translation>
     </message>
     <message>
         <source> %1 of its records could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation> %1 de ses enregistrements n&apos;ont pas pu être repris.</translation>
     </message>
     <message>
         <source>Enter an option [?/Name/Select] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Name/Select] &lt;Select&gt; : </translation>
     </message>
     <message>
         <source>
 Blocks with attributes:
   </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Blocs avec attributs :
+  </translation>
     </message>
     <message>
         <source>Enter name of block to synchronize or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du bloc à synchroniser ou [?] : </translation>
     </message>
     <message>
         <source>Select a block: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un bloc : </translation>
     </message>
     <message>
         <source>That is no block reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas une référence de bloc.</translation>
     </message>
     <message>
         <source>ATTSYNC block %1? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Synchroniser le bloc %1 par ATTSYNC ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 %1 block references were synchronized.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 références de bloc ont été synchronisées.</translation>
     </message>
     <message>
         <source>Enter block name specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la spécification de nom de bloc &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter attribute tag specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la spécification d&apos;étiquette d&apos;attribut &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter attribute value specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la spécification de valeur d&apos;attribut &lt;*&gt; : </translation>
     </message>
     <message>
         <source>
 %1 attributes selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 attributs sélectionnés.</translation>
     </message>
     <message>
         <source>Enter string to change: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la chaîne à modifier : </translation>
     </message>
     <message>
         <source>Enter new string: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle chaîne : </translation>
     </message>
     <message>
         <source>Enter type of value modification [Change/Replace] &lt;R&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de modification de la valeur [Change/Replace] &lt;R&gt; : </translation>
     </message>
     <message>
         <source>Enter new attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle valeur de l&apos;attribut : </translation>
     </message>
     <message>
         <source>Specify new height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle hauteur &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau nom de calque : </translation>
     </message>
     <message>
         <source>Enter an option [Value/Height/Layer/Next] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Value/Height/Layer/Next] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Edit attributes one at a time? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les attributs un par un ? [Yes/No] &lt;Y&gt; : </translation>
     </message>
     <message>
         <source>Edit only attributes visible on screen? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier seulement les attributs visibles à l&apos;écran ? [Yes/No] &lt;Y&gt; : </translation>
     </message>
     <message>
         <source>%1, . for none &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1, . pour aucun &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>The block has no attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc n&apos;a pas d&apos;attributs.</translation>
     </message>
     <message>
         <source>Enter number or tag of attribute or [?] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le numéro ou l&apos;étiquette de l&apos;attribut ou [?] &lt;quitter&gt; : </translation>
     </message>
     <message>
         <source>The value of %1 is constant.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur de %1 est constante.</translation>
     </message>
     <message>
         <source>There is no attribute &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas d&apos;attribut &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Defined blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Blocs définis.</translation>
     </message>
     <message>
         <source>
 %1 user blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 blocs d&apos;utilisateur.</translation>
     </message>
     <message>
         <source>Enter block name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du bloc ou [?] : </translation>
     </message>
     <message>
         <source>Enter block(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les blocs à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un bloc.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; cannot be redefined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc &quot;%1&quot; ne peut pas être redéfini.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; already exists. Redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc &quot;%1&quot; existe déjà. Le redéfinir ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; would show itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc &quot;%1&quot; se montrerait lui-même.</translation>
     </message>
     <message>
         <source>Specify insertion base point or [Annotative]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base d&apos;insertion ou [Annotative] : </translation>
     </message>
     <message>
         <source>
 Blocks are made without annotation scales.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les blocs sont créés sans échelles d&apos;annotation.</translation>
     </message>
     <message>
         <source>Create annotative block? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un bloc annotatif ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Enter base point &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le point de base &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 %1 field(s) found
 %1 field(s) updated</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 champ(s) trouvé(s)
+%1 champ(s) mis à jour</translation>
     </message>
     <message>
         <source>Specify first point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point : </translation>
     </message>
     <message>
         <source>Specify next point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant ou [Undo] : </translation>
     </message>
     <message>
         <source>Select polyline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une polyligne : </translation>
     </message>
     <message>
         <source>Specify clipping boundary or select invert option: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le contour de délimitation ou choisissez d&apos;inverser : [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt; : </translation>
     </message>
     <message>
         <source>
 Objects inside boundary will be hidden.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les objets à l&apos;intérieur du contour seront masqués.</translation>
     </message>
     <message>
         <source>
 Objects outside boundary will be hidden.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les objets à l&apos;extérieur du contour seront masqués.</translation>
     </message>
     <message>
         <source>That encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela n&apos;entoure rien.</translation>
     </message>
     <message>
         <source>
 %1 could not be clipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;ont pas pu être délimités.</translation>
     </message>
     <message>
         <source>Delete old boundary(s)? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les anciens contours ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>No block references were chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune référence de bloc n&apos;a été choisie.</translation>
     </message>
     <message>
         <source>Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de délimitation [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt; : </translation>
     </message>
     <message>
         <source>Nothing of that can be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de cela ne peut être copié.</translation>
     </message>
     <message>
         <source>Specify base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base : </translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers est vide.</translation>
     </message>
     <message>
         <source>
 %1 could not be pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;ont pas pu être collés.</translation>
     </message>
     <message>
         <source>Specify insertion point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point d&apos;insertion : </translation>
     </message>
     <message>
         <source>
 Defined groups.                            Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Groupes définis.                            Sélectionnable</translation>
     </message>
     <message>
         <source>Enter group name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des groupes à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter a group name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un nom de groupe ou [?] : </translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le groupe &quot;%1&quot; n&apos;existe pas.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un groupe.</translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le groupe &quot;%1&quot; existe déjà.</translation>
     </message>
     <message>
         <source>A group needs an entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un groupe demande un objet.</translation>
     </message>
     <message>
         <source>A drawing of this version has no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de groupes.</translation>
     </message>
     <message>
         <source>Enter a group description: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une description du groupe : </translation>
     </message>
     <message>
         <source>Select objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez des objets : </translation>
     </message>
     <message>
         <source>Enter a new name for group or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un nouveau nom de groupe ou [?] : </translation>
     </message>
     <message>
         <source>Enter position number of the object to reorder %1 or [Reverse]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le numéro de position de l&apos;objet à réordonner %1 ou [Reverse] : </translation>
     </message>
     <message>
         <source>Enter new position number for the object %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau numéro de position de l&apos;objet %1 : </translation>
     </message>
     <message>
         <source>Enter number of objects to reorder &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre d&apos;objets à réordonner &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Requires a number from 0 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre de 0 à %1 est nécessaire.</translation>
     </message>
     <message>
         <source>Is group selectable? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Le groupe est-il sélectionnable ? [Yes/No] &lt;Y&gt; : </translation>
     </message>
     <message>
         <source>Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de groupe [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt; : </translation>
     </message>
     <message>
         <source>
 %1 of its entities became ones that a drawing of this version has.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 de ses objets sont devenus des objets qu&apos;un dessin de cette version connaît.</translation>
     </message>
     <message>
         <source>
 %1 of its entities could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 de ses objets n&apos;ont pas pu être repris.</translation>
     </message>
     <message>
         <source>Cannot find block or file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc ou fichier &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter block name or [?] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du bloc ou [?] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify scale factor for XYZ axes &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur d&apos;échelle des axes XYZ &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Specify %1 scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur d&apos;échelle %1 &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Enter %1 scale factor &lt;use X scale factor&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le facteur d&apos;échelle %1 &lt;utiliser le facteur X&gt; : </translation>
     </message>
     <message>
         <source>Enter X scale factor or [Corner/XYZ] &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le facteur d&apos;échelle X ou [Corner/XYZ] &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur ne doit pas être nulle.</translation>
     </message>
     <message>
         <source>Specify X scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur d&apos;échelle X &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Specify insertion point or [Scale/X/Y/Z/Rotate]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point d&apos;insertion ou [Scale/X/Y/Z/Rotate] : </translation>
     </message>
     <message>
         <source>Specify scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur d&apos;échelle &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>The drawing cannot refer to itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dessin ne peut pas se référencer lui-même.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; is a block&apos;s already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom &quot;%1&quot; est déjà celui d&apos;un bloc.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom &quot;%1&quot; ne peut pas être utilisé.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas un dessin.</translation>
     </message>
     <message>
         <source>
 Xref &quot;%1&quot; has already been defined.
 Using existing definition.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La référence externe &quot;%1&quot; est déjà définie.
+La définition existante est utilisée.</translation>
     </message>
     <message>
         <source>
 %1 Xref &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1, référence externe &quot;%2&quot; : %3</translation>
     </message>
     <message>
         <source>
 No matching references found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune référence correspondante trouvée.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not detached: block &quot;%2&quot; holds it.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; n&apos;a pas été détachée : le bloc &quot;%2&quot; la contient.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; n&apos;a pas été détachée.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; détachée.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; unloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; déchargée.</translation>
     </message>
     <message>
         <source>Enter xref name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des références externes à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter xref name(s) to bind: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des références externes à lier : </translation>
     </message>
     <message>
         <source>Enter xref name(s) to detach: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des références externes à détacher : </translation>
     </message>
     <message>
         <source>Enter xref name(s) to unload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des références externes à décharger : </translation>
     </message>
     <message>
         <source>Enter xref name(s) to reload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des références externes à recharger : </translation>
     </message>
     <message>
         <source>Enter xref name(s) to edit path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des références externes dont modifier le chemin : </translation>
     </message>
     <message>
         <source>
 Xref name: %1
 Old path: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nom de la référence externe : %1
+Ancien chemin : %2</translation>
     </message>
     <message>
         <source>Enter new path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau chemin : </translation>
     </message>
     <message>
         <source>Enter name of file to attach: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier à attacher : </translation>
     </message>
     <message>
         <source>Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt; : </translation>
     </message>
     <message>
         <source>
 Nothing to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rien à écrire.</translation>
     </message>
     <message>
         <source>
 %1 was written as DXF text.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 a été écrit en texte DXF.</translation>
     </message>
     <message>
         <source>
 %1 was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 a été écrit.</translation>
     </message>
     <message>
         <source>Enter name of output file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier de sortie : </translation>
     </message>
     <message>
         <source>Enter name of existing block, [= (same name)/* (whole drawing)] &lt;choose entities&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom d&apos;un bloc existant, [= (same name)/* (whole drawing)] &lt;choisir des objets&gt; : </translation>
     </message>
     <message>
         <source>
 Block &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Bloc &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Specify insertion base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base d&apos;insertion : </translation>
     </message>
     <message>
         <source>
 1 was on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+1 objet était sur un calque verrouillé.</translation>
     </message>
     <message>
         <source>
 %1 were on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets étaient sur un calque verrouillé.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les nombres sont trop grands.</translation>
     </message>
     <message>
         <source>
 %1 could not be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;ont pas pu être modifiés.</translation>
     </message>
     <message>
         <source>
 %1 could not be mirrored.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;ont pas pu être mis en miroir.</translation>
     </message>
     <message>
         <source>
 %1 could not be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;ont pas pu être copiés.</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Type de ligne &quot;%1&quot; chargé.</translation>
     </message>
     <message>
         <source>Specify displacement &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le déplacement &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement] &lt;Displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base ou [Displacement] &lt;Displacement&gt; : </translation>
     </message>
     <message>
         <source>Specify second point or &lt;use first point as displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou &lt;utiliser le premier point comme déplacement&gt; : </translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introuvable : %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 existe déjà. Le remplacer ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>Specify the reference angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de référence &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify the new angle or [Points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouvel angle ou [Points] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify reference length &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur de référence &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify new length or [Points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle longueur ou [Points] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>(ADD mode) </source>
-        <translation type="unfinished"></translation>
+        <translation>(Mode ADDITION) </translation>
     </message>
     <message>
         <source>(SUBTRACT mode) </source>
-        <translation type="unfinished"></translation>
+        <translation>(Mode SOUSTRACTION) </translation>
     </message>
     <message>
         <source>
 Area = %1, %2 = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aire = %1, %2 = %3</translation>
     </message>
     <message>
         <source>
 Total area = %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aire totale = %1</translation>
     </message>
     <message>
         <source>
 Selected object does not have an area.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;objet sélectionné n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1Spécifiez le point suivant ou [Undo] : </translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo/Total] &lt;Total&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1Spécifiez le point suivant ou [Undo/Total] &lt;Total&gt; : </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area/Subtract area] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin ou [Object/Add area/Subtract area] &lt;Object&gt; : </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Subtract area]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin ou [Object/Subtract area] : </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin ou [Object/Add area] : </translation>
     </message>
     <message>
         <source>Select object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet : </translation>
     </message>
     <message>
         <source>Specify second break point or [First point]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de coupure ou [First point] : </translation>
     </message>
     <message>
         <source>Specify first break point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de coupure : </translation>
     </message>
     <message>
         <source>Specify second break point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de coupure : </translation>
     </message>
     <message>
         <source>A whole circle or ellipse cannot be broken at one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cercle ou une ellipse entière ne peut pas être coupé en un seul point.</translation>
     </message>
     <message>
         <source>The object cannot be broken there.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet ne peut pas être coupé à cet endroit.</translation>
     </message>
     <message>
         <source>The lines are parallel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes sont parallèles.</translation>
     </message>
     <message>
         <source>The lines are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes n&apos;en font qu&apos;une.</translation>
     </message>
     <message>
         <source>The angle leads to no cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angle ne mène à aucune coupe.</translation>
     </message>
     <message>
         <source>Radius is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rayon est trop grand.</translation>
     </message>
     <message>
         <source>Distance is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La distance est trop grande.</translation>
     </message>
     <message>
         <source>There is no arc of that radius.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas d&apos;arc de ce rayon.</translation>
     </message>
     <message>
         <source>They do not lie in one plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ils ne sont pas dans un même plan.</translation>
     </message>
     <message>
         <source>Two different ones are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux objets différents sont nécessaires.</translation>
     </message>
     <message>
         <source>Only straight lines can be chamfered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les lignes droites peuvent être chanfreinées.</translation>
     </message>
     <message>
         <source>Enter Trim mode option [Trim/No trim]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;option du mode d&apos;ajustement [Trim/No trim]</translation>
     </message>
     <message>
         <source>Specify first chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la première distance de chanfrein</translation>
     </message>
     <message>
         <source>Specify second chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la seconde distance de chanfrein</translation>
     </message>
     <message>
         <source>Specify chamfer length on the first line</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur du chanfrein sur la première ligne</translation>
     </message>
     <message>
         <source>Specify chamfer angle from the first line &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle du chanfrein depuis la première ligne &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify fillet radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le rayon de raccord</translation>
     </message>
     <message>
         <source>Enter trim method [Distance/Angle]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la méthode d&apos;ajustement [Distance/Angle]</translation>
     </message>
     <message>
         <source>Select 2D polyline or [Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une polyligne 2D ou [Radius] : </translation>
     </message>
     <message>
         <source>Select 2D polyline or [Distance/Angle/mEthod]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une polyligne 2D ou [Distance/Angle/mEthod] : </translation>
     </message>
     <message>
         <source>Requires a flat polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une polyligne plane est nécessaire.</translation>
     </message>
     <message>
         <source>
 %1 lines were filleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 lignes ont été raccordées</translation>
     </message>
     <message>
         <source>
 %1 lines were chamfered</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 lignes ont été chanfreinées</translation>
     </message>
     <message>
         <source>
 %1 were too short</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 étaient trop courtes</translation>
     </message>
     <message>
         <source>
 %1 were parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 étaient parallèles</translation>
     </message>
     <message>
         <source>Requires a line, arc, circle or straight stretch of a polyline in the user&apos;s plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne, un arc, un cercle ou une partie droite de polyligne dans le plan de l&apos;utilisateur est nécessaire.</translation>
     </message>
     <message>
         <source>Select second object or [Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez le second objet ou [Radius] : </translation>
     </message>
     <message>
         <source>Select second line or [Distance/Angle/Method]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez la seconde ligne ou [Distance/Angle/Method] : </translation>
     </message>
     <message>
         <source>Select first object or [Undo/Polyline/Radius/Trim/Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez le premier objet ou [Undo/Polyline/Radius/Trim/Multiple] : </translation>
     </message>
     <message>
         <source>Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez la première ligne ou [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple] : </translation>
     </message>
     <message>
         <source>
 Nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rien à annuler</translation>
     </message>
     <message>
         <source>
 Current settings: Mode = %1, Radius = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Paramètres courants : Mode = %1, Rayon = %2</translation>
     </message>
     <message>
         <source>
 (%1 mode) Current chamfer Dist1 = %2, Dist2 = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+(mode %1) Chanfrein courant Dist1 = %2, Dist2 = %3</translation>
     </message>
     <message>
         <source>The corner has no room for that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin n&apos;a pas assez de place pour cela.</translation>
     </message>
     <message>
         <source>Only the ends of open polylines, lines and arcs can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les extrémités de polylignes ouvertes, de lignes et d&apos;arcs peuvent être jointes.</translation>
     </message>
     <message>
         <source>Only neighbouring stretches of a polyline make a corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules des parties voisines d&apos;une polyligne forment un coin.</translation>
     </message>
     <message>
         <source>Enter name of block to insert: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du bloc à insérer : </translation>
     </message>
     <message>
         <source>Align block with object?</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner le bloc sur l&apos;objet ?</translation>
     </message>
     <message>
         <source>Select object to divide: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet à diviser : </translation>
     </message>
     <message>
         <source>Enter the number of segments or [Block]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de segments ou [Block] : </translation>
     </message>
     <message>
         <source>Enter the number of segments: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de segments : </translation>
     </message>
     <message>
         <source>The number must be between 2 and %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre doit être compris entre 2 et %1.</translation>
     </message>
     <message>
         <source>Select object to measure: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet à mesurer : </translation>
     </message>
     <message>
         <source>Specify length of segment or [Block]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur du segment ou [Block] : </translation>
     </message>
     <message>
         <source>Specify length of segment: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur du segment : </translation>
     </message>
     <message>
         <source>These would be more than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela en ferait plus de %1.</translation>
     </message>
     <message>
         <source>
 %1 lines joined into 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 lignes jointes en 1 ligne</translation>
     </message>
     <message>
         <source>
 %1 arcs joined into 1 arc</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 arcs joints en 1 arc</translation>
     </message>
     <message>
         <source>
 %1 ellipses joined into 1 ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 ellipses jointes en 1 ellipse</translation>
     </message>
     <message>
         <source>
 %1 objects converted to 1 polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets convertis en 1 polyligne</translation>
     </message>
     <message>
         <source>
 %1 objects converted to 1 spline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets convertis en 1 spline</translation>
     </message>
     <message>
         <source>
 %1 objects discarded from the operation</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets écartés de l&apos;opération</translation>
     </message>
     <message>
         <source>Select source object or multiple objects to join at once: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet source ou plusieurs objets à joindre à la fois : </translation>
     </message>
     <message>
         <source>Select arcs to join to source or [cLose]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez les arcs à joindre à la source ou [cLose] : </translation>
     </message>
     <message>
         <source>Select objects to join: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez les objets à joindre : </translation>
     </message>
     <message>
         <source>
 Current length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Longueur courante : %1</translation>
     </message>
     <message>
         <source>, included angle: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, angle décrit : %1</translation>
     </message>
     <message>
         <source>
 This object cannot be lengthened.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Cet objet ne peut pas être modifié en longueur.</translation>
     </message>
     <message>
         <source>Select an object to change or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet à modifier ou [Undo] : </translation>
     </message>
     <message>
         <source>Specify new endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle extrémité : </translation>
     </message>
     <message>
         <source>
 The object cannot have that length.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;objet ne peut pas avoir cette longueur.</translation>
     </message>
     <message>
         <source>Enter delta length or [Angle] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;écart de longueur ou [Angle] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter delta angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;écart d&apos;angle &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify total length or [Angle] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur totale ou [Angle] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify total angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle total &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter percentage length &lt;100.0000&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la longueur en pour cent &lt;100.0000&gt; : </translation>
     </message>
     <message>
         <source>Select an object to measure or [DElta/Percent/Total/DYnamic]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet à mesurer ou [DElta/Percent/Total/DYnamic] : </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through/Erase/Layer] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la distance de décalage ou [Through/Erase/Layer] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Erase source object after offsetting?</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer l&apos;objet source après le décalage ?</translation>
     </message>
     <message>
         <source>Enter layer option for offset objects [Current/Source]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;option de calque des objets décalés [Current/Source]</translation>
     </message>
     <message>
         <source>Specify through point</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de passage</translation>
     </message>
     <message>
         <source>Specify point on side to offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point du côté à décaler</translation>
     </message>
     <message>
         <source> or [Exit/Undo] &lt;next object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation> ou [Exit/Undo] &lt;objet suivant&gt; : </translation>
     </message>
     <message>
         <source> or [Exit/Multiple/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation> ou [Exit/Multiple/Undo] &lt;Exit&gt; : </translation>
     </message>
     <message>
         <source>Cannot offset that object so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet objet ne peut pas être décalé d&apos;autant.</translation>
     </message>
     <message>
         <source>
 Select object to offset or [Exit/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez l&apos;objet à décaler ou [Exit/Undo] &lt;Exit&gt; : </translation>
     </message>
     <message>
         <source>Cannot offset that object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet objet ne peut pas être décalé.</translation>
     </message>
     <message>
         <source>Enter property to ignore [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la propriété à ignorer [%1]</translation>
     </message>
     <message>
         <source>Enter an option to change [Done/Ignore/Tolerance/Overlaps/Endtoend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option à modifier [Done/Ignore/Tolerance/Overlaps/Endtoend]</translation>
     </message>
     <message>
         <source>Specify tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la tolérance</translation>
     </message>
     <message>
         <source>Combine lines and arcs that overlap?</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunir les lignes et arcs qui se recouvrent ?</translation>
     </message>
     <message>
         <source>Combine lines and arcs that meet end to end?</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunir les lignes et arcs qui se touchent bout à bout ?</translation>
     </message>
     <message>
         <source>
 %1 duplicate(s) deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 doublon(s) supprimé(s)</translation>
     </message>
     <message>
         <source>
 %1 overlapping object(s) or segment(s) deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objet(s) ou segment(s) se recouvrant supprimé(s)</translation>
     </message>
     <message>
         <source>
 Select polyline or [Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez une polyligne ou [Multiple] : </translation>
     </message>
     <message>
         <source>Object selected is not a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet sélectionné n&apos;est pas une polyligne.</translation>
     </message>
     <message>
         <source>
 Object selected is not a polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;objet sélectionné n&apos;est pas une polyligne</translation>
     </message>
     <message>
         <source>Do you want to turn it into one?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous le transformer en polyligne ?</translation>
     </message>
     <message>
         <source>Convert Lines, Arcs and Splines to polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir les lignes, arcs et splines en polylignes</translation>
     </message>
     <message>
         <source>
 Splines do not become part of a polyline: %1 left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les splines ne deviennent pas partie d&apos;une polyligne : %1 omises.</translation>
     </message>
     <message>
         <source>
 %1 segments added to polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 segments ajoutés à la polyligne</translation>
     </message>
     <message>
         <source>Enter fuzz distance or [Jointype] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la distance d&apos;approximation ou [Jointype] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter a vertex join type [Extend/Add/Both]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de jonction des sommets [Extend/Add/Both]</translation>
     </message>
     <message>
         <source>
 %1 segments added to %2 polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 segments ajoutés à %2 polylignes</translation>
     </message>
     <message>
         <source>Specify new width for all segments: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle largeur de tous les segments : </translation>
     </message>
     <message>
         <source>Enter polyline linetype generation option [ON/OFF]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;option de génération du type de ligne de la polyligne [ON/OFF]</translation>
     </message>
     <message>
         <source>Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo] : </translation>
     </message>
     <message>
         <source>Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo] : </translation>
     </message>
     <message>
         <source>Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo] : </translation>
     </message>
     <message>
         <source>Enter an option [Next/Previous/Go/eXit] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Next/Previous/Go/eXit] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>
 Nothing would be left on one side.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il ne resterait rien d&apos;un côté.</translation>
     </message>
     <message>
         <source>Specify starting width for next segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de départ du segment suivant</translation>
     </message>
     <message>
         <source>Specify ending width for next segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de fin du segment suivant</translation>
     </message>
     <message>
         <source>Specify location for new vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;emplacement du nouveau sommet : </translation>
     </message>
     <message>
         <source>Specify direction of vertex tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la direction de la tangente au sommet : </translation>
     </message>
     <message>
         <source>Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option d&apos;édition de sommet [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Specify new location for marked vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouvel emplacement du sommet marqué : </translation>
     </message>
     <message>
         <source>
 That object is on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Cet objet est sur un calque verrouillé.</translation>
     </message>
     <message>
         <source>
 Cannot %1 this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;est pas possible sur cet objet.</translation>
     </message>
     <message>
         <source>
 Cannot EXTEND this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+EXTEND n&apos;est pas possible sur cet objet.</translation>
     </message>
     <message>
         <source>
 Object does not intersect an edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;objet ne coupe aucune arête.</translation>
     </message>
     <message>
         <source>
 Command has been completely undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La commande a été entièrement annulée.</translation>
     </message>
     <message>
         <source>Specify first fence point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point du trajet : </translation>
     </message>
     <message>
         <source>Specify next fence point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant du trajet ou [Undo] : </translation>
     </message>
     <message>
         <source>Enter a projection option [None/Ucs/View]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de projection [None/Ucs/View]</translation>
     </message>
     <message>
         <source>Enter an implied edge extension mode [Extend/No extend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le mode de prolongement implicite des arêtes [Extend/No extend]</translation>
     </message>
     <message>
         <source>
 Current settings: Projection=%1, Edge=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Paramètres courants : Projection=%1, Côté=%2</translation>
     </message>
     <message>
         <source>
 Select boundary edges ...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez les arêtes limites ...</translation>
     </message>
     <message>
         <source>
 Select cutting edges ...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Select object to extend or [Fence/Crossing/Project/Edge/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet à prolonger ou [Fence/Crossing/Project/Edge/Undo] : </translation>
     </message>
     <message>
         <source>Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet à ajuster ou [Fence/Crossing/Project/Edge/eRase/Undo] : </translation>
     </message>
     <message>
         <source>Specify included angle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle décrit : </translation>
     </message>
     <message>
         <source>Specify end point of arc or [Angle/chord Length]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/chord Length] : </translation>
     </message>
     <message>
         <source>Specify length of chord: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur de la corde : </translation>
     </message>
     <message>
         <source>Specify end point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify center point of arc or [Angle/Direction/Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre de l&apos;arc ou [Angle/Direction/Radius] : </translation>
     </message>
     <message>
         <source>Specify tangent direction for the start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la direction de la tangente au point de départ de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify radius of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le rayon de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify second point of arc or [Center/End]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de l&apos;arc ou [Center/End] : </translation>
     </message>
     <message>
         <source>Specify center point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify start point of arc or [Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ de l&apos;arc ou [Center] : </translation>
     </message>
     <message>
         <source>No line or arc to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ni aucun arc à continuer.</translation>
     </message>
     <message>
         <source>Specify start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ de l&apos;arc : </translation>
     </message>
     <message>
         <source>There is no such arc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tel arc n&apos;existe pas.</translation>
     </message>
     <message>
         <source>Specify first end point of circle&apos;s diameter: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la première extrémité du diamètre du cercle : </translation>
     </message>
     <message>
         <source>Specify second end point of circle&apos;s diameter: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la seconde extrémité du diamètre du cercle : </translation>
     </message>
     <message>
         <source>Specify first point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point du cercle : </translation>
     </message>
     <message>
         <source>Specify second point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point du cercle : </translation>
     </message>
     <message>
         <source>Specify third point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le troisième point du cercle : </translation>
     </message>
     <message>
         <source>Circle does not exist: the points lie in one line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle n&apos;existe pas : les points sont alignés.</translation>
     </message>
     <message>
         <source>Specify diameter of circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le diamètre du cercle</translation>
     </message>
     <message>
         <source>Specify point on object for first tangent of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur l&apos;objet pour la première tangente du cercle : </translation>
     </message>
     <message>
         <source>Specify point on object for second tangent of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur l&apos;objet pour la seconde tangente du cercle : </translation>
     </message>
     <message>
         <source>Requires a line, an arc or a circle in the user&apos;s plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne, un arc ou un cercle dans le plan de l&apos;utilisateur est nécessaire.</translation>
     </message>
     <message>
         <source>Specify radius of circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le rayon du cercle</translation>
     </message>
     <message>
         <source>Circle does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle n&apos;existe pas.</translation>
     </message>
     <message>
         <source>Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre du cercle ou [3P/2P/Ttr (tan tan radius)] : </translation>
     </message>
     <message>
         <source>Specify radius of circle or [Diameter]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le rayon du cercle ou [Diameter]</translation>
     </message>
     <message>
         <source>Circle does not exist: the points are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle n&apos;existe pas : les points n&apos;en font qu&apos;un.</translation>
     </message>
     <message>
         <source>Specify through point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de passage : </translation>
     </message>
     <message>
         <source>Select a line object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une ligne : </translation>
     </message>
     <message>
         <source>Requires a line, a ray or a straight part of a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ligne, une demi-droite ou une partie droite de polyligne est nécessaire.</translation>
     </message>
     <message>
         <source>Enter angle of xline (%1) or [Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;angle de la droite (%1) ou [Reference] : </translation>
     </message>
     <message>
         <source>Enter angle of xline &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;angle de la droite &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify angle vertex point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le sommet de l&apos;angle : </translation>
     </message>
     <message>
         <source>Specify angle start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ de l&apos;angle : </translation>
     </message>
     <message>
         <source>Specify angle end point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de fin de l&apos;angle : </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la distance de décalage ou [Through] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify side to offset: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le côté à décaler : </translation>
     </message>
     <message>
         <source>Specify a point or [Hor/Ver/Ang/Bisect/Offset]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point ou [Hor/Ver/Ang/Bisect/Offset] : </translation>
     </message>
     <message>
         <source>Length of line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur de la ligne : </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant ou [Close/Undo] : </translation>
     </message>
     <message>
         <source>Specify a point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point : </translation>
     </message>
     <message>
         <source>Specify distance to other axis or [Rotation]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la distance à l&apos;autre axe ou [Rotation] : </translation>
     </message>
     <message>
         <source>Specify rotation around major axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la rotation autour du grand axe : </translation>
     </message>
     <message>
         <source>An ellipse is turned by 0 to 89.4 degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ellipse est tournée de 0 à 89.4 degrés.</translation>
     </message>
     <message>
         <source>Specify center of ellipse: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre de l&apos;ellipse : </translation>
     </message>
     <message>
         <source>Specify endpoint of axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;axe : </translation>
     </message>
     <message>
         <source>Specify other endpoint of axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;autre extrémité de l&apos;axe : </translation>
     </message>
     <message>
         <source>The endpoints of the axis are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les extrémités de l&apos;axe n&apos;en font qu&apos;une.</translation>
     </message>
     <message>
         <source>Specify end parameter or [Angle/Included angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le paramètre de fin ou [Angle/Included angle] : </translation>
     </message>
     <message>
         <source>Specify end angle or [Parameter/Included angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de fin ou [Parameter/Included angle] : </translation>
     </message>
     <message>
         <source>Specify start parameter or [Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le paramètre de départ ou [Angle] : </translation>
     </message>
     <message>
         <source>Specify start angle or [Parameter]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de départ ou [Parameter] : </translation>
     </message>
     <message>
         <source>Specify included angle for arc &lt;180&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle décrit par l&apos;arc &lt;180&gt; : </translation>
     </message>
     <message>
         <source>Specify axis endpoint of ellipse or [Arc/Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité d&apos;axe de l&apos;ellipse ou [Arc/Center] : </translation>
     </message>
     <message>
         <source>Specify axis endpoint of elliptical arc or [Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité d&apos;axe de l&apos;arc elliptique ou [Center] : </translation>
     </message>
     <message>
         <source>Specify third point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le troisième point : </translation>
     </message>
     <message>
         <source>Specify fourth point or &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le quatrième point ou &lt;quitter&gt; : </translation>
     </message>
     <message>
         <source>Specify trace width</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur du tracé</translation>
     </message>
     <message>
         <source>Specify first point or [Invisible]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point ou [Invisible] : </translation>
     </message>
     <message>
         <source>Specify second point or [Invisible]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou [Invisible] : </translation>
     </message>
     <message>
         <source>Specify third point or [Invisible] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le troisième point ou [Invisible] &lt;quitter&gt; : </translation>
     </message>
     <message>
         <source>Specify fourth point or [Invisible] &lt;create three-sided face&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le quatrième point ou [Invisible] &lt;créer une face à trois côtés&gt; : </translation>
     </message>
     <message>
         <source>Specify start point of polyline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ de la polyligne : </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Close/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de la ligne ou [Close/Undo] : </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de la ligne ou [Undo] : </translation>
     </message>
     <message>
         <source>
 All segments already undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tous les segments sont déjà annulés.</translation>
     </message>
     <message>
         <source>Enter mline style name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du style de multiligne ou [?] : </translation>
     </message>
     <message>
         <source>Cannot find multiline style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de multiligne &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 Current settings: Justification = %1, Scale = %2, Style = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Paramètres courants : Justification = %1, Échelle = %2, Style = %3</translation>
     </message>
     <message>
         <source>Specify start point or [Justification/Scale/STyle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ ou [Justification/Scale/STyle] : </translation>
     </message>
     <message>
         <source>Enter justification type [Top/Zero/Bottom]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de justification [Top/Zero/Bottom]</translation>
     </message>
     <message>
         <source>Enter mline scale &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;échelle de la multiligne &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter number of sides &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de côtés &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>A polygon has 3 to 1024 sides.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un polygone a de 3 à 1024 côtés.</translation>
     </message>
     <message>
         <source>Specify first endpoint of edge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la première extrémité du côté : </translation>
     </message>
     <message>
         <source>Specify second endpoint of edge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la seconde extrémité du côté : </translation>
     </message>
     <message>
         <source>Enter an option [Inscribed in circle/Circumscribed about circle]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Inscribed in circle/Circumscribed about circle]</translation>
     </message>
     <message>
         <source>Specify radius of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le rayon du cercle : </translation>
     </message>
     <message>
         <source>Specify center of polygon or [Edge]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre du polygone ou [Edge] : </translation>
     </message>
     <message>
         <source>The endpoints of the edge are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les extrémités du côté n&apos;en font qu&apos;une.</translation>
     </message>
     <message>
         <source>Specify inside diameter of donut</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le diamètre intérieur de l&apos;anneau</translation>
     </message>
     <message>
         <source>Specify outside diameter of donut</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le diamètre extérieur de l&apos;anneau</translation>
     </message>
     <message>
         <source>Specify center of donut or &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre de l&apos;anneau ou &lt;quitter&gt; : </translation>
     </message>
     <message>
         <source>Specify direction of chord for arc &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la direction de la corde de l&apos;arc &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [CEnter/Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [CEnter/Radius] : </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/Length]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/Length] : </translation>
     </message>
     <message>
         <source>Specify the tangent direction for the start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la direction de la tangente au point de départ de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify endpoint of the arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle] : </translation>
     </message>
     <message>
         <source>Specify second point on arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de l&apos;arc : </translation>
     </message>
     <message>
         <source>Specify starting half-width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la demi-largeur de départ &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify ending half-width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la demi-largeur de fin &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify starting width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de départ &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify ending width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de fin &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify length of line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur de la ligne : </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width] : </translation>
     </message>
     <message>
         <source>Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant ou [Arc/%1Halfwidth/Length/Undo/Width] : </translation>
     </message>
     <message>
         <source>
 Current line-width is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Specify fillet radius for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le rayon de raccord des rectangles</translation>
     </message>
     <message>
         <source>Specify first chamfer distance for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la première distance de chanfrein des rectangles</translation>
     </message>
     <message>
         <source>Specify second chamfer distance for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la seconde distance de chanfrein des rectangles</translation>
     </message>
     <message>
         <source>Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin ou [Chamfer/Elevation/Fillet/Thickness/Width] : </translation>
     </message>
     <message>
         <source>Specify the elevation for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;élévation des rectangles</translation>
     </message>
     <message>
         <source>Specify thickness for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;épaisseur des rectangles</translation>
     </message>
     <message>
         <source>Specify line width for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur de ligne des rectangles</translation>
     </message>
     <message>
         <source>Enter area of rectangle in current units</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;aire du rectangle dans les unités courantes</translation>
     </message>
     <message>
         <source>Calculate rectangle dimensions based on [Length/Width]</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculer les dimensions du rectangle d&apos;après [Length/Width]</translation>
     </message>
     <message>
         <source>Enter rectangle width</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la largeur du rectangle</translation>
     </message>
     <message>
         <source>Enter rectangle length</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la longueur du rectangle</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Pick points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Pick points] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify other corner point or [Area/Dimensions/Rotation]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;autre coin ou [Area/Dimensions/Rotation] : </translation>
     </message>
     <message>
         <source>Specify length for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur des rectangles</translation>
     </message>
     <message>
         <source>Specify width for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la largeur des rectangles</translation>
     </message>
     <message>
         <source>The corners of a rectangle lie neither above nor beside each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les coins d&apos;un rectangle ne sont ni l&apos;un au-dessus ni l&apos;un à côté de l&apos;autre.</translation>
     </message>
     <message>
         <source>1 loop rejected: it crosses itself or branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 boucle rejetée : elle se croise ou se ramifie.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it crosses itself or branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 boucles rejetées : elles se croisent ou se ramifient.</translation>
     </message>
     <message>
         <source>1 loop rejected: it does not lie in a plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 boucle rejetée : elle n&apos;est pas plane.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it does not lie in a plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 boucles rejetées : elles ne sont pas planes.</translation>
     </message>
     <message>
         <source>1 loop rejected: it encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 boucle rejetée : elle n&apos;entoure rien.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 boucles rejetées : elles n&apos;entourent rien.</translation>
     </message>
     <message>
         <source>1 curve rejected: it is not part of a closed loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 courbe rejetée : elle ne fait pas partie d&apos;une boucle fermée.</translation>
     </message>
     <message>
         <source>%1 curves rejected: it is not part of a closed loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 courbes rejetées : elles ne font pas partie d&apos;une boucle fermée.</translation>
     </message>
     <message>
         <source>1 object rejected: it is no curve.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 objet rejeté : ce n&apos;est pas une courbe.</translation>
     </message>
     <message>
         <source>%1 objects rejected: it is no curve.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 objets rejetés : ce ne sont pas des courbes.</translation>
     </message>
     <message>
         <source>Drawings of R12 have no regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dessins R12 n&apos;ont pas de régions.</translation>
     </message>
     <message>
         <source>
 1 loop extracted.
 1 Region created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+1 boucle extraite.
+1 région créée.</translation>
     </message>
     <message>
         <source>
 %1 loops extracted.
 %1 Regions created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 boucles extraites.
+%1 régions créées.</translation>
     </message>
     <message>
         <source>Specify minimum length of arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur minimale des arcs</translation>
     </message>
     <message>
         <source>Specify maximum length of arc &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la longueur maximale des arcs &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify first corner point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin ou [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt; : </translation>
     </message>
     <message>
         <source>Specify start point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de départ ou [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt; : </translation>
     </message>
     <message>
         <source>Select arc style [Normal/Calligraphy]</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez le style des arcs [Normal/Calligraphy]</translation>
     </message>
     <message>
         <source>Enter name of shape file to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier de formes à charger : </translation>
     </message>
     <message>
         <source>Cannot read shape file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier de formes &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter shape name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la forme : </translation>
     </message>
     <message>
         <source>Cannot find shape &quot;%1&quot;. Load its file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Forme &quot;%1&quot; introuvable. Chargez d&apos;abord son fichier.</translation>
     </message>
     <message>
         <source>Specify height &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la hauteur &lt;1&gt; : </translation>
     </message>
     <message>
         <source>
 Only polylines with the smoothing of splines can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Seules les polylignes lissées en splines peuvent être converties.</translation>
     </message>
     <message>
         <source>Specify first point or [Method/Knots/Object]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point ou [Method/Knots/Object] : </translation>
     </message>
     <message>
         <source>Specify first point or [Method/Degree/Object]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point ou [Method/Degree/Object] : </translation>
     </message>
     <message>
         <source>Enter spline creation method [Fit/CV]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la méthode de création de la spline [Fit/CV]</translation>
     </message>
     <message>
         <source>Enter knot parameterization [Chord/Square root/Uniform]</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le paramétrage des nœuds [Chord/Square root/Uniform]</translation>
     </message>
     <message>
         <source>Enter degree of spline &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le degré de la spline &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter next point or [%1Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le point suivant ou [%1Undo] : </translation>
     </message>
     <message>
         <source>Enter next point or [start Tangency/toLerance]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le point suivant ou [start Tangency/toLerance] : </translation>
     </message>
     <message>
         <source>Enter next point or [%1Fit tolerance/Undo/end Tangency] &lt;start tangent&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le point suivant ou [%1Fit tolerance/Undo/end Tangency] &lt;tangente de départ&gt; : </translation>
     </message>
     <message>
         <source>
 All points already undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tous les points sont déjà annulés.</translation>
     </message>
     <message>
         <source>Specify start tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la tangente de départ : </translation>
     </message>
     <message>
         <source>Specify end tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la tangente de fin : </translation>
     </message>
     <message>
         <source>Specify fit tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la tolérance de lissage</translation>
     </message>
     <message>
         <source>Specify tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la tangente : </translation>
     </message>
     <message>
         <source>Specify first source point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point source : </translation>
     </message>
     <message>
         <source>Specify first destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de destination : </translation>
     </message>
     <message>
         <source>Specify second source point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le deuxième point source : </translation>
     </message>
     <message>
         <source>Specify second destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le deuxième point de destination : </translation>
     </message>
     <message>
         <source>Specify third source point or &lt;continue&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le troisième point source ou &lt;continuer&gt; : </translation>
     </message>
     <message>
         <source>Specify third destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le troisième point de destination : </translation>
     </message>
     <message>
         <source>Scale objects based on alignment points? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre les objets à l&apos;échelle d&apos;après les points d&apos;alignement ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>The points say no direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points ne donnent aucune direction.</translation>
     </message>
     <message>
         <source>Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de l&apos;axe ou définissez l&apos;axe par [Xaxis/Yaxis/Zaxis/2points] : </translation>
     </message>
     <message>
         <source>Specify a point on the %1 axis &lt;0,0,0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur l&apos;axe %1 &lt;0,0,0&gt; : </translation>
     </message>
     <message>
         <source>Specify first point on axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de l&apos;axe : </translation>
     </message>
     <message>
         <source>Specify second point on axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de l&apos;axe : </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Reference] : </translation>
     </message>
     <message>
         <source>Specify the distance between columns (|||): </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la distance entre les colonnes (|||) : </translation>
     </message>
     <message>
         <source>
 Enter the distance between rows or specify unit cell (---): </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Entrez la distance entre les rangées ou spécifiez une cellule (---) : </translation>
     </message>
     <message>
         <source>Enter the number of rows (---) &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de rangées (---) &lt;1&gt; : </translation>
     </message>
     <message>
         <source>Enter the number of columns (|||) &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de colonnes (|||) &lt;1&gt; : </translation>
     </message>
     <message>
         <source>One-element array, nothing to do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau d&apos;un seul élément, rien à faire.</translation>
     </message>
     <message>
         <source>Requires a distance other than 0, or two corners of a cell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une distance autre que 0 ou deux coins d&apos;une cellule sont nécessaires.</translation>
     </message>
     <message>
         <source>Enter the number of items in the array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre d&apos;éléments du réseau : </translation>
     </message>
     <message>
         <source>Specify the angle to fill (+=ccw, -=cw) &lt;360&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle à décrire (+=sens trigonométrique, -=sens horaire) &lt;360&gt; : </translation>
     </message>
     <message>
         <source>Angle between items: </source>
-        <translation type="unfinished"></translation>
+        <translation>Angle entre les éléments : </translation>
     </message>
     <message>
         <source>Specify center point of array or [Base]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre du réseau ou [Base] : </translation>
     </message>
     <message>
         <source>Specify base point of objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base des objets : </translation>
     </message>
     <message>
         <source>Specify center point of array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre du réseau : </translation>
     </message>
     <message>
         <source>Requires a number of items or an angle between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre d&apos;éléments ou un angle entre eux est nécessaire.</translation>
     </message>
     <message>
         <source>Rotate arrayed objects? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Faire pivoter les objets du réseau ? [Yes/No] &lt;Y&gt; : </translation>
     </message>
     <message>
         <source>Enter the type of array [Rectangular/Polar] &lt;R&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de réseau [Rectangular/Polar] &lt;R&gt; : </translation>
     </message>
     <message>
         <source>Enter property to change [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la propriété à modifier [%1] : </translation>
     </message>
     <message>
         <source>Specify change point or [Properties]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de modification ou [Properties] : </translation>
     </message>
     <message>
         <source>Enter new text style &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau style de texte &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify new rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouvel angle de rotation &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new text &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau texte &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new tag &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle étiquette &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new prompt &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle invite &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new default value &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle valeur par défaut &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify new text insertion point &lt;no change&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouveau point d&apos;insertion du texte &lt;aucun changement&gt; : </translation>
     </message>
     <message>
         <source>Specify new block insertion point &lt;no change&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouveau point d&apos;insertion du bloc &lt;aucun changement&gt; : </translation>
     </message>
     <message>
         <source>Specify new block rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouvel angle de rotation du bloc &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 %1 not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non modifiés.</translation>
     </message>
     <message>
         <source>Enter object ordering option [Above objects/Under objects/Front/Back] &lt;Back&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option d&apos;ordre des objets [Above objects/Under objects/Front/Back] &lt;Back&gt; : </translation>
     </message>
     <message>
         <source>Enter number of items to array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre d&apos;éléments du réseau : </translation>
     </message>
     <message>
         <source>Requires an integer of 2 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier d&apos;au moins 2 est nécessaire.</translation>
     </message>
     <message>
         <source>Specify second point or [Fit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou [Fit] : </translation>
     </message>
     <message>
         <source>Specify second point or [Array] &lt;use first point as displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou [Array] &lt;utiliser le premier point comme déplacement&gt; : </translation>
     </message>
     <message>
         <source>Specify second point or [Array/Exit/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou [Array/Exit/Undo] &lt;Exit&gt; : </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement/mOde] &lt;Displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base ou [Displacement/mOde] &lt;Displacement&gt; : </translation>
     </message>
     <message>
         <source>Enter a copy mode option [Single/Multiple] &lt;Multiple&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de mode de copie [Single/Multiple] &lt;Multiple&gt; : </translation>
     </message>
     <message>
         <source>
 Current positive angle in UCS:  ANGDIR=%1  ANGBASE=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Angle positif courant dans le SCU :  ANGDIR=%1  ANGBASE=%2</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Copy/Reference] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Copy/Reference] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 Rotating a copy of the selected objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rotation d&apos;une copie des objets sélectionnés.</translation>
     </message>
     <message>
         <source>Specify scale factor or [Copy/Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur d&apos;échelle ou [Copy/Reference] : </translation>
     </message>
     <message>
         <source>
 Scaling a copy of the selected objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation>
     </message>
     <message>
         <source>Requires three numbers from 0 to 255.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois nombres de 0 à 255 sont nécessaires.</translation>
     </message>
     <message>
         <source>A drawing of this version has no such colors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de telles couleurs.</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle couleur [Truecolor/COlorbook] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Red,Green,Blue: </source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge,Vert,Bleu : </translation>
     </message>
     <message>
         <source>This program has no color books.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce programme n&apos;a pas de nuanciers.</translation>
     </message>
     <message>
         <source>Requires a color number from 1 to 255 or a color name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un numéro de couleur de 1 à 255 ou un nom de couleur est nécessaire.</translation>
     </message>
     <message>
         <source>Enter new layer name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau nom de calque &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new linetype name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau nom de type de ligne &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Cannot find linetype &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de ligne &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Specify new linetype scale &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle échelle du type de ligne &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new lineweight &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle épaisseur de ligne &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>A drawing of this version has no lineweights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas d&apos;épaisseurs de ligne.</translation>
     </message>
     <message>
         <source>Requires a lineweight from 0 to 2.11.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une épaisseur de ligne de 0 à 2.11 est nécessaire.</translation>
     </message>
     <message>
         <source>Specify new thickness &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle épaisseur &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter new transparency value &lt;ByLayer&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle valeur de transparence &lt;ByLayer&gt; : </translation>
     </message>
     <message>
         <source>A drawing of this version has no transparency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de transparence.</translation>
     </message>
     <message>
         <source>Requires an integer from 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier de 0 à 90 est nécessaire.</translation>
     </message>
     <message>
         <source>Specify new elevation &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle élévation &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 %1 of the pieces could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 des morceaux n&apos;ont pas pu être créés.</translation>
     </message>
     <message>
         <source>Specify stretch point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point d&apos;étirement ou [Base point/Copy/Undo/eXit] : </translation>
     </message>
     <message>
         <source>Specify move point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de déplacement ou [Base point/Copy/Undo/eXit] : </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Base point/Copy/Undo/Reference/eXit] : </translation>
     </message>
     <message>
         <source>Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le facteur d&apos;échelle ou [Base point/Copy/Undo/Reference/eXit] : </translation>
     </message>
     <message>
         <source>Specify second point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou [Base point/Copy/Undo/eXit] : </translation>
     </message>
     <message>
         <source> (multiple)</source>
-        <translation type="unfinished"></translation>
+        <translation> (multiple)</translation>
     </message>
     <message>
         <source>Specify grips to move: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez les poignées à déplacer : </translation>
     </message>
     <message>
         <source>There is no grip of the chosen entities.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les objets choisis n&apos;ont pas une telle poignée.</translation>
     </message>
     <message>
         <source>
 There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a rien à annuler.</translation>
     </message>
     <message>
         <source>Enter a setting to switch off or on [%1] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un paramètre à désactiver ou activer [%1] &lt;quitter&gt; : </translation>
     </message>
     <message>
         <source>
 %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 est %2.</translation>
     </message>
     <message>
         <source>Select source object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet source : </translation>
     </message>
     <message>
         <source>
 Current active settings:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Paramètres actifs :  </translation>
     </message>
     <message>
         <source>Select destination object(s) or [Settings]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez les objets de destination ou [Settings] : </translation>
     </message>
     <message>
         <source>
 %1 selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 sélectionnés.</translation>
     </message>
     <message>
         <source>Specify first point of mirror line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point de la ligne de miroir : </translation>
     </message>
     <message>
         <source>Specify second point of mirror line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point de la ligne de miroir : </translation>
     </message>
     <message>
         <source>Erase source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les objets source ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>Specify first point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point du plan de miroir : </translation>
     </message>
     <message>
         <source>Specify second point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le deuxième point du plan de miroir : </translation>
     </message>
     <message>
         <source>Specify third point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le troisième point du plan de miroir : </translation>
     </message>
     <message>
         <source>Specify point on %1 plane &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur le plan %1 &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier point du plan de miroir (3 points) ou [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt; : </translation>
     </message>
     <message>
         <source>Specify point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point du plan de miroir : </translation>
     </message>
     <message>
         <source>Specify point on Z-axis (normal) of mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur l&apos;axe Z (normale) du plan de miroir : </translation>
     </message>
     <message>
         <source>Specify point on view plane &lt;0,0,0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur le plan de vue &lt;0,0,0&gt; : </translation>
     </message>
     <message>
         <source>The points say no plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points ne donnent aucun plan.</translation>
     </message>
     <message>
         <source>Delete source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les objets source ? [Yes/No] &lt;N&gt; : </translation>
     </message>
     <message>
         <source>The sheet has no viewport.</source>
-        <translation type="unfinished"></translation>
+        <translation>La feuille n&apos;a pas de fenêtre.</translation>
     </message>
     <message>
         <source>
 %1 object(s) changed from MODEL space to PAPER space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objet(s) passé(s) de l&apos;espace OBJET à l&apos;espace PAPIER.</translation>
     </message>
     <message>
         <source>
 %1 object(s) changed from PAPER space to MODEL space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objet(s) passé(s) de l&apos;espace PAPIER à l&apos;espace OBJET.</translation>
     </message>
     <message>
         <source>
 Objects were scaled by a factor of %1 to maintain visual appearance.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les objets ont été mis à l&apos;échelle d&apos;un facteur %1 pour garder leur apparence.</translation>
     </message>
     <message>
         <source>Only a layout has both spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seule une présentation a les deux espaces.</translation>
     </message>
     <message>
         <source>
 Select objects to stretch by crossing-window or crossing-polygon...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez les objets à étirer par une fenêtre ou un polygone de capture...</translation>
     </message>
     <message>
         <source>Enter name of customization file to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier de personnalisation à charger : </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: there are no menu files here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; n&apos;a pas été chargé : il n&apos;y a pas de fichiers de menu ici.</translation>
     </message>
     <message>
         <source>Enter name of customization group to unload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du groupe de personnalisation à décharger : </translation>
     </message>
     <message>
         <source>
 There is no customization group &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a pas de groupe de personnalisation &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name of assembly to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de l&apos;assemblage à charger : </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: programs for other hosts do not run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; n&apos;a pas été chargé : les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Unload/Commands/Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Load/Unload/Commands/Options] : </translation>
     </message>
     <message>
         <source>Enter name of application file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier d&apos;application : </translation>
     </message>
     <message>
         <source>
 Programs for other hosts do not run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici.</translation>
     </message>
     <message>
         <source>Enter delay time (in milliseconds): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le délai (en millisecondes) : </translation>
     </message>
     <message>
         <source>Fix any errors detected? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger les erreurs détectées ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>
 Total errors found %1 fixed %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Total des erreurs trouvées %1 corrigées %2</translation>
     </message>
     <message>
         <source>
 Save the drawing and open it with --recover: that mends the others.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Enregistrez le dessin et ouvrez-le avec --recover : cela répare les autres.</translation>
     </message>
     <message>
         <source>Enter name of drawing to open: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du dessin à ouvrir : </translation>
     </message>
     <message>
         <source>Enter template file name or [. (for none)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier gabarit ou [. (for none)] &lt;.&gt; : </translation>
     </message>
     <message>
         <source>Cannot find template &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gabarit &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Save changes to %1? [Yes/No/Cancel] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications de %1 ? [Yes/No/Cancel] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>Really want to discard all changes to drawing? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment abandonner toutes les modifications du dessin ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>another version</source>
-        <translation type="unfinished"></translation>
+        <translation>une autre version</translation>
     </message>
     <message>
         <source>This drawing is of %1, and this program writes no drawing in another version: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dessin est de la version %1, et ce programme n&apos;écrit aucun dessin dans une autre version : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] &lt;16&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de décimales (0 à 16) ou [Objects/Binary/Version] &lt;16&gt; : </translation>
     </message>
     <message>
         <source>Enter version [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la version [%1] : </translation>
     </message>
     <message>
         <source>This program writes whole drawings with all decimal places: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce programme écrit des dessins entiers avec toutes les décimales : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Save drawing as, or enter file format [%1/DXF] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le dessin sous, ou entrez un format de fichier [%1/DXF] &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Save drawing as &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le dessin sous &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 The rest of the script that called it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le reste du script qui l&apos;a appelé est omis.</translation>
     </message>
     <message>
         <source>
 Too many scripts wait to be run: &quot;%1&quot; is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Trop de scripts attendent leur exécution : &quot;%1&quot; est omis.</translation>
     </message>
     <message>
         <source>Enter script file name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier de script : </translation>
     </message>
     <message>
         <source>
 Cannot read script &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossible de lire le script &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot read script &quot;%1&quot;: %2 (the limit is %3 MB).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossible de lire le script &quot;%1&quot; : %2 (la limite est de %3 Mo).</translation>
     </message>
     <message>
         <source>No script has been run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun script n&apos;a été exécuté.</translation>
     </message>
     <message>
         <source>%1 [Yes/No] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 [Yes/No] &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Enter a layout name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un nom de présentation</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter an output device name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom d&apos;un périphérique de sortie</translation>
     </message>
     <message>
         <source>There is no device &quot;%1&quot;: plots are files of PDF, PNG or SVG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de périphérique &quot;%1&quot; : les tracés sont des fichiers PDF, PNG ou SVG.</translation>
     </message>
     <message>
         <source>Enter paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le format de papier</translation>
     </message>
     <message>
         <source>There is no paper size &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de format de papier &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter paper units [Inches/Millimeters] &lt;Millimeters&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les unités de papier [Inches/Millimeters] &lt;Millimeters&gt; : </translation>
     </message>
     <message>
         <source>Enter drawing orientation [Portrait/Landscape] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;orientation du dessin [Portrait/Landscape] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Plot upside down?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer tête en bas ?</translation>
     </message>
     <message>
         <source>
 Plots stand upright here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les tracés sont droits ici.</translation>
     </message>
     <message>
         <source>Enter lower left corner of window &lt;0.000000,0.000000&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le coin inférieur gauche de la fenêtre &lt;0.000000,0.000000&gt; : </translation>
     </message>
     <message>
         <source>Enter upper right corner of window: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le coin supérieur droit de la fenêtre : </translation>
     </message>
     <message>
         <source>Enter plot area [%1] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la zone de tracé [%1] &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Enter view name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la vue : </translation>
     </message>
     <message>
         <source>Cannot find view &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;échelle de tracé (millimètres tracés=unités de dessin) ou [Fit] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no plot scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas une échelle de tracé.</translation>
     </message>
     <message>
         <source>Enter plot offset (x,y) or [Center] &lt;Center&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le décalage du tracé (x,y) ou [Center] &lt;Center&gt; : </translation>
     </message>
     <message>
         <source>Plot with plot styles?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer avec des styles de tracé ?</translation>
     </message>
     <message>
         <source>Enter plot style table name</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la table de styles de tracé</translation>
     </message>
     <message>
         <source>Plot with lineweights?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer avec les épaisseurs de ligne ?</translation>
     </message>
     <message>
         <source>Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le paramètre de tracé ombré [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt; : </translation>
     </message>
     <message>
         <source>Scale lineweights with plot scale?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre les épaisseurs de ligne à l&apos;échelle du tracé ?</translation>
     </message>
     <message>
         <source>Plot paper space first?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer d&apos;abord l&apos;espace papier ?</translation>
     </message>
     <message>
         <source>Hide paperspace objects?</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer les objets de l&apos;espace papier ?</translation>
     </message>
     <message>
         <source>Enter file name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Save changes to page setup?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications dans la mise en page ?</translation>
     </message>
     <message>
         <source>Proceed with plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer le tracé</translation>
     </message>
     <message>
         <source>Enter a page setup name &lt;&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un nom de mise en page &lt;&gt; : </translation>
     </message>
     <message>
         <source>Detailed plot configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration détaillée du tracé ?</translation>
     </message>
     <message>
         <source>
 Plotted to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tracé dans %1.</translation>
     </message>
     <message>
         <source>Cannot find plot style table &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Table de styles de tracé &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 Some of what the drawing holds is not drawn, or in part.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Une partie du contenu du dessin n&apos;est pas dessinée, ou seulement en partie.</translation>
     </message>
     <message>
         <source>Purge %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Purger %1 &quot;%2&quot; ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>
 Deleting %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Suppression : %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name(s) to purge &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms à purger &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Verify each name to be purged? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier chaque nom à purger ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>
 Nothing unreferenced found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rien de non référencé n&apos;a été trouvé.</translation>
     </message>
     <message>
         <source>
 %1 orphaned objects deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets orphelins supprimés.</translation>
     </message>
     <message>
         <source>
 %1 entities without length deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets sans longueur supprimés.</translation>
     </message>
     <message>
         <source>
 %1 empty texts deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 textes vides supprimés.</translation>
     </message>
     <message>
         <source>
 No unreferenced %1 found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rien de non référencé n&apos;a été trouvé : %1.</translation>
     </message>
     <message>
         <source>Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type d&apos;objets inutilisés à purger [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All] : </translation>
     </message>
     <message>
         <source>block</source>
-        <translation type="unfinished"></translation>
+        <translation>bloc</translation>
     </message>
     <message>
         <source>dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de cote</translation>
     </message>
     <message>
         <source>layer</source>
-        <translation type="unfinished"></translation>
+        <translation>calque</translation>
     </message>
     <message>
         <source>linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>type de ligne</translation>
     </message>
     <message>
         <source>material</source>
-        <translation type="unfinished"></translation>
+        <translation>matériau</translation>
     </message>
     <message>
         <source>multileader style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de repère multiple</translation>
     </message>
     <message>
         <source>text style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de texte</translation>
     </message>
     <message>
         <source>table style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de tableau</translation>
     </message>
     <message>
         <source>UCS</source>
-        <translation type="unfinished"></translation>
+        <translation>SCU</translation>
     </message>
     <message>
         <source>view</source>
-        <translation type="unfinished"></translation>
+        <translation>vue</translation>
     </message>
     <message>
         <source>viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>fenêtre</translation>
     </message>
     <message>
         <source>layout</source>
-        <translation type="unfinished"></translation>
+        <translation>présentation</translation>
     </message>
     <message>
         <source>Enter object type to rename [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type d&apos;objet à renommer [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort] : </translation>
     </message>
     <message>
         <source>Enter old %1 name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;ancien nom (%1) : </translation>
     </message>
     <message>
         <source>Enter new %1 name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau nom (%1) : </translation>
     </message>
     <message>
         <source>Enter command name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la commande : </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande inconnue &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 is a command already.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 est déjà une commande.</translation>
     </message>
     <message>
         <source>
 Saved to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Enregistré dans %1.</translation>
     </message>
     <message>
         <source>Save all the same, or under another name? [Anyway/Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer quand même, ou sous un autre nom ? [Anyway/Name/Cancel] &lt;Cancel&gt; : </translation>
     </message>
     <message>
         <source>Save under another name? [Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous un autre nom ? [Name/Cancel] &lt;Cancel&gt; : </translation>
     </message>
     <message>
         <source>Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Save drawing as: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le dessin sous : </translation>
     </message>
     <message>
         <source>%1 cannot be set to that value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas prendre cette valeur.</translation>
     </message>
     <message>
         <source>Enter mode [ON/OFF] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le mode [ON/OFF] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify horizontal spacing(X) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;espacement horizontal (X) &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify vertical spacing(Y) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;espacement vertical (Y) &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify grid spacing(X) or [ON/OFF/Snap/Aspect]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;espacement de la grille (X) ou [ON/OFF/Snap/Aspect]</translation>
     </message>
     <message>
         <source>Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la résolution ou [ON/OFF/Aspect/Rotate/Style/Type]</translation>
     </message>
     <message>
         <source>Specify base point &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter snap grid style [Standard/Isometric] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le style de la grille de résolution [Standard/Isometric] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify vertical spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;espacement vertical</translation>
     </message>
     <message>
         <source>Specify snap spacing or [Aspect]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la résolution ou [Aspect]</translation>
     </message>
     <message>
         <source>Enter snap type [Polar/Grid] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de résolution [Polar/Grid] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter isometric plane setting [Left/Top/Right] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le plan isométrique [Left/Top/Right] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 Current Isoplane: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Plan isométrique courant : </translation>
     </message>
     <message>
         <source>Specify lower left corner or [ON/OFF] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le coin inférieur gauche ou [ON/OFF] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify upper right corner &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le coin supérieur droit &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify new default elevation &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle élévation par défaut &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify new default thickness &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle épaisseur par défaut &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter default object color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la couleur par défaut des objets [Truecolor/COlorbook] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>New objects take colors by number or name here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les nouveaux objets prennent ici leurs couleurs par numéro ou par nom.</translation>
     </message>
     <message>
         <source>
 Everything has been undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tout a été annulé.</translation>
     </message>
     <message>
         <source>Enter UNDO Auto mode [ON/OFF] &lt;ON&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le mode automatique de UNDO [ON/OFF] &lt;ON&gt; : </translation>
     </message>
     <message>
         <source>Enter an UNDO control option [All/None/One/Combine/Layer] &lt;All&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de contrôle de UNDO [All/None/One/Combine/Layer] &lt;All&gt; : </translation>
     </message>
     <message>
         <source>Combine zoom and pan operations? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Combiner les opérations de zoom et de panoramique ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>Combine layer property changes? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Combiner les modifications de propriétés de calques ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>
 Undo is always on.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;annulation est toujours active.</translation>
     </message>
     <message>
         <source>This will undo everything. OK? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sera annulé. OK ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre d&apos;opérations à annuler ou [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt; : </translation>
     </message>
     <message>
         <source>
 There is nothing to redo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a rien à rétablir.</translation>
     </message>
     <message>
         <source>Enter number of actions or [All/Last]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre d&apos;actions ou [All/Last] : </translation>
     </message>
     <message>
         <source>
 There is nothing to bring back.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a rien à ramener.</translation>
     </message>
     <message>
         <source>Enter command name to repeat: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la commande à répéter : </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;: only built-in ones are repeated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande inconnue &quot;%1&quot; : seules les commandes intégrées sont répétées.</translation>
     </message>
     <message>
         <source>Requires an integer between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier entre %1 et %2 est nécessaire.</translation>
     </message>
     <message>
         <source>Enter denominator of smallest fraction to display (1, 2, 4, 8, 16, 32, 64, 128, or 256) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le dénominateur de la plus petite fraction à afficher (1, 2, 4, 8, 16, 32, 64, 128 ou 256) &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Requires a power of two up to 256.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une puissance de deux jusqu&apos;à 256 est nécessaire.</translation>
     </message>
     <message>
         <source>
 Report formats: 1. Scientific  2. Decimal  3. Engineering  4. Architectural  5. Fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Formats : 1. Scientifique  2. Décimal  3. Ingénierie  4. Architecture  5. Fractionnaire</translation>
     </message>
     <message>
         <source>Enter choice, 1 to 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez votre choix, 1 à 5</translation>
     </message>
     <message>
         <source>Enter number of digits to right of decimal point (0 to 8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de décimales (0 à 8)</translation>
     </message>
     <message>
         <source>
 Systems of angle measure: 1. Decimal degrees  2. Degrees/minutes/seconds  3. Grads  4. Radians  5. Surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Mesures d&apos;angle : 1. Degrés décimaux  2. Degrés/minutes/secondes  3. Grades  4. Radians  5. Unités géodésiques</translation>
     </message>
     <message>
         <source>Enter number of fractional places for display of angles (0 to 8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nombre de décimales des angles (0 à 8)</translation>
     </message>
     <message>
         <source>Enter direction for angle 0 &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la direction de l&apos;angle 0 &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Measure angles clockwise? [Yes/No] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Mesurer les angles dans le sens horaire ? [Yes/No] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>
 Current lineweight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Épaisseur de ligne courante : %1</translation>
     </message>
     <message>
         <source>Enter default lineweight for new objects or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;épaisseur de ligne par défaut des nouveaux objets ou [?] : </translation>
     </message>
     <message>
         <source>
 ByLayer, ByBlock, Default, or 0.00 to 2.11 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>
+ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>from point,</source>
-        <translation type="unfinished"></translation>
+        <translation>du point,</translation>
     </message>
     <message>
         <source>  to point,</source>
-        <translation type="unfinished"></translation>
+        <translation>  au point,</translation>
     </message>
     <message>
         <source>Length = %1,  Angle in XY Plane = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur = %1,  Angle dans le plan XY = %2</translation>
     </message>
     <message>
         <source>Delta X = %1, Delta Y = %2, Delta Z = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Delta X = %1, Delta Y = %2, Delta Z = %3</translation>
     </message>
     <message>
         <source>at point,</source>
-        <translation type="unfinished"></translation>
+        <translation>au point,</translation>
     </message>
     <message>
         <source>base point,</source>
-        <translation type="unfinished"></translation>
+        <translation>point de base,</translation>
     </message>
     <message>
         <source>through point,</source>
-        <translation type="unfinished"></translation>
+        <translation>par le point,</translation>
     </message>
     <message>
         <source>center point,</source>
-        <translation type="unfinished"></translation>
+        <translation>centre,</translation>
     </message>
     <message>
         <source>start angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angle de départ</translation>
     </message>
     <message>
         <source>end angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angle de fin</translation>
     </message>
     <message>
         <source>Center:</source>
-        <translation type="unfinished"></translation>
+        <translation>Centre :</translation>
     </message>
     <message>
         <source>Major Axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grand axe :</translation>
     </message>
     <message>
         <source>at point</source>
-        <translation type="unfinished"></translation>
+        <translation>au point</translation>
     </message>
     <message>
         <source>Constant width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur constante</translation>
     </message>
     <message>
         <source>first point</source>
-        <translation type="unfinished"></translation>
+        <translation>premier point</translation>
     </message>
     <message>
         <source>second point</source>
-        <translation type="unfinished"></translation>
+        <translation>deuxième point</translation>
     </message>
     <message>
         <source>third point</source>
-        <translation type="unfinished"></translation>
+        <translation>troisième point</translation>
     </message>
     <message>
         <source>fourth point</source>
-        <translation type="unfinished"></translation>
+        <translation>quatrième point</translation>
     </message>
     <message>
         <source>Control Point:</source>
-        <translation type="unfinished"></translation>
+        <translation>Point de contrôle :</translation>
     </message>
     <message>
         <source>Fit Point:</source>
-        <translation type="unfinished"></translation>
+        <translation>Point de lissage :</translation>
     </message>
     <message>
         <source>alignment point,</source>
-        <translation type="unfinished"></translation>
+        <translation>point d&apos;alignement,</translation>
     </message>
     <message>
         <source>start point,</source>
-        <translation type="unfinished"></translation>
+        <translation>point de départ,</translation>
     </message>
     <message>
         <source>rotation angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angle de rotation</translation>
     </message>
     <message>
         <source>width scale</source>
-        <translation type="unfinished"></translation>
+        <translation>échelle de largeur</translation>
     </message>
     <message>
         <source>obliquing angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angle d&apos;inclinaison</translation>
     </message>
     <message>
         <source>Location:</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement :</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished">Style de texte</translation>
+        <translation>Style de texte</translation>
     </message>
     <message>
         <source>Text height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur du texte</translation>
     </message>
     <message>
         <source>X scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>facteur d&apos;échelle X</translation>
     </message>
     <message>
         <source>Y scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>facteur d&apos;échelle Y</translation>
     </message>
     <message>
         <source>Z scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>facteur d&apos;échelle Z</translation>
     </message>
     <message>
         <source>number of columns</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de colonnes</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de rangées</translation>
     </message>
     <message>
         <source>between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>entre colonnes</translation>
     </message>
     <message>
         <source>between rows</source>
-        <translation type="unfinished"></translation>
+        <translation>entre rangées</translation>
     </message>
     <message>
         <source>arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>longueur d&apos;arc</translation>
     </message>
     <message>
         <source>jogged radius</source>
-        <translation type="unfinished"></translation>
+        <translation>rayon raccourci</translation>
     </message>
     <message>
         <source>defining point:</source>
-        <translation type="unfinished"></translation>
+        <translation>point de définition :</translation>
     </message>
     <message>
         <source>Hatch pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif de hachures</translation>
     </message>
     <message>
         <source>Hatch scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle des hachures</translation>
     </message>
     <message>
         <source>Hatch angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle des hachures</translation>
     </message>
     <message>
         <source>Scale relative to Paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle relative à l&apos;espace papier</translation>
     </message>
     <message>
         <source>Bounding Box: Lower Bound</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre : limite inférieure</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aire :</translation>
     </message>
     <message>
         <source>Perimeter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Périmètre :</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur :</translation>
     </message>
     <message>
         <source>Linetype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de ligne :</translation>
     </message>
     <message>
         <source>Linetype scale</source>
-        <translation type="unfinished">Échelle du type de ligne</translation>
+        <translation>Échelle du type de ligne</translation>
     </message>
     <message>
         <source>Lineweight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur de ligne :</translation>
     </message>
     <message>
         <source>%1  Layer: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  Calque : &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Space:</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace :</translation>
     </message>
     <message>
         <source>Model space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace objet</translation>
     </message>
     <message>
         <source>Paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace papier</translation>
     </message>
     <message>
         <source>Layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation :</translation>
     </message>
     <message>
         <source>Handle =</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificateur =</translation>
     </message>
     <message>
         <source>
 Distance = %1,  Angle in XY Plane = %2,  Angle from XY Plane = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Distance = %1,  Angle dans le plan XY = %2,  Angle depuis le plan XY = %3</translation>
     </message>
     <message>
         <source>
 Delta X = %1,  Delta Y = %2,   Delta Z = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Delta X = %1,  Delta Y = %2,   Delta Z = %3</translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo/Total] &lt;Total&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point suivant ou [Close/Undo/Total] &lt;Total&gt; : </translation>
     </message>
     <message>
         <source>
 Distance = %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Distance = %1</translation>
     </message>
     <message>
         <source>Specify second point or [Multiple points]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point ou [Multiple points] : </translation>
     </message>
     <message>
         <source>%1 days %2:%3:%4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 jours %2:%3:%4</translation>
     </message>
     <message>
         <source>
 Current time:             </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Date, heure :             </translation>
     </message>
     <message>
         <source>
 Times for this drawing:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>
   Created:                </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Création :                </translation>
     </message>
     <message>
         <source>
   Last updated:           </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Mise à jour :           </translation>
     </message>
     <message>
         <source>
   Total editing time:     </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Durée d&apos;édition :     </translation>
     </message>
     <message>
         <source>
   Elapsed timer:          </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Chronomètre :          </translation>
     </message>
     <message>
         <source>
 %1 objects in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets dans %2</translation>
     </message>
     <message>
         <source>Limits are, low</source>
-        <translation type="unfinished"></translation>
+        <translation>Limites, bas</translation>
     </message>
     <message>
         <source>Limits are, high</source>
-        <translation type="unfinished"></translation>
+        <translation>Limites, haut</translation>
     </message>
     <message>
         <source>Uses, low</source>
-        <translation type="unfinished"></translation>
+        <translation>Occupé, bas</translation>
     </message>
     <message>
         <source>Uses, high</source>
-        <translation type="unfinished"></translation>
+        <translation>Occupé, haut</translation>
     </message>
     <message>
         <source>Insertion base is</source>
-        <translation type="unfinished"></translation>
+        <translation>Base d&apos;insertion</translation>
     </message>
     <message>
         <source>Current space:</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace courant :</translation>
     </message>
     <message>
         <source>Current layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque courant :</translation>
     </message>
     <message>
         <source>Current color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur courante :</translation>
     </message>
     <message>
         <source>Current linetype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de ligne courant :</translation>
     </message>
     <message>
         <source>Current elevation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Élévation courante :</translation>
     </message>
     <message>
         <source>Thickness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur :</translation>
     </message>
     <message>
         <source>A drawing of this version has no such property of layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version ne connaît pas cette propriété des calques.</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;7 (white)&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle couleur [Truecolor/COlorbook] &lt;7 (blanc)&gt; : </translation>
     </message>
     <message>
         <source>Enter loaded linetype name or [?] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom d&apos;un type de ligne chargé ou [?] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de ligne &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>linetype &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>type de ligne &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter lineweight (0.0mm - 2.11mm) or [Default]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;épaisseur de ligne (0.0mm - 2.11mm) ou [Default] : </translation>
     </message>
     <message>
         <source>Enter transparency value (0-90): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la valeur de transparence (0-90) : </translation>
     </message>
     <message>
         <source>transparency value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>valeur de transparence %1</translation>
     </message>
     <message>
         <source>Enter material name &lt;Global&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du matériau &lt;Global&gt; : </translation>
     </message>
     <message>
         <source>Cannot find material &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Matériau &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>material &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>matériau &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter a plotting preference [Plot/No plot] &lt;Plot&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une préférence de tracé [Plot/No plot] &lt;Plot&gt; : </translation>
     </message>
     <message>
         <source>this plot preference</source>
-        <translation type="unfinished"></translation>
+        <translation>cette préférence de tracé</translation>
     </message>
     <message>
         <source>Enter layer description: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la description du calque : </translation>
     </message>
     <message>
         <source>this description</source>
-        <translation type="unfinished"></translation>
+        <translation>cette description</translation>
     </message>
     <message>
         <source>This program keeps no named plot styles: nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce programme ne conserve pas de styles de tracé nommés : rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>
 No matching layer names found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun nom de calque correspondant trouvé.</translation>
     </message>
     <message>
         <source>
 Cannot freeze layer &quot;%1&quot;. It is the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossible de geler le calque &quot;%1&quot;. C&apos;est le calque courant.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn on: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à activer : </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn off: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à désactiver : </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to freeze: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à geler : </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to thaw: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à dégeler : </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to lock: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à verrouiller : </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to unlock: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à déverrouiller : </translation>
     </message>
     <message>
         <source>Really want layer &quot;%1&quot; (the CURRENT layer) off? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment désactiver le calque &quot;%1&quot; (le calque COURANT) ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un calque.</translation>
     </message>
     <message>
         <source>Cannot make layer &quot;%1&quot; current: it is frozen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rendre courant le calque &quot;%1&quot; : il est gelé.</translation>
     </message>
     <message>
         <source>Enter name for new layer (becomes the current layer) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du nouveau calque (qui devient le calque courant) &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Enter layer name to make current or &lt;select object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du calque à rendre courant ou &lt;sélectionner un objet&gt; : </translation>
     </message>
     <message>
         <source>Enter name list for new layer(s): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des nouveaux calques : </translation>
     </message>
     <message>
         <source>Enter old layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;ancien nom du calque : </translation>
     </message>
     <message>
         <source>Enter layer name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des calques à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>
 Layer name  State  Color  Linetype  Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nom du calque  État  Couleur  Type de ligne  Épaisseur</translation>
     </message>
     <message>
         <source>
 Current layer:  &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Calque courant :  &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to reconcile: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques à rapprocher : </translation>
     </message>
     <message>
         <source>
 No unreconciled layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun calque non rapproché.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) for %1 &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des noms des calques pour %1 &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Enter an option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile] : </translation>
     </message>
     <message>
         <source>
 States to restore: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+États à restaurer : </translation>
     </message>
     <message>
         <source>Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les états à modifier [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency] : </translation>
     </message>
     <message>
         <source>
 No layer states.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun état de calques.</translation>
     </message>
     <message>
         <source>
 Layer states: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+États de calques : </translation>
     </message>
     <message>
         <source>Cannot find layer state &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>État de calques &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter new layer state name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du nouvel état de calques : </translation>
     </message>
     <message>
         <source>A drawing of this version keeps no layer states.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version ne conserve pas d&apos;états de calques.</translation>
     </message>
     <message>
         <source>Enter name of layer state to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de l&apos;état de calques à restaurer ou [?] : </translation>
     </message>
     <message>
         <source>Enter name of layer state to edit or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de l&apos;état de calques à modifier ou [?] : </translation>
     </message>
     <message>
         <source>Enter name of layer state to rename or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de l&apos;état de calques à renommer ou [?] : </translation>
     </message>
     <message>
         <source>Layer state &quot;%1&quot; already exists or cannot be one.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;état de calques &quot;%1&quot; existe déjà ou ne peut pas en être un.</translation>
     </message>
     <message>
         <source>Enter name of layer state to delete or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de l&apos;état de calques à supprimer ou [?] : </translation>
     </message>
     <message>
         <source>Enter name of file to import: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier à importer : </translation>
     </message>
     <message>
         <source>No layer state was taken from &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun état de calques n&apos;a été pris dans &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Layer state &quot;%1&quot; imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+État de calques &quot;%1&quot; importé.</translation>
     </message>
     <message>
         <source>Enter name of layer state to export or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de l&apos;état de calques à exporter ou [?] : </translation>
     </message>
     <message>
         <source>Enter name of file to export: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier d&apos;exportation : </translation>
     </message>
     <message>
         <source>Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Save/Restore/Edit/Name/Delete/Import/EXport] : </translation>
     </message>
     <message>
         <source>
 Cannot read linetype file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossible de lire le fichier de types de ligne &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot read linetype file &quot;%1&quot;: %2 (the limit is %3 MB).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossible de lire le fichier de types de ligne &quot;%1&quot; : %2 (la limite est de %3 Mo).</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not loaded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Type de ligne &quot;%1&quot; non chargé : %2.</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Type de ligne &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Set]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Load/Set] : </translation>
     </message>
     <message>
         <source>Specify linetype name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nom du type de ligne : </translation>
     </message>
     <message>
         <source>Enter linetype(s) to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les types de ligne à charger : </translation>
     </message>
     <message>
         <source>Enter name of linetype file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier de types de ligne : </translation>
     </message>
     <message>
         <source>
 No matching linetypes found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun type de ligne correspondant trouvé.</translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; is already loaded. Reload it? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Le type de ligne &quot;%1&quot; est déjà chargé. Le recharger ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>Enter setting for layers not isolated [Off/Lock and fade] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le paramètre des calques non isolés [Off/Lock and fade] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Dans une fenêtre de l&apos;espace papier, utiliser [Vpfreeze/Off] &lt;Vpfreeze&gt; : </translation>
     </message>
     <message>
         <source>Enter fade value (0-90) &lt;50&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la valeur d&apos;estompage (0-90) &lt;50&gt; : </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le calque &quot;%1&quot; a été isolé.</translation>
     </message>
     <message>
         <source>
 %1 layers have been isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 calques ont été isolés.</translation>
     </message>
     <message>
         <source>
 Current setting: Hide layers, Viewports=Vpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Paramètre courant : masquer les calques, Viewports=Vpfreeze</translation>
     </message>
     <message>
         <source>
 Current setting: Lock layers, Fade=50</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Paramètre courant : verrouiller les calques, estompage=50</translation>
     </message>
     <message>
         <source>Select objects on the layer(s) to be isolated or [Settings]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez des objets sur les calques à isoler ou [Settings] : </translation>
     </message>
     <message>
         <source>Nothing was selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n&apos;a été sélectionné.</translation>
     </message>
     <message>
         <source>
 No layers are isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun calque n&apos;est isolé.</translation>
     </message>
     <message>
         <source>
 Layers isolated by LAYISO command have been restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les calques isolés par la commande LAYISO ont été restaurés.</translation>
     </message>
     <message>
         <source>
 There is no previous state of the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a pas d&apos;état précédent des calques.</translation>
     </message>
     <message>
         <source>
 Restored previous layer status.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;état précédent des calques a été restauré.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be frozen or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet sur le calque à geler ou [Settings/Undo] : </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been frozen.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le calque &quot;%1&quot; a été gelé.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be turned off or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet sur le calque à désactiver ou [Settings/Undo] : </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been turned off.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le calque &quot;%1&quot; a été désactivé.</translation>
     </message>
     <message>
         <source>Enter setting type for [Viewports/Block selection]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le type de paramètre pour [Viewports/Block selection] : </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Dans une fenêtre de l&apos;espace papier, utiliser [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt; : </translation>
     </message>
     <message>
         <source>Enter block selection nesting level [Block/Entity/None] &lt;Entity&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le niveau d&apos;imbrication de la sélection de blocs [Block/Entity/None] &lt;Entity&gt; : </translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is current, do you want to turn it off? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Le calque &quot;%1&quot; est courant, voulez-vous le désactiver ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>
 All layers have been turned on.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tous les calques ont été activés.</translation>
     </message>
     <message>
         <source>
 All layers have been thawed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tous les calques ont été dégelés.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be locked: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet sur le calque à verrouiller : </translation>
     </message>
     <message>
         <source>Select an object on the layer to be unlocked: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet sur le calque à déverrouiller : </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le calque &quot;%1&quot; a été verrouillé.</translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been unlocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le calque &quot;%1&quot; a été déverrouillé.</translation>
     </message>
     <message>
         <source>
 One object changed to layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un objet placé sur le calque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 objects changed to layer &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objets placés sur le calque &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Select objects to be changed to the current layer: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez les objets à placer sur le calque courant : </translation>
     </message>
     <message>
         <source>Select objects to be changed: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez les objets à modifier : </translation>
     </message>
     <message>
         <source>Select object on destination layer or [Name]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet du calque de destination ou [Name] : </translation>
     </message>
     <message>
         <source>Enter layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du calque : </translation>
     </message>
     <message>
         <source>Select object whose layer will become current: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet dont le calque deviendra courant : </translation>
     </message>
     <message>
         <source>
 %1 is now the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 est maintenant le calque courant.</translation>
     </message>
     <message>
         <source>This command works through a viewport of a sheet: MSPACE goes into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette commande travaille à travers une fenêtre d&apos;une feuille : MSPACE y entre.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be isolated in viewport or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet sur le calque à isoler dans la fenêtre ou [Settings/Undo] : </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been frozen in all viewports but the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le calque &quot;%1&quot; a été gelé dans toutes les fenêtres sauf la fenêtre courante.</translation>
     </message>
     <message>
         <source>
 Selected layers: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Calques sélectionnés : %1.</translation>
     </message>
     <message>
         <source>Do you wish to continue? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous continuer ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>Select object on layer to delete or %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet du calque à supprimer ou %1 : </translation>
     </message>
     <message>
         <source>Enter layer name to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du calque à supprimer : </translation>
     </message>
     <message>
         <source>All that is on layer(s) %1 is erased, and the layers are deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui est sur les calques %1 est effacé, et les calques sont supprimés.</translation>
     </message>
     <message>
         <source>
 %1 layer(s) deleted with %2 object(s).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 calque(s) supprimé(s) avec %2 objet(s).</translation>
     </message>
     <message>
         <source>Select object on layer to merge or %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet du calque à fusionner ou %1 : </translation>
     </message>
     <message>
         <source>Enter layer name to merge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du calque à fusionner : </translation>
     </message>
     <message>
         <source>Select object on target layer or [Name]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet du calque cible ou [Name] : </translation>
     </message>
     <message>
         <source>You are about to merge %1 layer(s) into layer &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous allez fusionner %1 calque(s) dans le calque &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 %1 layer(s) deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 calque(s) supprimé(s).</translation>
     </message>
     <message>
         <source>Enter variable(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les variables à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source> (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation> (lecture seule)</translation>
     </message>
     <message>
         <source>
 No variable has such a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune variable ne porte ce nom.</translation>
     </message>
     <message>
         <source>Requires an integer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier est nécessaire.</translation>
     </message>
     <message>
         <source>Requires a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre est nécessaire.</translation>
     </message>
     <message>
         <source>Requires a number between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entre %1 et %2 est nécessaire.</translation>
     </message>
     <message>
         <source>Cannot set %1 to that value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de donner cette valeur à %1.</translation>
     </message>
     <message>
         <source>Requires a point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point est nécessaire.</translation>
     </message>
     <message>
         <source>Enter variable name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la variable ou [?] : </translation>
     </message>
     <message>
         <source>Unknown variable name &quot;%1&quot;. Type SETVAR ? for a list of variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable inconnue &quot;%1&quot;. Tapez SETVAR ? pour une liste des variables.</translation>
     </message>
     <message>
         <source>
 %1 = %2 (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 = %2 (lecture seule)</translation>
     </message>
     <message>
         <source>Enter new value for %1 &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la nouvelle valeur de %1 &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>
 Active layouts:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Présentations actives :</translation>
     </message>
     <message>
         <source>
 Layout: %1	Block name: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>
 %1 active layout(s) found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 présentation(s) active(s) trouvée(s).</translation>
     </message>
     <message>
         <source>Enter name of layout to copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la présentation à copier : </translation>
     </message>
     <message>
         <source>Enter layout name for copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la copie : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; copied to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; copiée dans &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter new Layout name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la nouvelle présentation : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; créée.</translation>
     </message>
     <message>
         <source>Enter layout to rename: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la présentation à renommer : </translation>
     </message>
     <message>
         <source>Enter new layout name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nouveau nom de la présentation : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; renamed to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; renommée en &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name of layout to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la présentation à supprimer : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; supprimée.</translation>
     </message>
     <message>
         <source>Enter layout to make current: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la présentation à rendre courante : </translation>
     </message>
     <message>
         <source>Enter layout to move: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la présentation à déplacer : </translation>
     </message>
     <message>
         <source>Enter its place among the layouts: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez sa place parmi les présentations : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; déplacée.</translation>
     </message>
     <message>
         <source>Enter layout to save to template: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la présentation à enregistrer comme gabarit : </translation>
     </message>
     <message>
         <source>Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de présentation [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?] : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; : %2.</translation>
     </message>
     <message>
         <source>
 Layout &quot;%1&quot; created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Présentation &quot;%1&quot; créée.</translation>
     </message>
     <message>
         <source> %1 of its entities could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation> %1 de ses objets n&apos;ont pas pu être repris.</translation>
     </message>
     <message>
         <source>Enter template file name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier gabarit : </translation>
     </message>
     <message>
         <source>Enter layout name(s): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des présentations : </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation &quot;%1&quot; introuvable dans %2.</translation>
     </message>
     <message>
         <source>Enter file name to save layout to: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du fichier où enregistrer la présentation : </translation>
     </message>
     <message>
         <source>Enter view name to save: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la vue à enregistrer : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a view.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;une vue.</translation>
     </message>
     <message>
         <source>
 Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez le coin opposé : </translation>
     </message>
     <message>
         <source>The window has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>Select viewport for view: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez la fenêtre pour la vue : </translation>
     </message>
     <message>
         <source>The view shows model space, and no viewport was chosen for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vue montre l&apos;espace objet, et aucune fenêtre n&apos;a été choisie pour elle.</translation>
     </message>
     <message>
         <source>Enter view name to restore: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la vue à restaurer : </translation>
     </message>
     <message>
         <source>Enter view name(s) to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des vues à supprimer : </translation>
     </message>
     <message>
         <source>
 No matching views found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune vue correspondante trouvée.</translation>
     </message>
     <message>
         <source>Enter view name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des vues à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>Enter an option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt; : </translation>
     </message>
     <message>
         <source>Save current UCS with named views? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le SCU courant avec les vues nommées ? [Yes/No] &lt;Yes&gt; : </translation>
     </message>
     <message>
         <source>
 Coordinate systems are not kept with views.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les systèmes de coordonnées ne sont pas conservés avec les vues.</translation>
     </message>
     <message>
         <source>Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Delete/Orthographic/Restore/Save/Ucs/Window] : </translation>
     </message>
     <message>
         <source>Enter an option [Current ucs/Ucs/World] &lt;Current&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Current ucs/Ucs/World] &lt;Current&gt; : </translation>
     </message>
     <message>
         <source>Enter name of UCS or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du SCU ou [?] : </translation>
     </message>
     <message>
         <source>Enter angle in XY plane from X axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;angle dans le plan XY depuis l&apos;axe X : </translation>
     </message>
     <message>
         <source>Enter angle from XY plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez l&apos;angle depuis le plan XY : </translation>
     </message>
     <message>
         <source>Specify a view point or [Rotate] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point de vue ou [Rotate] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>There is no direction from the target to itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de direction de la cible vers elle-même.</translation>
     </message>
     <message>
         <source>Enter name for new viewport configuration or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la nouvelle configuration de fenêtres ou [?] : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a viewport configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;une configuration de fenêtres.</translation>
     </message>
     <message>
         <source>Enter name of viewport configuration to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la configuration de fenêtres à restaurer ou [?] : </translation>
     </message>
     <message>
         <source>Cannot find viewport configuration &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration de fenêtres &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configurations to delete &lt;none&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des configurations de fenêtres à supprimer &lt;aucune&gt; : </translation>
     </message>
     <message>
         <source>
 No matching viewport configurations found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune configuration de fenêtres correspondante trouvée.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configuration(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des configurations de fenêtres à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>The screen is divided into too many viewports already.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;écran est déjà divisé en trop de fenêtres.</translation>
     </message>
     <message>
         <source>The window shows one view: the viewports to join cannot be picked.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre du programme montre une vue : les fenêtres à joindre ne peuvent pas être désignées.</translation>
     </message>
     <message>
         <source>Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt; : </translation>
     </message>
     <message>
         <source>** Command not allowed in Model Tab **</source>
-        <translation type="unfinished"></translation>
+        <translation>** Commande non permise dans l&apos;onglet Objet **</translation>
     </message>
     <message>
         <source>There are no active model space viewports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de fenêtres actives de l&apos;espace objet.</translation>
     </message>
     <message>
         <source>The viewport has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical] &lt;Vertical&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la disposition des fenêtres [Horizontal/Vertical] &lt;Vertical&gt; : </translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la disposition des fenêtres [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt; : </translation>
     </message>
     <message>
         <source>
 No viewport was chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune fenêtre n&apos;a été choisie.</translation>
     </message>
     <message>
         <source>
 Current osnap modes: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modes d&apos;accrochage aux objets courants : </translation>
     </message>
     <message>
         <source>Enter list of object snap modes: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez la liste des modes d&apos;accrochage aux objets : </translation>
     </message>
     <message>
         <source>Invalid object snap mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode d&apos;accrochage aux objets non valide.</translation>
     </message>
     <message>
         <source>Object snap target height (1-50 pixels) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur de la cible d&apos;accrochage (1-50 pixels) &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Value must be between 1 and 50.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur doit être comprise entre 1 et 50.</translation>
     </message>
     <message>
         <source>Specify new origin point</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle origine</translation>
     </message>
     <message>
         <source>Specify new origin point or [Zdepth] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la nouvelle origine ou [Zdepth] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify Z depth &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez la profondeur Z &lt;0&gt; : </translation>
     </message>
     <message>
         <source>Specify point on positive portion of X-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point de la partie positive de l&apos;axe X</translation>
     </message>
     <message>
         <source>Specify point on positive-Y portion of the UCS XY plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point de Y positif dans le plan XY du SCU</translation>
     </message>
     <message>
         <source>The three points lie on a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les trois points sont alignés.</translation>
     </message>
     <message>
         <source>Specify point on positive portion of Z-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point de la partie positive de l&apos;axe Z</translation>
     </message>
     <message>
         <source>The Z axis has no direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;axe Z n&apos;a pas de direction.</translation>
     </message>
     <message>
         <source>Specify rotation angle about %1 axis &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;angle de rotation autour de l&apos;axe %1 &lt;%2&gt; : </translation>
     </message>
     <message>
         <source>Select object to align UCS: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet sur lequel aligner le SCU : </translation>
     </message>
     <message>
         <source>No UCS can be aligned with this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun SCU ne peut être aligné sur cet objet.</translation>
     </message>
     <message>
         <source>Enter name to save current UCS or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom sous lequel enregistrer le SCU courant ou [?] : </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a UCS.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un SCU.</translation>
     </message>
     <message>
         <source>UCS &quot;%1&quot; already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Le SCU &quot;%1&quot; existe déjà. Le remplacer ? [Yes/No] &lt;No&gt; : </translation>
     </message>
     <message>
         <source>Enter name of UCS to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom du SCU à restaurer ou [?] : </translation>
     </message>
     <message>
         <source>Enter UCS name(s) to delete &lt;none&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des SCU à supprimer &lt;aucun&gt; : </translation>
     </message>
     <message>
         <source>
 No matching UCS names found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun nom de SCU correspondant trouvé.</translation>
     </message>
     <message>
         <source>
 Current UCS:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+SCU courant :  %1</translation>
     </message>
     <message>
         <source>Enter UCS name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des SCU à lister &lt;*&gt; : </translation>
     </message>
     <message>
         <source>&quot;%1&quot;  Origin = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;  Origine = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</translation>
     </message>
     <message>
         <source>Faces of solids cannot be chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les faces de solides ne peuvent pas être choisies ici.</translation>
     </message>
     <message>
         <source>
 No previous coordinate system saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucun système de coordonnées précédent enregistré.</translation>
     </message>
     <message>
         <source>Specify point on X-axis or &lt;accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point sur l&apos;axe X ou &lt;accepter&gt; : </translation>
     </message>
     <message>
         <source>Specify point on the XY plane or &lt;accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un point du plan XY ou &lt;accepter&gt; : </translation>
     </message>
     <message>
         <source>Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;origine du nouveau SCU ou [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 Current ucs name:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nom du SCU courant :  %1</translation>
     </message>
     <message>
         <source>Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez l&apos;origine du SCU ou [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt; : </translation>
     </message>
     <message>
         <source>Enter an option [Restore/Save/Delete/?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [Restore/Save/Delete/?] : </translation>
     </message>
     <message>
         <source>Requires a scale factor, two corners or an option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un facteur d&apos;échelle, deux coins ou un mot-clé est nécessaire.</translation>
     </message>
     <message>
         <source>A scale of the sheet is for viewports: MSPACE goes into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une échelle de la feuille s&apos;applique aux fenêtres : MSPACE y entre.</translation>
     </message>
     <message>
         <source>
 Enter magnification or height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Entrez l&apos;agrandissement ou la hauteur &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Requires a height, or a magnification (nX).</source>
-        <translation type="unfinished"></translation>
+        <translation>Une hauteur ou un agrandissement (nX) est nécessaire.</translation>
     </message>
     <message>
         <source>Specify center point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le centre : </translation>
     </message>
     <message>
         <source>Specify lower left corner point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le coin inférieur gauche : </translation>
     </message>
     <message>
         <source>Enter a scale factor (nX or nXP): </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez un facteur d&apos;échelle (nX ou nXP) : </translation>
     </message>
     <message>
         <source>There is no dynamic zoom: use the window&apos;s wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de zoom dynamique : utilisez la molette dans la fenêtre.</translation>
     </message>
     <message>
         <source>
 Specify corner of window, enter a scale factor (nX or nXP), or [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;real time&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez un coin de la fenêtre, entrez un facteur d&apos;échelle (nX ou nXP) ou [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;temps réel&gt; : </translation>
     </message>
     <message>
         <source>
 No previous view saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aucune vue précédente enregistrée.</translation>
     </message>
     <message>
         <source>Specify base point or displacement: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le point de base ou le déplacement : </translation>
     </message>
     <message>
         <source>Specify first corner or [Fit] &lt;Fit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le premier coin ou [Fit] &lt;Fit&gt; : </translation>
     </message>
     <message>
         <source>Enter viewport configuration name or [?] &lt;*Active&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez le nom de la configuration de fenêtres ou [?] &lt;*Active&gt; : </translation>
     </message>
     <message>
         <source>A drawing of this version has no viewports with other outlines than rectangles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a pas de fenêtres autres que rectangulaires.</translation>
     </message>
     <message>
         <source>A viewport is bounded by a closed polyline, circle, ellipse, spline or region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une fenêtre est délimitée par une polyligne fermée, un cercle, une ellipse, une spline ou une région.</translation>
     </message>
     <message>
         <source>Select object to clip viewport: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez l&apos;objet qui délimite la fenêtre : </translation>
     </message>
     <message>
         <source>A viewport has three corners at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une fenêtre a au moins trois coins.</translation>
     </message>
     <message>
         <source>Viewport View Locking [ON/OFF]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage de la vue de la fenêtre [ON/OFF] : </translation>
     </message>
     <message>
         <source>Shade plot? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Tracé ombré ? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt; : </translation>
     </message>
     <message>
         <source>Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez un coin de la fenêtre ou [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt; : </translation>
     </message>
     <message>
         <source>
 Already in model space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Déjà dans l&apos;espace objet.</translation>
     </message>
     <message>
         <source>
 Already in paper space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Déjà dans l&apos;espace papier.</translation>
     </message>
     <message>
         <source>Enter an option [All/Select/Current/eXcept current] &lt;Current&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [All/Select/Current/eXcept current] &lt;Current&gt; : </translation>
     </message>
     <message>
         <source>Enter name(s) of new layers frozen in all viewports: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des nouveaux calques gelés dans toutes les fenêtres : </translation>
     </message>
     <message>
         <source>Enter layer name(s) to change viewport visibility: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des calques dont modifier la visibilité dans les fenêtres : </translation>
     </message>
     <message>
         <source>Enter a viewport visibility option [Frozen/Thawed] &lt;Thawed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option de visibilité dans les fenêtres [Frozen/Thawed] &lt;Thawed&gt; : </translation>
     </message>
     <message>
         <source>Select a viewport: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une fenêtre : </translation>
     </message>
     <message>
         <source>No viewport was chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fenêtre n&apos;a été choisie.</translation>
     </message>
     <message>
         <source>
 Layers currently frozen in viewport %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>Enter layer name(s) to freeze or &lt;select objects&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des calques à geler ou &lt;sélectionner des objets&gt; : </translation>
     </message>
     <message>
         <source>Enter layer name(s) to thaw: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des calques à dégeler : </translation>
     </message>
     <message>
         <source>Enter layer name(s) to reset: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez les noms des calques à réinitialiser : </translation>
     </message>
     <message>
         <source>Layers have the same properties in all viewports here: nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les calques ont ici les mêmes propriétés dans toutes les fenêtres : rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entrez une option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt] : </translation>
     </message>
 </context>
 <context>
     <name>Comparing</name>
     <message>
         <source>dates and editing time: $TD...</source>
-        <translation type="unfinished"></translation>
+        <translation>dates et temps d&apos;édition : $TD...</translation>
     </message>
     <message>
         <source>the next free handle: $HANDSEED</source>
-        <translation type="unfinished"></translation>
+        <translation>le prochain identificateur libre : $HANDSEED</translation>
     </message>
     <message>
         <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>noms du fichier et de qui l&apos;a enregistré : $VERSIONGUID, $LASTSAVEDBY, ...</translation>
     </message>
     <message>
         <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>étendue, qui découle des objets : $EXTMIN, ...</translation>
     </message>
     <message>
         <source>which objects want to hear of changes: {ACAD_REACTORS</source>
-        <translation type="unfinished"></translation>
+        <translation>quels objets veulent être avertis des changements : {ACAD_REACTORS</translation>
     </message>
     <message>
         <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation type="unfinished"></translation>
+        <translation>version et page de codes : $ACADVER, $DWGCODEPAGE</translation>
     </message>
     <message>
         <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que les fenêtres montraient en dernier : la table VPORT, $VIEWCTR, ...</translation>
     </message>
     <message>
         <source>all variables of the header</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les variables de l&apos;en-tête</translation>
     </message>
     <message>
         <source>the classes section</source>
-        <translation type="unfinished"></translation>
+        <translation>la section des classes</translation>
     </message>
     <message>
         <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>tout ce qui n&apos;est pas dessiné : dictionnaires, présentations, ...</translation>
     </message>
     <message>
         <source>extended data</source>
-        <translation type="unfinished"></translation>
+        <translation>données étendues</translation>
     </message>
     <message>
         <source>which entity is drawn over which</source>
-        <translation type="unfinished"></translation>
+        <translation>quel objet est dessiné par-dessus lequel</translation>
     </message>
 </context>
 <context>
@@ -5406,763 +5625,763 @@ Layers currently frozen in viewport %1:</source>
     <name>DrawingTexts</name>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un bloc</translation>
     </message>
     <message>
         <source>there is no such block</source>
-        <translation type="unfinished"></translation>
+        <translation>un tel bloc n&apos;existe pas</translation>
     </message>
     <message>
         <source>%1 cannot be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être décomposé.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc &quot;%1&quot; manque.</translation>
     </message>
     <message>
         <source>An external reference cannot be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une référence externe ne peut pas être décomposée.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; may not be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc &quot;%1&quot; ne peut pas être décomposé.</translation>
     </message>
     <message>
         <source>The scales of block &quot;%1&quot; differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les échelles du bloc &quot;%1&quot; diffèrent.</translation>
     </message>
     <message>
         <source>Too many entities would come of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il en sortirait trop d&apos;objets.</translation>
     </message>
     <message>
         <source>A drawing of this version has one sheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version n&apos;a qu&apos;une feuille.</translation>
     </message>
     <message>
         <source>A layout cannot be called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une présentation ne peut pas s&apos;appeler &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>La présentation &quot;%1&quot; existe déjà.</translation>
     </message>
     <message>
         <source>Model space cannot be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;espace objet ne peut pas être copié.</translation>
     </message>
     <message>
         <source>Model space cannot be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;espace objet ne peut pas être déplacé.</translation>
     </message>
     <message>
         <source>Model space cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;espace objet ne peut pas être renommé.</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; has no object in this drawing that a name could be given to.</source>
-        <translation type="unfinished"></translation>
+        <translation>La présentation &quot;%1&quot; n&apos;a dans ce dessin aucun objet auquel donner un nom.</translation>
     </message>
     <message>
         <source>Model space cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;espace objet ne peut pas être supprimé.</translation>
     </message>
     <message>
         <source>The last layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dernière présentation ne peut pas être supprimée.</translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is needed by every drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout dessin a besoin du calque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le calque &quot;%1&quot; est le calque courant.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; belongs to an external reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le calque &quot;%1&quot; appartient à une référence externe.</translation>
     </message>
     <message>
         <source>A drawing of this version keeps no page setup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin de cette version ne conserve pas de mise en page.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le calque &quot;%1&quot; ne peut pas être renommé.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le calque &quot;%1&quot; existe déjà.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un calque.</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc</translation>
     </message>
     <message>
         <source>block</source>
-        <translation type="unfinished"></translation>
+        <translation>bloc</translation>
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished">Style de cote</translation>
+        <translation>Style de cote</translation>
     </message>
     <message>
         <source>dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de cote</translation>
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished">Type de ligne</translation>
+        <translation>Type de ligne</translation>
     </message>
     <message>
         <source>linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>type de ligne</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished">Style de texte</translation>
+        <translation>Style de texte</translation>
     </message>
     <message>
         <source>text style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de texte</translation>
     </message>
     <message>
         <source>UCS</source>
-        <translation type="unfinished"></translation>
+        <translation>SCU</translation>
     </message>
     <message>
         <source>ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>SCU</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue</translation>
     </message>
     <message>
         <source>view</source>
-        <translation type="unfinished"></translation>
+        <translation>vue</translation>
     </message>
     <message>
         <source>Viewport configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration de fenêtres</translation>
     </message>
     <message>
         <source>viewport configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>configuration de fenêtres</translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introuvable : %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne peut pas être renommé : %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être un nom.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Existe déjà : %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Registered applications cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les applications enregistrées ne peuvent pas être renommées.</translation>
     </message>
     <message>
         <source>Cannot find &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; existe déjà.</translation>
     </message>
     <message>
         <source>a drawing of this version has one sheet only</source>
-        <translation type="unfinished"></translation>
+        <translation>un dessin de cette version n&apos;a qu&apos;une feuille</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;une feuille</translation>
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de feuille &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is a sheet &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a déjà une feuille &quot;%1&quot;</translation>
     </message>
     <message>
         <source>blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>blocs</translation>
     </message>
     <message>
         <source>detail view styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de vue de détail</translation>
     </message>
     <message>
         <source>detail view style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de vue de détail</translation>
     </message>
     <message>
         <source>dimension styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de cote</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>groupes</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>groupe</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished"></translation>
+        <translation>calques</translation>
     </message>
     <message>
         <source>layer</source>
-        <translation type="unfinished"></translation>
+        <translation>calque</translation>
     </message>
     <message>
         <source>linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>types de ligne</translation>
     </message>
     <message>
         <source>materials</source>
-        <translation type="unfinished"></translation>
+        <translation>matériaux</translation>
     </message>
     <message>
         <source>material</source>
-        <translation type="unfinished"></translation>
+        <translation>matériau</translation>
     </message>
     <message>
         <source>multileader styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de repère multiple</translation>
     </message>
     <message>
         <source>multileader style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de repère multiple</translation>
     </message>
     <message>
         <source>plot styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de tracé</translation>
     </message>
     <message>
         <source>plot style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de tracé</translation>
     </message>
     <message>
         <source>shape files</source>
-        <translation type="unfinished"></translation>
+        <translation>fichiers de formes</translation>
     </message>
     <message>
         <source>shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier de formes</translation>
     </message>
     <message>
         <source>text styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de texte</translation>
     </message>
     <message>
         <source>multiline styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de multiligne</translation>
     </message>
     <message>
         <source>multiline style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de multiligne</translation>
     </message>
     <message>
         <source>section view styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de vue de coupe</translation>
     </message>
     <message>
         <source>section view style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de vue de coupe</translation>
     </message>
     <message>
         <source>table styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles de tableau</translation>
     </message>
     <message>
         <source>table style</source>
-        <translation type="unfinished"></translation>
+        <translation>style de tableau</translation>
     </message>
     <message>
         <source>visual styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles visuels</translation>
     </message>
     <message>
         <source>visual style</source>
-        <translation type="unfinished"></translation>
+        <translation>style visuel</translation>
     </message>
     <message>
         <source>registered applications</source>
-        <translation type="unfinished"></translation>
+        <translation>applications enregistrées</translation>
     </message>
     <message>
         <source>registered application</source>
-        <translation type="unfinished"></translation>
+        <translation>application enregistrée</translation>
     </message>
     <message>
         <source>no record begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun enregistrement ne commence ici</translation>
     </message>
     <message>
         <source>the file goes on behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier continue derrière</translation>
     </message>
     <message>
         <source>the file ends within it</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier finit au milieu</translation>
     </message>
     <message>
         <source>group code expected, found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>code de groupe attendu, %1 trouvé</translation>
     </message>
     <message>
         <source>type of a record expected, found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>type d&apos;enregistrement attendu, %1 trouvé</translation>
     </message>
     <message>
         <source>group %1 cannot be %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le groupe %1 ne peut pas être %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished">ligne %1&#xa0;: %2</translation>
+        <translation>ligne %1 : %2</translation>
     </message>
     <message>
         <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a pour le groupe %2 une valeur à laquelle la forme binaire n&apos;a pas de place : &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 with the handle %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d&apos;identificateur %2</translation>
     </message>
     <message>
         <source>it names no version</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne nomme aucune version</translation>
     </message>
     <message>
         <source>its handle was another record&apos;s, it has a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>son identificateur était celui d&apos;un autre enregistrement, il en a un nouveau</translation>
     </message>
     <message>
         <source>its handle was none, it has a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>son identificateur n&apos;en était pas un, il en a un nouveau</translation>
     </message>
     <message>
         <source>it has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;a pas de nom</translation>
     </message>
     <message>
         <source>it has no value</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;a pas de valeur</translation>
     </message>
     <message>
         <source>it has more than one value, of which the first was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>il a plus d&apos;une valeur, dont la première a été prise</translation>
     </message>
     <message>
         <source>it leads to all other objects, and is the first of them now</source>
-        <translation type="unfinished"></translation>
+        <translation>il mène à tous les autres objets, et en est maintenant le premier</translation>
     </message>
     <message>
         <source>the one that leads to all other objects was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>celui qui mène à tous les autres objets était perdu</translation>
     </message>
     <message>
         <source>its text was no UTF-8 and was taken for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>son texte n&apos;était pas en UTF-8 et a été pris pour du %1</translation>
     </message>
     <message>
         <source>the one of block %1 was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>celui du bloc %1 était perdu</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier dépasse 4 Go</translation>
     </message>
     <message>
         <source>nothing in this file is a part of a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>rien dans ce fichier n&apos;est une partie de dessin</translation>
     </message>
     <message>
         <source>%1: this is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : c&apos;est un dossier</translation>
     </message>
     <message>
         <source> (--recover opens what is sound of it)</source>
-        <translation type="unfinished"></translation>
+        <translation> (--recover ouvre ce qui en est sain)</translation>
     </message>
     <message>
         <source>%1 times </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fois </translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>et %1 de plus</translation>
     </message>
     <message>
         <source>the file is sound, nothing was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est sain, rien n&apos;a été écarté</translation>
     </message>
     <message>
         <source>recovered: %1 dropped%2, %3 mended, %4 added</source>
-        <translation type="unfinished"></translation>
+        <translation>récupéré : %1 écartés%2, %3 réparés, %4 ajoutés</translation>
     </message>
     <message>
         <source>what was written does not read back the same</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui a été écrit ne se relit pas à l&apos;identique</translation>
     </message>
     <message>
         <source>what would be written could not be opened again (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui serait écrit ne pourrait pas être rouvert (%1)</translation>
     </message>
     <message>
         <source>what would be written could not be opened the same: see %1 of handle %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui serait écrit ne pourrait pas être rouvert à l&apos;identique : voir %1 d&apos;identificateur %2</translation>
     </message>
     <message>
         <source>%1: the file cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le fichier ne peut pas être écrit : %2</translation>
     </message>
     <message>
         <source>%1: %2; the old file was kept</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 ; l&apos;ancien fichier a été conservé</translation>
     </message>
     <message>
         <source>%1: this program cannot write DWG files; give the file a name ending in .dxf</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce programme ne peut pas écrire de fichiers DWG ; donnez au fichier un nom finissant par .dxf</translation>
     </message>
     <message>
         <source>header variable</source>
-        <translation type="unfinished"></translation>
+        <translation>variable d&apos;en-tête</translation>
     </message>
     <message>
         <source>it stands outside of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>il se trouve hors des sections</translation>
     </message>
     <message>
         <source>its name is none, and what it holds tells another</source>
-        <translation type="unfinished"></translation>
+        <translation>son nom n&apos;en est pas un, et ce qu&apos;il contient en indique un autre</translation>
     </message>
     <message>
         <source>it was there before, and goes on here</source>
-        <translation type="unfinished"></translation>
+        <translation>il était déjà là, et continue ici</translation>
     </message>
     <message>
         <source>it stands outside of its section, and was put into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il se trouve hors de sa section, et a été mis dans %1</translation>
     </message>
     <message>
         <source>no table is open</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune table n&apos;est ouverte</translation>
     </message>
     <message>
         <source>it stands outside of the tables</source>
-        <translation type="unfinished"></translation>
+        <translation>il se trouve hors des tables</translation>
     </message>
     <message>
         <source>table entry</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée de table</translation>
     </message>
     <message>
         <source>it stands outside of its table</source>
-        <translation type="unfinished"></translation>
+        <translation>il se trouve hors de sa table</translation>
     </message>
     <message>
         <source>no block is open</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun bloc n&apos;est ouvert</translation>
     </message>
     <message>
         <source>it had no name, and is %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;avait pas de nom, et s&apos;appelle maintenant %1</translation>
     </message>
     <message>
         <source>the one for the entities here was lost; it is %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>celui des objets présents ici était perdu ; c&apos;est maintenant %1</translation>
     </message>
     <message>
         <source>nothing is open that it could end</source>
-        <translation type="unfinished"></translation>
+        <translation>rien n&apos;est ouvert qu&apos;il pourrait finir</translation>
     </message>
     <message>
         <source>what it is a part of is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>ce dont il fait partie n&apos;est pas là</translation>
     </message>
     <message>
         <source>it was missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il manquait</translation>
     </message>
     <message>
         <source>no section is open</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune section n&apos;est ouverte</translation>
     </message>
     <message>
         <source>the drawing looks like one of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin ressemble à un dessin %1</translation>
     </message>
     <message>
         <source>%1: this is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce n&apos;est pas un fichier</translation>
     </message>
     <message>
         <source>%1: drawings of this version have no room for such data</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : les dessins de cette version n&apos;ont pas de place pour de telles données</translation>
     </message>
     <message>
         <source>%1: %2 stands for something else in this drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 désigne autre chose dans ce dessin</translation>
     </message>
     <message>
         <source>%1: the file is larger than 4 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le fichier dépasse 4 Go</translation>
     </message>
     <message>
         <source>the drawing has no paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin n&apos;a pas d&apos;espace papier</translation>
     </message>
     <message>
         <source>POLYLINE: its vertices are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>POLYLINE : ses sommets manquent</translation>
     </message>
     <message>
         <source>%1: an entity of this type has no parts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : un objet de ce type n&apos;a pas de parties</translation>
     </message>
     <message>
         <source>%1: %2 expected, found %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 attendu, %3 trouvé</translation>
     </message>
     <message>
         <source>the entity is erased</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;objet est effacé</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>un nombre</translation>
     </message>
     <message>
         <source>a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>un identificateur</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte</translation>
     </message>
     <message>
         <source>group 0 (the type) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>le groupe 0 (le type) manque</translation>
     </message>
     <message>
         <source>this is no entity</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un objet</translation>
     </message>
     <message>
         <source>this type is not known, and its subclass markers (group 100) are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>ce type n&apos;est pas connu, et ses marques de sous-classe (groupe 100) manquent</translation>
     </message>
     <message>
         <source>a drawing of this version has no such entity</source>
-        <translation type="unfinished"></translation>
+        <translation>un dessin de cette version n&apos;a pas un tel objet</translation>
     </message>
     <message>
         <source>group %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>le groupe %1 manque</translation>
     </message>
     <message>
         <source>group %1 is not a point</source>
-        <translation type="unfinished"></translation>
+        <translation>le groupe %1 n&apos;est pas un point</translation>
     </message>
     <message>
         <source>group %1 is not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le groupe %1 n&apos;est pas %2</translation>
     </message>
     <message>
         <source>linetype %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne %1 n&apos;est pas dans le dessin</translation>
     </message>
     <message>
         <source>text style %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de texte %1 n&apos;est pas dans le dessin</translation>
     </message>
     <message>
         <source>block %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le bloc %1 n&apos;est pas dans le dessin</translation>
     </message>
     <message>
         <source>group code expected, found </source>
-        <translation type="unfinished"></translation>
+        <translation>code de groupe attendu, trouvé </translation>
     </message>
     <message>
         <source>this is not a DXF file: </source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier DXF : </translation>
     </message>
     <message>
         <source>this is not a DXF file: it has no sections</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier DXF : il n&apos;a pas de sections</translation>
     </message>
     <message>
         <source>the file is cut off: it ends before EOF</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est tronqué : il finit avant EOF</translation>
     </message>
     <message>
         <source>the section has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>la section n&apos;a pas de nom</translation>
     </message>
     <message>
         <source>a record without a type</source>
-        <translation type="unfinished"></translation>
+        <translation>un enregistrement sans type</translation>
     </message>
     <message>
         <source>%1 inside a section: ENDSEC is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dans une section : ENDSEC manque</translation>
     </message>
     <message>
         <source>%1 stands in the header section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se trouve dans la section d&apos;en-tête</translation>
     </message>
     <message>
         <source>this is not a DXF file: section expected, found </source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier DXF : section attendue, trouvé </translation>
     </message>
     <message>
         <source>%1 stands outside of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se trouve hors des sections</translation>
     </message>
     <message>
         <source>TABLE inside a table: ENDTAB is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>TABLE dans une table : ENDTAB manque</translation>
     </message>
     <message>
         <source>%1 stands outside of the tables: TABLE is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se trouve hors des tables : TABLE manque</translation>
     </message>
     <message>
         <source>BLOCK inside a block: ENDBLK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>BLOCK dans un bloc : ENDBLK manque</translation>
     </message>
     <message>
         <source>%1 stands outside of the blocks: BLOCK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se trouve hors des blocs : BLOCK manque</translation>
     </message>
     <message>
         <source>the section ends inside a table: ENDTAB is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la section finit dans une table : ENDTAB manque</translation>
     </message>
     <message>
         <source>the section ends inside a block: ENDBLK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la section finit dans un bloc : ENDBLK manque</translation>
     </message>
     <message>
         <source>tag %1 of the binary file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>balise %1 du fichier binaire : %2</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB as text</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier dépasse 4 Go en texte</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est vide</translation>
     </message>
     <message>
         <source>this is a DWG file; this program reads DXF only</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un fichier DWG ; ce programme ne lit que DXF</translation>
     </message>
     <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un fichier texte UTF-16, non un fichier DXF</translation>
     </message>
     <message>
         <source>this is a packed file; unpack it first</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un fichier compressé ; décompressez-le d&apos;abord</translation>
     </message>
     <message>
         <source>this is a binary DXF file whose first bytes are damaged, as by a transfer as text</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un fichier DXF binaire dont les premiers octets sont endommagés, comme par un transfert en texte</translation>
     </message>
     <message>
         <source>the pattern does not begin with &quot;A&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le motif ne commence pas par &quot;A&quot;</translation>
     </message>
     <message>
         <source>the pattern is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le motif est vide</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no length</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas une longueur</translation>
     </message>
     <message>
         <source>the pattern is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>le motif est trop long</translation>
     </message>
     <message>
         <source>a text or shape is not closed, or stands in front of all dashes</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte ou une forme n&apos;est pas fermé, ou se trouve avant tous les tirets</translation>
     </message>
     <message>
         <source>a shape needs its name and its file</source>
-        <translation type="unfinished"></translation>
+        <translation>une forme demande son nom et son fichier</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas compris</translation>
     </message>
     <message>
         <source>text style &quot;%1&quot; is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de texte &quot;%1&quot; n&apos;est pas dans le dessin</translation>
     </message>
     <message>
         <source>the shape file &quot;%1&quot; is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier de formes &quot;%1&quot; est introuvable</translation>
     </message>
     <message>
         <source>shape &quot;%1&quot; is not in the file &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la forme &quot;%1&quot; n&apos;est pas dans le fichier &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a drawing of this version has no texts and shapes in linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>un dessin de cette version n&apos;a ni textes ni formes dans les types de ligne</translation>
     </message>
     <message>
         <source>the name cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom ne peut pas être utilisé</translation>
     </message>
     <message>
         <source>it is not in the drawing&apos;s folder. READPATHS, or the option --allow-read, names folders whose files drawings may name</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;est pas dans le dossier du dessin. READPATHS, ou l&apos;option --allow-read, nomme les dossiers dont les dessins peuvent nommer les fichiers</translation>
     </message>
     <message>
         <source>there are no shapes in it</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne contient pas de formes</translation>
     </message>
     <message>
         <source>the file is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est tronqué</translation>
     </message>
     <message>
         <source>it is a compiled file of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un fichier compilé d&apos;un autre genre</translation>
     </message>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (les textes distants ont au plus 256 ko)</translation>
     </message>
 </context>
 <context>
@@ -6253,5692 +6472,5761 @@ Written: %1
     <message>
         <source>
 New color &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nouvelle couleur &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>
 Requires a color number or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un numéro ou un nom de couleur est nécessaire.</translation>
     </message>
     <message>
         <source>
 Unknown command &quot;%1&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Commande inconnue &quot;%1&quot;.
+</translation>
     </message>
     <message>
         <source>
 Left over from (command): %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Reste de (command) : %1
+</translation>
     </message>
     <message>
         <source>
 The dialog file &quot;%1&quot; was not found.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le fichier de boîtes de dialogue &quot;%1&quot; est introuvable.
+</translation>
     </message>
     <message>
         <source>
 The actions that the file gives to the tiles of &quot;%1&quot; do not run: its folder is not trusted.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les actions que le fichier donne aux éléments de &quot;%1&quot; ne s&apos;exécutent pas : son dossier n&apos;est pas de confiance.
+</translation>
     </message>
     <message>
         <source>
 There is no dialog &quot;%1&quot; in what was loaded.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a pas de boîte de dialogue &quot;%1&quot; dans ce qui a été chargé.
+</translation>
     </message>
     <message>
         <source>
 Nobody is there to answer the dialog &quot;%1&quot;: cancelled.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Personne n&apos;est là pour répondre à la boîte de dialogue &quot;%1&quot; : annulé.
+</translation>
     </message>
     <message>
         <source>action of &quot;%1&quot; in dialog %2</source>
-        <translation type="unfinished"></translation>
+        <translation>action de &quot;%1&quot; dans la boîte de dialogue %2</translation>
     </message>
     <message>
         <source>
 Select object: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez un objet : </translation>
     </message>
     <message>
         <source>
 startapp: %1 is not started: the user&apos;s settings do not let programs start others.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+startapp : %1 n&apos;est pas démarré : les paramètres de l&apos;utilisateur ne permettent pas aux programmes d&apos;en démarrer d&apos;autres.
+</translation>
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de feuille &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;une feuille</translation>
     </message>
     <message>
         <source>there is a sheet &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a déjà une feuille &quot;%1&quot;</translation>
     </message>
     <message>
         <source>%1 is one of the drawings that sheets come from</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est l&apos;un des dessins dont proviennent des feuilles</translation>
     </message>
     <message>
         <source>the file was not found</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est introuvable</translation>
     </message>
     <message>
         <source>
 The slide &quot;%1&quot;: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le cliché &quot;%1&quot; : %2.
+</translation>
     </message>
 </context>
 <context>
     <name>Help</name>
     <message>
         <source>0: heights count</source>
-        <translation type="unfinished"></translation>
+        <translation>0 : les hauteurs comptent</translation>
     </message>
     <message>
         <source>As -COLOR</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -COLOR</translation>
     </message>
     <message>
         <source>As -COLOR; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -COLOR ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LAYDEL; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -LAYDEL ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LAYER; entered by hand in the window it shows the layer panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -LAYER ; saisi à la main dans la fenêtre, montre le panneau des calques</translation>
     </message>
     <message>
         <source>As -LAYMRG; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -LAYMRG ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LINETYPE; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -LINETYPE ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LWEIGHT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -LWEIGHT ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -PAN; the middle button of the mouse moves the view too</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -PAN ; le bouton central de la souris déplace aussi la vue</translation>
     </message>
     <message>
         <source>As -PURGE; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -PURGE ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -RENAME; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -RENAME ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -UNITS; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -UNITS ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -VIEW; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -VIEW ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -VPOINT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -VPOINT ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -VPORTS; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -VPORTS ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -XREF; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme -XREF ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As LAYOUT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme LAYOUT ; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As NEW</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme NEW</translation>
     </message>
     <message>
         <source>As QUIT</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme QUIT</translation>
     </message>
     <message>
         <source>Attaches drawing files as external references, and changes, binds and detaches these</source>
-        <translation type="unfinished"></translation>
+        <translation>Attache des fichiers de dessin en références externes, les modifie, les lie et les détache</translation>
     </message>
     <message>
         <source>BOUNDARY makes polylines (1) or regions (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>BOUNDARY crée des polylignes (1) ou des régions (0)</translation>
     </message>
     <message>
         <source>Brings back what was erased last</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramène ce qui a été effacé en dernier</translation>
     </message>
     <message>
         <source>Brings entities in front of others or behind them</source>
-        <translation type="unfinished"></translation>
+        <translation>Place des objets devant ou derrière d&apos;autres</translation>
     </message>
     <message>
         <source>COPY goes on until an empty answer (0) or makes one copy (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>COPY continue jusqu&apos;à une réponse vide (0) ou fait une seule copie (1)</translation>
     </message>
     <message>
         <source>Changes entities by a point, or their properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie des objets par un point, ou leurs propriétés</translation>
     </message>
     <message>
         <source>Changes entities by their grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie des objets par leurs poignées</translation>
     </message>
     <message>
         <source>Changes layer, color, linetype and weight of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie le calque, la couleur, le type et l&apos;épaisseur de ligne d&apos;objets</translation>
     </message>
     <message>
         <source>Changes pattern, style and layer of a hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie le motif, le style et le calque de hachures</translation>
     </message>
     <message>
         <source>Changes text and extension lines of dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie le texte et les lignes d&apos;attache de cotes</translation>
     </message>
     <message>
         <source>Changes the values of a block reference&apos;s attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie les valeurs des attributs d&apos;une référence de bloc</translation>
     </message>
     <message>
         <source>Changes the values of attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie les valeurs d&apos;attributs</translation>
     </message>
     <message>
         <source>Changes what texts, dimensions and definitions of attributes say</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie ce que disent les textes, les cotes et les définitions d&apos;attributs</translation>
     </message>
     <message>
         <source>Chooses entities for the next command</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit des objets pour la commande suivante</translation>
     </message>
     <message>
         <source>Chooses entities; they are the previous selection then</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit des objets ; ils forment alors la sélection précédente</translation>
     </message>
     <message>
         <source>Chooses the isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit le plan isométrique</translation>
     </message>
     <message>
         <source>Chooses what is similar to the chosen entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit ce qui ressemble aux objets sélectionnés</translation>
     </message>
     <message>
         <source>Closes all drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme tous les dessins</translation>
     </message>
     <message>
         <source>Closes the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme le dessin</translation>
     </message>
     <message>
         <source>Closes the drawing without saving, and ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme le dessin sans l&apos;enregistrer et quitte le programme</translation>
     </message>
     <message>
         <source>Copies entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie des objets</translation>
     </message>
     <message>
         <source>Copies entities into rows and columns or round a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie des objets en rangées et colonnes ou autour d&apos;un point</translation>
     </message>
     <message>
         <source>Copies entities to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie des objets dans le presse-papiers</translation>
     </message>
     <message>
         <source>Copies entities to the clipboard by a base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie des objets dans le presse-papiers avec un point de base</translation>
     </message>
     <message>
         <source>Cuts block references off at a boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Délimite des références de bloc par un contour</translation>
     </message>
     <message>
         <source>Cuts corners off</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe les coins</translation>
     </message>
     <message>
         <source>Defines an attribute of a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit un attribut d&apos;un bloc</translation>
     </message>
     <message>
         <source>Deletes layers with all that is on them</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprime des calques avec tout leur contenu</translation>
     </message>
     <message>
         <source>Dimensions a distance along itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote une distance dans sa propre direction</translation>
     </message>
     <message>
         <source>Dimensions a distance along x, y or another direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote une distance selon x, y ou une autre direction</translation>
     </message>
     <message>
         <source>Dimensions an angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote un angle</translation>
     </message>
     <message>
         <source>Dimensions by subcommands until Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote par sous-commandes jusqu&apos;à Exit</translation>
     </message>
     <message>
         <source>Dimensions further points from the same begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote d&apos;autres points depuis le même départ</translation>
     </message>
     <message>
         <source>Dimensions on from the last dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>Continue la cotation depuis la dernière cote</translation>
     </message>
     <message>
         <source>Dimensions the diameter of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote le diamètre d&apos;un cercle ou d&apos;un arc</translation>
     </message>
     <message>
         <source>Dimensions the length of an arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote la longueur d&apos;un arc</translation>
     </message>
     <message>
         <source>Dimensions the radius of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote le rayon d&apos;un cercle ou d&apos;un arc</translation>
     </message>
     <message>
         <source>Dimensions the radius of a circle or arc from a nearer centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote le rayon d&apos;un cercle ou d&apos;un arc depuis un centre plus proche</translation>
     </message>
     <message>
         <source>Dimensions the x or y coordinate of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Cote la coordonnée x ou y d&apos;un point</translation>
     </message>
     <message>
         <source>Divides the screen or makes viewports on a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Divise l&apos;écran ou crée des fenêtres sur une feuille</translation>
     </message>
     <message>
         <source>Does again what was undone last</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablit ce qui a été annulé en dernier</translation>
     </message>
     <message>
         <source>Does again what was undone, several steps at once</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablit ce qui a été annulé, plusieurs pas à la fois</translation>
     </message>
     <message>
         <source>Draws a circle: centre and radius, two or three points, two tangents and radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un cercle : centre et rayon, deux ou trois points, deux tangentes et rayon</translation>
     </message>
     <message>
         <source>Draws a cloud of arcs, or makes one of an entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un nuage d&apos;arcs, ou en fait un d&apos;un objet</translation>
     </message>
     <message>
         <source>Draws a line from a feature to a note</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une ligne d&apos;un élément à une note</translation>
     </message>
     <message>
         <source>Draws a line of up to three points with a text</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une ligne d&apos;au plus trois points avec un texte</translation>
     </message>
     <message>
         <source>Draws a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un point</translation>
     </message>
     <message>
         <source>Draws a polygon with sides of one length</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un polygone à côtés de même longueur</translation>
     </message>
     <message>
         <source>Draws a polyline in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une polyligne dans l&apos;espace</translation>
     </message>
     <message>
         <source>Draws a polyline of straight segments and arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une polyligne de segments droits et d&apos;arcs</translation>
     </message>
     <message>
         <source>Draws a rectangle by corners, sides or area</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un rectangle par ses coins, ses côtés ou son aire</translation>
     </message>
     <message>
         <source>Draws a smooth curve through points or along control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une courbe lisse par des points ou le long de points de contrôle</translation>
     </message>
     <message>
         <source>Draws an arc: three points, or start, center, end, angle, length, direction, radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un arc : trois points, ou départ, centre, fin, angle, longueur, direction, rayon</translation>
     </message>
     <message>
         <source>Draws an arrow with a note as one entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une flèche avec une note en un seul objet</translation>
     </message>
     <message>
         <source>Draws an ellipse or a part of one</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une ellipse ou une partie d&apos;ellipse</translation>
     </message>
     <message>
         <source>Draws faces in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des faces dans l&apos;espace</translation>
     </message>
     <message>
         <source>Draws filled areas with three or four corners</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des surfaces remplies à trois ou quatre coins</translation>
     </message>
     <message>
         <source>Draws filled rings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des anneaux remplis</translation>
     </message>
     <message>
         <source>Draws lines that end at one side only</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des lignes qui ne finissent que d&apos;un côté</translation>
     </message>
     <message>
         <source>Draws lines without ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des lignes sans fin</translation>
     </message>
     <message>
         <source>Draws parallel curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des courbes parallèles</translation>
     </message>
     <message>
         <source>Draws parallel lines with the current multiline style</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des lignes parallèles avec le style de multiligne courant</translation>
     </message>
     <message>
         <source>Draws straight segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des segments droits</translation>
     </message>
     <message>
         <source>Draws the window anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Redessine la fenêtre</translation>
     </message>
     <message>
         <source>Draws wide lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine des lignes larges</translation>
     </message>
     <message>
         <source>ELLIPSE makes true ellipses (0) or polylines (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ELLIPSE crée de vraies ellipses (0) ou des polylignes (1)</translation>
     </message>
     <message>
         <source>EXPLODE takes blocks of unequal scales</source>
-        <translation type="unfinished"></translation>
+        <translation>EXPLODE accepte les blocs d&apos;échelles inégales</translation>
     </message>
     <message>
         <source>Edits polylines: closes, joins, widens, smooths, changes vertices</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifie des polylignes : les ferme, joint, élargit, lisse, change leurs sommets</translation>
     </message>
     <message>
         <source>Evaluates the expressions of texts anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Évalue à nouveau les expressions des textes</translation>
     </message>
     <message>
         <source>FILLET and CHAMFER trim what they join</source>
-        <translation type="unfinished"></translation>
+        <translation>FILLET et CHAMFER ajustent ce qu&apos;ils relient</translation>
     </message>
     <message>
         <source>Freezes and thaws layers in viewports of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Gèle et dégèle des calques dans les fenêtres des feuilles</translation>
     </message>
     <message>
         <source>Freezes layers of picked objects in all other viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Gèle les calques des objets désignés dans toutes les autres fenêtres</translation>
     </message>
     <message>
         <source>Freezes the layers of picked objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Gèle les calques des objets désignés</translation>
     </message>
     <message>
         <source>Gives a multileader further arrows, or takes some away</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne d&apos;autres flèches à un repère multiple, ou en retire</translation>
     </message>
     <message>
         <source>Gives blocks, layers, styles and other named things another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne un autre nom à des blocs, calques, styles et autres éléments nommés</translation>
     </message>
     <message>
         <source>Gives entities the properties of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne à des objets les propriétés d&apos;un autre</translation>
     </message>
     <message>
         <source>Gives layers what they had before LAYISO</source>
-        <translation type="unfinished"></translation>
+        <translation>Rend aux calques ce qu&apos;ils avaient avant LAYISO</translation>
     </message>
     <message>
         <source>Gives references the attributes that their block defines</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne aux références les attributs que leur bloc définit</translation>
     </message>
     <message>
         <source>Hatches areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Hachure des zones</translation>
     </message>
     <message>
         <source>Hides a command, which a point in front still runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache une commande, qu&apos;un point placé devant exécute encore</translation>
     </message>
     <message>
         <source>INSERT asks for attributes (1) or takes their defaults (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>INSERT demande les attributs (1) ou prend leurs valeurs par défaut (0)</translation>
     </message>
     <message>
         <source>INSERT asks for attributes with a dialog (1) or on the command line (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>INSERT demande les attributs par une boîte de dialogue (1) ou sur la ligne de commande (0)</translation>
     </message>
     <message>
         <source>Inserts a block or drawing file, as a reference or in pieces</source>
-        <translation type="unfinished"></translation>
+        <translation>Insère un bloc ou un fichier de dessin, en référence ou en morceaux</translation>
     </message>
     <message>
         <source>Loads a shape file, so that its shapes can be placed</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge un fichier de formes, pour que ses formes puissent être placées</translation>
     </message>
     <message>
         <source>Loads linetypes from a file and chooses the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge des types de ligne d&apos;un fichier et choisit le type courant</translation>
     </message>
     <message>
         <source>Locks or turns off all layers but those of chosen objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouille ou désactive tous les calques sauf ceux des objets choisis</translation>
     </message>
     <message>
         <source>Locks the layer of a picked object</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouille le calque d&apos;un objet désigné</translation>
     </message>
     <message>
         <source>Looks for errors in the drawing and mends them</source>
-        <translation type="unfinished"></translation>
+        <translation>Cherche les erreurs du dessin et les répare</translation>
     </message>
     <message>
         <source>Looks from another direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Regarde d&apos;une autre direction</translation>
     </message>
     <message>
         <source>Looks straight at the plane of a coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Regarde de face le plan d&apos;un système de coordonnées</translation>
     </message>
     <message>
         <source>Makes a block of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée un bloc à partir d&apos;objets</translation>
     </message>
     <message>
         <source>Makes a command known again that UNDEFINE hid</source>
-        <translation type="unfinished"></translation>
+        <translation>Rend de nouveau connue une commande que UNDEFINE avait cachée</translation>
     </message>
     <message>
         <source>Makes a new drawing, from a template or empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée un nouveau dessin, d&apos;un gabarit ou vide</translation>
     </message>
     <message>
         <source>Makes and changes groups of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée et modifie des groupes d&apos;objets</translation>
     </message>
     <message>
         <source>Makes and changes text styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée et modifie des styles de texte</translation>
     </message>
     <message>
         <source>Makes entities larger or smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandit ou réduit des objets</translation>
     </message>
     <message>
         <source>Makes layers and changes their properties and states</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée des calques et modifie leurs propriétés et états</translation>
     </message>
     <message>
         <source>Makes one paragraph of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait un paragraphe de plusieurs textes</translation>
     </message>
     <message>
         <source>Makes polylines or regions round areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée des polylignes ou des régions autour de zones</translation>
     </message>
     <message>
         <source>Makes the layer of a picked object current</source>
-        <translation type="unfinished"></translation>
+        <translation>Rend courant le calque d&apos;un objet désigné</translation>
     </message>
     <message>
         <source>Makes viewports on a sheet and switches them</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée des fenêtres sur une feuille et les active</translation>
     </message>
     <message>
         <source>Makes, copies, renames and deletes layouts and chooses the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée, copie, renomme et supprime des présentations et choisit la présentation courante</translation>
     </message>
     <message>
         <source>Marks the centre of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque le centre d&apos;un cercle ou d&apos;un arc</translation>
     </message>
     <message>
         <source>Mirrors entities in a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Met des objets en miroir par rapport à une ligne</translation>
     </message>
     <message>
         <source>Mirrors entities in a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Met des objets en miroir par rapport à un plan</translation>
     </message>
     <message>
         <source>Moves entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace des objets</translation>
     </message>
     <message>
         <source>Moves entities between the sheet and the model that it shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace des objets entre la feuille et le modèle qu&apos;elle montre</translation>
     </message>
     <message>
         <source>Moves entities in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace des objets dans l&apos;espace</translation>
     </message>
     <message>
         <source>Moves entities to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace des objets dans le presse-papiers</translation>
     </message>
     <message>
         <source>Moves or turns the text of a dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace ou tourne le texte d&apos;une cote</translation>
     </message>
     <message>
         <source>Moves the notes of multileaders onto a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Place les notes de repères multiples sur une ligne</translation>
     </message>
     <message>
         <source>Moves what is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace ce qui est affiché</translation>
     </message>
     <message>
         <source>Moves what lies within a window, and what is tied to it follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace ce qui est dans une fenêtre, et ce qui y est lié suit</translation>
     </message>
     <message>
         <source>Moves, turns and scales entities by pairs of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplace, tourne et met à l&apos;échelle des objets par paires de points</translation>
     </message>
     <message>
         <source>Opens a drawing, where what is typed next goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre un dessin, où se poursuit ce qui est saisi ensuite</translation>
     </message>
     <message>
         <source>PEDIT makes polylines of others without asking</source>
-        <translation type="unfinished"></translation>
+        <translation>PEDIT fait des polylignes d&apos;autres objets sans demander</translation>
     </message>
     <message>
         <source>Places a shape of a loaded shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>Place une forme d&apos;un fichier de formes chargé</translation>
     </message>
     <message>
         <source>Places what is on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Place le contenu du presse-papiers</translation>
     </message>
     <message>
         <source>Places what is on the clipboard as a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Place le contenu du presse-papiers en bloc</translation>
     </message>
     <message>
         <source>Places what is on the clipboard where it was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Place le contenu du presse-papiers là où il a été copié</translation>
     </message>
     <message>
         <source>Plots a layout to a file of PDF, PNG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace une présentation dans un fichier PDF, PNG ou SVG</translation>
     </message>
     <message>
         <source>Plots a layout to a file; in the window as a dialog with a preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace une présentation dans un fichier ; dans la fenêtre, par une boîte de dialogue avec aperçu</translation>
     </message>
     <message>
         <source>Puts objects on the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Place des objets sur le calque courant</translation>
     </message>
     <message>
         <source>Puts objects on the layer of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Place des objets sur le calque d&apos;un autre</translation>
     </message>
     <message>
         <source>Puts what is on layers on another one and deletes them</source>
-        <translation type="unfinished"></translation>
+        <translation>Place le contenu de calques sur un autre et les supprime</translation>
     </message>
     <message>
         <source>Rounds corners with arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrondit les coins par des arcs</translation>
     </message>
     <message>
         <source>Runs a command again and again until it is cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Répète une commande jusqu&apos;à ce qu&apos;elle soit annulée</translation>
     </message>
     <message>
         <source>Runs one subcommand of the dimension mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécute une sous-commande du mode de cotation</translation>
     </message>
     <message>
         <source>Saves the drawing under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre le dessin sous un nom</translation>
     </message>
     <message>
         <source>Saves the drawing under its own name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre le dessin sous son propre nom</translation>
     </message>
     <message>
         <source>Saves, restores and deletes named views</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre, restaure et supprime des vues nommées</translation>
     </message>
     <message>
         <source>Saves, restores, lists and applies dimension styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre, restaure, liste et applique des styles de cote</translation>
     </message>
     <message>
         <source>Says how near the pointer object snap looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit à quelle distance du pointeur cherche l&apos;accrochage aux objets</translation>
     </message>
     <message>
         <source>Says which object snaps are always on</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit quels accrochages aux objets sont toujours actifs</translation>
     </message>
     <message>
         <source>Scripts go on by themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Les scripts continuent d&apos;eux-mêmes</translation>
     </message>
     <message>
         <source>Sets and checks the drawing&apos;s limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit et contrôle les limites du dessin</translation>
     </message>
     <message>
         <source>Sets and switches the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit et active la grille</translation>
     </message>
     <message>
         <source>Sets and switches the grid that points snap to</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit et active la grille à laquelle les points s&apos;accrochent</translation>
     </message>
     <message>
         <source>Sets how lengths and angles are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit comment longueurs et angles sont affichés</translation>
     </message>
     <message>
         <source>Sets the color of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit la couleur des nouveaux objets</translation>
     </message>
     <message>
         <source>Sets the elevation and thickness of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit l&apos;élévation et l&apos;épaisseur des nouveaux objets</translation>
     </message>
     <message>
         <source>Sets the lineweight of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit l&apos;épaisseur de ligne des nouveaux objets</translation>
     </message>
     <message>
         <source>Sets the point that the drawing is inserted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit le point par lequel le dessin est inséré</translation>
     </message>
     <message>
         <source>Sets variables of single dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit les variables de cotes isolées</translation>
     </message>
     <message>
         <source>Sets, saves and restores the user coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit, enregistre et restaure le système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>Shows more or less of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre plus ou moins du dessin</translation>
     </message>
     <message>
         <source>Shows the help pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les pages d&apos;aide</translation>
     </message>
     <message>
         <source>Shows the properties panel where it is entered by hand in the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche le panneau des propriétés quand il est saisi à la main dans la fenêtre</translation>
     </message>
     <message>
         <source>Shows, lists or sets a system variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche, liste ou définit une variable système</translation>
     </message>
     <message>
         <source>Switches whether areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Active ou non le remplissage des surfaces</translation>
     </message>
     <message>
         <source>Switches whether lines go along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Active ou non les lignes selon les axes</translation>
     </message>
     <message>
         <source>Switches whether texts are boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Active ou non les textes en rectangles</translation>
     </message>
     <message>
         <source>Switches whether the drawing is made anew by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Active ou non la régénération automatique du dessin</translation>
     </message>
     <message>
         <source>TRIM and EXTEND begin with edges (0) or take all (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM et EXTEND commencent par les arêtes (0) ou les prennent toutes (1)</translation>
     </message>
     <message>
         <source>TRIM and EXTEND take edges as if they went on</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM et EXTEND prennent les arêtes comme si elles continuaient</translation>
     </message>
     <message>
         <source>Takes a file&apos;s name; programs for other hosts do not run here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend un nom de fichier ; les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici</translation>
     </message>
     <message>
         <source>Takes back steps; marks and groups them</source>
-        <translation type="unfinished"></translation>
+        <translation>Annule des pas ; les marque et les groupe</translation>
     </message>
     <message>
         <source>Takes back the last change of layer settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Annule la dernière modification des paramètres de calques</translation>
     </message>
     <message>
         <source>Takes back the last step</source>
-        <translation type="unfinished"></translation>
+        <translation>Annule le dernier pas</translation>
     </message>
     <message>
         <source>Takes blocks, polylines, texts and dimensions apart</source>
-        <translation type="unfinished"></translation>
+        <translation>Décompose blocs, polylignes, textes et cotes</translation>
     </message>
     <message>
         <source>Takes entities out of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire des objets du dessin</translation>
     </message>
     <message>
         <source>Takes out of the drawing what nothing refers to</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire du dessin ce à quoi rien ne se réfère</translation>
     </message>
     <message>
         <source>Takes the name of a menu file; there are none here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend le nom d&apos;un fichier de menu ; il n&apos;y en a pas ici</translation>
     </message>
     <message>
         <source>Takes the name of a menu; there are none here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend le nom d&apos;un menu ; il n&apos;y en a pas ici</translation>
     </message>
     <message>
         <source>Takes what programs ask of it; programs for other hosts do not run here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend ce que les programmes lui demandent ; les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici</translation>
     </message>
     <message>
         <source>Tells the coordinates of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne les coordonnées d&apos;un point</translation>
     </message>
     <message>
         <source>Tells the distance and angle between points</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne la distance et l&apos;angle entre des points</translation>
     </message>
     <message>
         <source>Tells what is in the drawing and what is current</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit ce que contient le dessin et ce qui est courant</translation>
     </message>
     <message>
         <source>Tells what is known of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit ce qui est connu des objets</translation>
     </message>
     <message>
         <source>Tells when the drawing was made and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit quand le dessin a été créé et modifié</translation>
     </message>
     <message>
         <source>Thaws all layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Dégèle tous les calques</translation>
     </message>
     <message>
         <source>The command line is always in sight</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne de commande est toujours visible</translation>
     </message>
     <message>
         <source>The drawing is always in sight</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dessin est toujours visible</translation>
     </message>
     <message>
         <source>Turns all layers on</source>
-        <translation type="unfinished"></translation>
+        <translation>Active tous les calques</translation>
     </message>
     <message>
         <source>Turns entities round a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourne des objets autour d&apos;un point</translation>
     </message>
     <message>
         <source>Turns entities round an axis in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourne des objets autour d&apos;un axe dans l&apos;espace</translation>
     </message>
     <message>
         <source>Turns off the layers of picked objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactive les calques des objets désignés</translation>
     </message>
     <message>
         <source>Types the last script once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisit le dernier script encore une fois</translation>
     </message>
     <message>
         <source>Types what a script file holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisit ce que contient un fichier de script</translation>
     </message>
     <message>
         <source>Unlocks the layer of a picked object</source>
-        <translation type="unfinished"></translation>
+        <translation>Déverrouille le calque d&apos;un objet désigné</translation>
     </message>
     <message>
         <source>Waits for so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Attend tant de millisecondes</translation>
     </message>
     <message>
         <source>Works on model space through a viewport of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Travaille sur l&apos;espace objet à travers une fenêtre de la feuille</translation>
     </message>
     <message>
         <source>Works on the sheet itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Travaille sur la feuille elle-même</translation>
     </message>
     <message>
         <source>Writes a block or entities to a drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit un bloc ou des objets dans un fichier de dessin</translation>
     </message>
     <message>
         <source>Writes a paragraph of several lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit un paragraphe de plusieurs lignes</translation>
     </message>
     <message>
         <source>Writes one line of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit une ligne de texte</translation>
     </message>
     <message>
         <source>&quot;(&quot; and &quot;!&quot; in texts are evaluated</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;(&quot; et &quot;!&quot; dans les textes sont évalués</translation>
     </message>
     <message>
         <source>a block is being edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>un bloc est en cours d&apos;édition sur place</translation>
     </message>
     <message>
         <source>a double click edits</source>
-        <translation type="unfinished"></translation>
+        <translation>un double-clic modifie</translation>
     </message>
     <message>
         <source>a drawing&apos;s sheet set is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeu de feuilles d&apos;un dessin est recherché</translation>
     </message>
     <message>
         <source>a file&apos;s tab shows its layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;onglet d&apos;un fichier montre ses présentations</translation>
     </message>
     <message>
         <source>a hatch is shown before it is made</source>
-        <translation type="unfinished"></translation>
+        <translation>des hachures sont montrées avant d&apos;être créées</translation>
     </message>
     <message>
         <source>a line is drawn inside though the text is outside</source>
-        <translation type="unfinished"></translation>
+        <translation>une ligne est tracée à l&apos;intérieur même si le texte est à l&apos;extérieur</translation>
     </message>
     <message>
         <source>a new annotation scale is given to annotative things</source>
-        <translation type="unfinished"></translation>
+        <translation>une nouvelle échelle d&apos;annotation est donnée aux objets annotatifs</translation>
     </message>
     <message>
         <source>a panel for fingers</source>
-        <translation type="unfinished"></translation>
+        <translation>un panneau pour les doigts</translation>
     </message>
     <message>
         <source>a picture is saved in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>une image est enregistrée dans le fichier</translation>
     </message>
     <message>
         <source>a real for programs, kept with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>un réel pour les programmes, conservé avec le dessin</translation>
     </message>
     <message>
         <source>a second unit is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>une seconde unité est affichée</translation>
     </message>
     <message>
         <source>a sheet that the printer lacks is told</source>
-        <translation type="unfinished"></translation>
+        <translation>une feuille que l&apos;imprimante n&apos;a pas est signalée</translation>
     </message>
     <message>
         <source>a text for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte pour les programmes</translation>
     </message>
     <message>
         <source>addresses that programs may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>adresses d&apos;où peuvent venir des programmes</translation>
     </message>
     <message>
         <source>after how long names are completed, in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>après combien de temps les noms sont complétés, en secondes</translation>
     </message>
     <message>
         <source>after how many milliseconds names are offered</source>
-        <translation type="unfinished"></translation>
+        <translation>après combien de millisecondes les noms sont proposés</translation>
     </message>
     <message>
         <source>all grips of clouds are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les poignées des nuages sont affichées</translation>
     </message>
     <message>
         <source>an empty place picked begins a window</source>
-        <translation type="unfinished"></translation>
+        <translation>un endroit vide désigné commence une fenêtre</translation>
     </message>
     <message>
         <source>an expression in the status line</source>
-        <translation type="unfinished"></translation>
+        <translation>une expression dans la barre d&apos;état</translation>
     </message>
     <message>
         <source>an integer for programs, kept with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>un entier pour les programmes, conservé avec le dessin</translation>
     </message>
     <message>
         <source>an orthographic view brings its coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>une vue orthogonale amène son système de coordonnées</translation>
     </message>
     <message>
         <source>and a foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>et un premier plan</translation>
     </message>
     <message>
         <source>and opened</source>
-        <translation type="unfinished"></translation>
+        <translation>et ouvert</translation>
     </message>
     <message>
         <source>angles count counterclockwise (0) or clockwise (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les angles comptent dans le sens trigonométrique (0) ou horaire (1)</translation>
     </message>
     <message>
         <source>annotative things are saved for older programs</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets annotatifs sont enregistrés pour des programmes plus anciens</translation>
     </message>
     <message>
         <source>annotative things show at every scale</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets annotatifs s&apos;affichent à toute échelle</translation>
     </message>
     <message>
         <source>arcs are smooth</source>
-        <translation type="unfinished"></translation>
+        <translation>les arcs sont lisses</translation>
     </message>
     <message>
         <source>areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>les surfaces sont remplies</translation>
     </message>
     <message>
         <source>areas that are hatched at once become a hatch each</source>
-        <translation type="unfinished"></translation>
+        <translation>les zones hachurées à la fois deviennent chacune une hachure</translation>
     </message>
     <message>
         <source>arrays stay one thing</source>
-        <translation type="unfinished"></translation>
+        <translation>les réseaux restent un seul objet</translation>
     </message>
     <message>
         <source>arrows outside are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>les flèches extérieures sont omises</translation>
     </message>
     <message>
         <source>attribute definitions may have several lines</source>
-        <translation type="unfinished"></translation>
+        <translation>les définitions d&apos;attributs peuvent avoir plusieurs lignes</translation>
     </message>
     <message>
         <source>attributes: none are shown (0), as they say (1), all (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>attributs : aucun n&apos;est affiché (0), selon leur réglage (1), tous (2)</translation>
     </message>
     <message>
         <source>blocks cannot be edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>les blocs ne peuvent pas être édités sur place</translation>
     </message>
     <message>
         <source>boundaries of hatches are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>les contours de hachures sont conservés</translation>
     </message>
     <message>
         <source>boxes of the screen menu</source>
-        <translation type="unfinished"></translation>
+        <translation>cases du menu d&apos;écran</translation>
     </message>
     <message>
         <source>breaches of standards are told</source>
-        <translation type="unfinished"></translation>
+        <translation>les infractions aux standards sont signalées</translation>
     </message>
     <message>
         <source>cameras are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les caméras sont affichées</translation>
     </message>
     <message>
         <source>centre marks have lines</source>
-        <translation type="unfinished"></translation>
+        <translation>les marques de centre ont des lignes</translation>
     </message>
     <message>
         <source>chains take the style of what they go on from (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les chaînes de cotes prennent le style de ce qu&apos;elles continuent (1)</translation>
     </message>
     <message>
         <source>chamfers by two distances (0) or by length and angle (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>chanfreins par deux distances (0) ou par longueur et angle (1)</translation>
     </message>
     <message>
         <source>changed external drawings are told</source>
-        <translation type="unfinished"></translation>
+        <translation>les dessins externes modifiés sont signalés</translation>
     </message>
     <message>
         <source>changes of external drawings&apos; blocks are told</source>
-        <translation type="unfinished"></translation>
+        <translation>les modifications des blocs de dessins externes sont signalées</translation>
     </message>
     <message>
         <source>changes of variables are told</source>
-        <translation type="unfinished"></translation>
+        <translation>les modifications de variables sont signalées</translation>
     </message>
     <message>
         <source>closed splines have no corner</source>
-        <translation type="unfinished"></translation>
+        <translation>les splines fermées n&apos;ont pas de coin</translation>
     </message>
     <message>
         <source>colours of external drawings&apos; entities go by layer</source>
-        <translation type="unfinished"></translation>
+        <translation>les couleurs des objets de dessins externes suivent le calque</translation>
     </message>
     <message>
         <source>columns of new paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>colonnes des nouveaux paragraphes</translation>
     </message>
     <message>
         <source>commands ask for files with a dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>les commandes demandent les fichiers par une boîte de dialogue</translation>
     </message>
     <message>
         <source>commands may show dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>les commandes peuvent afficher des boîtes de dialogue</translation>
     </message>
     <message>
         <source>commands of programs are echoed</source>
-        <translation type="unfinished"></translation>
+        <translation>les commandes des programmes sont affichées</translation>
     </message>
     <message>
         <source>crashes are reported</source>
-        <translation type="unfinished"></translation>
+        <translation>les plantages sont signalés</translation>
     </message>
     <message>
         <source>cuts curves off at others</source>
-        <translation type="unfinished"></translation>
+        <translation>coupe des courbes sur d&apos;autres</translation>
     </message>
     <message>
         <source>dark (0) or light (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>sombre (0) ou clair (1)</translation>
     </message>
     <message>
         <source>date and time as a number: YYYYMMDD.HHMMSS</source>
-        <translation type="unfinished"></translation>
+        <translation>date et heure en un nombre : AAAAMMJJ.HHMMSS</translation>
     </message>
     <message>
         <source>date and time as days of the Julian calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>date et heure en jours du calendrier julien</translation>
     </message>
     <message>
         <source>decimals of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales des angles</translation>
     </message>
     <message>
         <source>decimals of angles; -1 as DIMDEC</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales des angles ; -1 comme DIMDEC</translation>
     </message>
     <message>
         <source>decimals of dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales des cotes</translation>
     </message>
     <message>
         <source>decimals of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales des longueurs</translation>
     </message>
     <message>
         <source>decimals of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales de la seconde unité</translation>
     </message>
     <message>
         <source>decimals of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales des tolérances</translation>
     </message>
     <message>
         <source>decimals of tolerances in the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>décimales des tolérances dans la seconde unité</translation>
     </message>
     <message>
         <source>density of surfaces one way</source>
-        <translation type="unfinished"></translation>
+        <translation>densité des surfaces dans un sens</translation>
     </message>
     <message>
         <source>density of surfaces the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>densité des surfaces dans l&apos;autre sens</translation>
     </message>
     <message>
         <source>depth of the spatial index</source>
-        <translation type="unfinished"></translation>
+        <translation>profondeur de l&apos;index spatial</translation>
     </message>
     <message>
         <source>dialogs begin in the folder used last</source>
-        <translation type="unfinished"></translation>
+        <translation>les boîtes de dialogue commencent dans le dernier dossier utilisé</translation>
     </message>
     <message>
         <source>dimensions are exploded (0), one thing (1), or follow what they measure (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>les cotes sont décomposées (0), un seul objet (1), ou suivent ce qu&apos;elles mesurent (2)</translation>
     </message>
     <message>
         <source>dimensions are one thing (1) or exploded (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>les cotes sont un seul objet (1) ou décomposées (0)</translation>
     </message>
     <message>
         <source>dimensions change while they are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>les cotes changent pendant qu&apos;on les tire</translation>
     </message>
     <message>
         <source>drawings are checked when opened</source>
-        <translation type="unfinished"></translation>
+        <translation>les dessins sont contrôlés à l&apos;ouverture</translation>
     </message>
     <message>
         <source>drawings have tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>les dessins ont des onglets</translation>
     </message>
     <message>
         <source>drawings may be opened in part</source>
-        <translation type="unfinished"></translation>
+        <translation>les dessins peuvent être ouverts en partie</translation>
     </message>
     <message>
         <source>entities are shown while they are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets sont affichés pendant qu&apos;on les tire</translation>
     </message>
     <message>
         <source>entities have handles: always 1</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets ont des identificateurs : toujours 1</translation>
     </message>
     <message>
         <source>entities may be chosen before a command</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets peuvent être choisis avant une commande</translation>
     </message>
     <message>
         <source>entities that are chosen show grips</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets choisis montrent des poignées</translation>
     </message>
     <message>
         <source>erases what is there twice and makes one of lines and arcs that overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>efface ce qui est en double et réunit les lignes et arcs qui se recouvrent</translation>
     </message>
     <message>
         <source>everything but the drawing is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>tout sauf le dessin est caché</translation>
     </message>
     <message>
         <source>extension lines have a fixed length</source>
-        <translation type="unfinished"></translation>
+        <translation>les lignes d&apos;attache ont une longueur fixe</translation>
     </message>
     <message>
         <source>external drawings are read in part</source>
-        <translation type="unfinished"></translation>
+        <translation>les dessins externes sont lus en partie</translation>
     </message>
     <message>
         <source>fields have a ground</source>
-        <translation type="unfinished"></translation>
+        <translation>les champs ont un fond</translation>
     </message>
     <message>
         <source>folders that drawings may name files of</source>
-        <translation type="unfinished"></translation>
+        <translation>dossiers dont les dessins peuvent nommer les fichiers</translation>
     </message>
     <message>
         <source>folders that programs may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>dossiers d&apos;où peuvent venir des programmes</translation>
     </message>
     <message>
         <source>frames of clipped blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>cadres des blocs délimités</translation>
     </message>
     <message>
         <source>frames of masks</source>
-        <translation type="unfinished"></translation>
+        <translation>cadres des masques</translation>
     </message>
     <message>
         <source>frames of objects of other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>cadres des objets d&apos;autres programmes</translation>
     </message>
     <message>
         <source>frames of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>cadres des images</translation>
     </message>
     <message>
         <source>frames of splines and hidden edges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les cadres des splines et les arêtes cachées sont affichés</translation>
     </message>
     <message>
         <source>frames of underlays</source>
-        <translation type="unfinished"></translation>
+        <translation>cadres des fonds de plan</translation>
     </message>
     <message>
         <source>functions and variables are the drawing&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>fonctions et variables sont propres au dessin</translation>
     </message>
     <message>
         <source>further angles of polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>autres angles du repérage polaire</translation>
     </message>
     <message>
         <source>gaps of boundaries that are taken as closed</source>
-        <translation type="unfinished"></translation>
+        <translation>lacunes des contours considérées comme fermées</translation>
     </message>
     <message>
         <source>gaps where things cross others that are in front</source>
-        <translation type="unfinished"></translation>
+        <translation>lacunes où des objets en croisent d&apos;autres placés devant</translation>
     </message>
     <message>
         <source>gradients have one colour (1) or two (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>les dégradés ont une couleur (1) ou deux (0)</translation>
     </message>
     <message>
         <source>gradients lie in the middle (0) or beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>les dégradés sont centrés (0) ou décalés</translation>
     </message>
     <message>
         <source>grips have tips</source>
-        <translation type="unfinished"></translation>
+        <translation>les poignées ont des infobulles</translation>
     </message>
     <message>
         <source>grips within blocks are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les poignées dans les blocs sont affichées</translation>
     </message>
     <message>
         <source>groups and hatches with their boundary are chosen as one</source>
-        <translation type="unfinished"></translation>
+        <translation>groupes et hachures avec leur contour sont choisis d&apos;un bloc</translation>
     </message>
     <message>
         <source>half the size of the box of object snap, in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>demi-taille de la cible d&apos;accrochage aux objets, en pixels</translation>
     </message>
     <message>
         <source>half the size of the box that picks, in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>demi-taille de la cible de sélection, en pixels</translation>
     </message>
     <message>
         <source>hatches follow their boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>les hachures suivent leur contour</translation>
     </message>
     <message>
         <source>hatches may have linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>les hachures peuvent avoir des types de ligne</translation>
     </message>
     <message>
         <source>hatches of the user&apos;s lines cross</source>
-        <translation type="unfinished"></translation>
+        <translation>les hachures de lignes de l&apos;utilisateur se croisent</translation>
     </message>
     <message>
         <source>how angles are shown: degrees, minutes, gradians, radians, surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>affichage des angles : degrés, minutes, grades, radians, unités géodésiques</translation>
     </message>
     <message>
         <source>how areas are picked</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les zones sont désignées</translation>
     </message>
     <message>
         <source>how closely splines follow sketches</source>
-        <translation type="unfinished"></translation>
+        <translation>à quel point les splines suivent les esquisses</translation>
     </message>
     <message>
         <source>how clouds are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les nuages sont dessinés</translation>
     </message>
     <message>
         <source>how edges meet</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les arêtes se rencontrent</translation>
     </message>
     <message>
         <source>how exactly hidden lines are found</source>
-        <translation type="unfinished"></translation>
+        <translation>avec quelle précision les lignes cachées sont trouvées</translation>
     </message>
     <message>
         <source>how external drawings&apos; names are bound: with $ (0) or as if inserted (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les noms des dessins externes sont liés : avec $ (0) ou comme insérés (1)</translation>
     </message>
     <message>
         <source>how faces and edges are shaded</source>
-        <translation type="unfinished"></translation>
+        <translation>comment faces et arêtes sont ombrées</translation>
     </message>
     <message>
         <source>how far TRIM and EXTEND of hatches go</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu&apos;où vont TRIM et EXTEND de hachures</translation>
     </message>
     <message>
         <source>how far apart ends may be that JOIN puts together</source>
-        <translation type="unfinished"></translation>
+        <translation>quel écart peuvent avoir les extrémités que JOIN réunit</translation>
     </message>
     <message>
         <source>how far centre lines go beyond</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien les lignes de centre dépassent</translation>
     </message>
     <message>
         <source>how far extension lines go beyond the line</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien les lignes d&apos;attache dépassent la ligne de cote</translation>
     </message>
     <message>
         <source>how far extension lines stay from what is measured</source>
-        <translation type="unfinished"></translation>
+        <translation>à quelle distance les lignes d&apos;attache restent de ce qui est mesuré</translation>
     </message>
     <message>
         <source>how far new entities rise above their plane</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien les nouveaux objets s&apos;élèvent au-dessus de leur plan</translation>
     </message>
     <message>
         <source>how far the line goes beyond extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien la ligne de cote dépasse les lignes d&apos;attache</translation>
     </message>
     <message>
         <source>how far the text stands from the line</source>
-        <translation type="unfinished"></translation>
+        <translation>à quelle distance de la ligne se tient le texte</translation>
     </message>
     <message>
         <source>how far tracking lines go</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu&apos;où vont les lignes de repérage</translation>
     </message>
     <message>
         <source>how fit points share the knots</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les points de lissage partagent les nœuds</translation>
     </message>
     <message>
         <source>how fractions are written</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les fractions sont écrites</translation>
     </message>
     <message>
         <source>how grips offer more than one thing</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les poignées offrent plus d&apos;une chose</translation>
     </message>
     <message>
         <source>how large points look</source>
-        <translation type="unfinished"></translation>
+        <translation>quelle taille ont les points</translation>
     </message>
     <message>
         <source>how lengths are shown: scientific, decimal, engineering, architectural, fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>affichage des longueurs : scientifique, décimal, ingénierie, architecture, fractionnaire</translation>
     </message>
     <message>
         <source>how lofted surfaces are shaped, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>forme des surfaces lissées, en bits</translation>
     </message>
     <message>
         <source>how lofted surfaces leave their sections</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les surfaces lissées quittent leurs sections</translation>
     </message>
     <message>
         <source>how long</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de temps</translation>
     </message>
     <message>
         <source>how long smooth changes of the view take, in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>durée des changements de vue en douceur, en millisecondes</translation>
     </message>
     <message>
         <source>how long the drawing was worked on</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de temps le dessin a été travaillé</translation>
     </message>
     <message>
         <source>how long the right button is held for a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de temps le bouton droit est tenu pour un menu</translation>
     </message>
     <message>
         <source>how many corners a face may have</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de coins une face peut avoir</translation>
     </message>
     <message>
         <source>how many dimensions are shown while a grip is pulled</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de cotes sont affichées pendant qu&apos;on tire une poignée</translation>
     </message>
     <message>
         <source>how many entities the panel of properties takes</source>
-        <translation type="unfinished"></translation>
+        <translation>combien d&apos;objets prend le panneau des propriétés</translation>
     </message>
     <message>
         <source>how many lines a hatch may have</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de lignes une hachure peut avoir</translation>
     </message>
     <message>
         <source>how many lines of input are remembered</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de lignes de saisie sont retenues</translation>
     </message>
     <message>
         <source>how many lines of the grid lie between two stronger ones</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de lignes de la grille se trouvent entre deux plus fortes</translation>
     </message>
     <message>
         <source>how many names are listed in order</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de noms sont listés dans l&apos;ordre</translation>
     </message>
     <message>
         <source>how many sides POLYGON proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de côtés propose POLYGON</translation>
     </message>
     <message>
         <source>how many turns HELIX proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de tours propose HELIX</translation>
     </message>
     <message>
         <source>how many viewports may show something</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de fenêtres peuvent montrer quelque chose</translation>
     </message>
     <message>
         <source>how much</source>
-        <translation type="unfinished"></translation>
+        <translation>combien</translation>
     </message>
     <message>
         <source>how much external drawings fade</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien s&apos;estompent les dessins externes</translation>
     </message>
     <message>
         <source>how much light is scattered</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de lumière est diffusée</translation>
     </message>
     <message>
         <source>how much locked layers fade</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien s&apos;estompent les calques verrouillés</translation>
     </message>
     <message>
         <source>how much of a file may be waste before it is saved whole</source>
-        <translation type="unfinished"></translation>
+        <translation>quelle part d&apos;un fichier peut être perdue avant qu&apos;il soit enregistré en entier</translation>
     </message>
     <message>
         <source>how much the wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien zoome la molette</translation>
     </message>
     <message>
         <source>how much what is not edited fades</source>
-        <translation type="unfinished"></translation>
+        <translation>de combien s&apos;estompe ce qui n&apos;est pas édité</translation>
     </message>
     <message>
         <source>how names are completed, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les noms sont complétés, en bits</translation>
     </message>
     <message>
         <source>how often dragging is drawn again with regeneration</source>
-        <translation type="unfinished"></translation>
+        <translation>fréquence de redessin du déplacement avec régénération</translation>
     </message>
     <message>
         <source>how often dragging is drawn again without</source>
-        <translation type="unfinished"></translation>
+        <translation>fréquence de redessin du déplacement sans régénération</translation>
     </message>
     <message>
         <source>how paragraphs are shown while edited</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les paragraphes sont affichés pendant l&apos;édition</translation>
     </message>
     <message>
         <source>how places on earth are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les lieux sur terre sont affichés</translation>
     </message>
     <message>
         <source>how points look</source>
-        <translation type="unfinished"></translation>
+        <translation>aspect des points</translation>
     </message>
     <message>
         <source>how polar and object tracking work, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>comment fonctionnent le repérage polaire et le repérage d&apos;objets, en bits</translation>
     </message>
     <message>
         <source>how programs are tested, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les programmes sont testés, en bits</translation>
     </message>
     <message>
         <source>how sheets are turned</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les feuilles sont tournées</translation>
     </message>
     <message>
         <source>how smooth letters are plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>finesse des lettres au tracé</translation>
     </message>
     <message>
         <source>how smooth round things are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>finesse d&apos;affichage des objets ronds</translation>
     </message>
     <message>
         <source>how stacked texts are aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les textes superposés sont alignés</translation>
     </message>
     <message>
         <source>how surfaces are smoothed</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les surfaces sont lissées</translation>
     </message>
     <message>
         <source>how text and arrows share the room, in the old form</source>
-        <translation type="unfinished"></translation>
+        <translation>comment texte et flèches se partagent la place, à l&apos;ancienne</translation>
     </message>
     <message>
         <source>how texts are aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les textes sont alignés</translation>
     </message>
     <message>
         <source>how texts are edited</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les textes sont édités</translation>
     </message>
     <message>
         <source>how the dialog of hatches is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>comment la boîte de dialogue des hachures est affichée</translation>
     </message>
     <message>
         <source>how the grid is shown, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>comment la grille est affichée, en bits</translation>
     </message>
     <message>
         <source>how the status line shows the pointer&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>comment la barre d&apos;état montre la place du pointeur</translation>
     </message>
     <message>
         <source>how undo works, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>comment fonctionne l&apos;annulation, en bits</translation>
     </message>
     <message>
         <source>how unknown entities are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les objets inconnus sont affichés</translation>
     </message>
     <message>
         <source>how well objects of other programs are plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>qualité de tracé des objets d&apos;autres programmes</translation>
     </message>
     <message>
         <source>how well pictures are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>qualité d&apos;affichage des images</translation>
     </message>
     <message>
         <source>how what is under the pointer is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>comment est affiché ce qui est sous le pointeur</translation>
     </message>
     <message>
         <source>how wide lines end</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les lignes larges finissent</translation>
     </message>
     <message>
         <source>how wide lines meet</source>
-        <translation type="unfinished"></translation>
+        <translation>comment les lignes larges se rencontrent</translation>
     </message>
     <message>
         <source>indices of layers and places are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>des index des calques et des lieux sont tenus</translation>
     </message>
     <message>
         <source>islands are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>les îlots sont recherchés</translation>
     </message>
     <message>
         <source>its colour</source>
-        <translation type="unfinished"></translation>
+        <translation>sa couleur</translation>
     </message>
     <message>
         <source>kept as it is set, for programs: nothing here depends on it</source>
-        <translation type="unfinished"></translation>
+        <translation>conservé comme défini, pour les programmes : rien n&apos;en dépend ici</translation>
     </message>
     <message>
         <source>kept for programs that ask for it</source>
-        <translation type="unfinished"></translation>
+        <translation>conservé pour les programmes qui le demandent</translation>
     </message>
     <message>
         <source>keys that override a mode for a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>touches qui changent un mode pour un moment</translation>
     </message>
     <message>
         <source>layers of external drawings keep what is set here</source>
-        <translation type="unfinished"></translation>
+        <translation>les calques des dessins externes gardent ce qui est défini ici</translation>
     </message>
     <message>
         <source>layers without entities are shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>les calques sans objets sont affichés comme tels</translation>
     </message>
     <message>
         <source>layouts have tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>les présentations ont des onglets</translation>
     </message>
     <message>
         <source>lengthens curves up to others</source>
-        <translation type="unfinished"></translation>
+        <translation>prolonge des courbes jusqu&apos;à d&apos;autres</translation>
     </message>
     <message>
         <source>lengths are shown as they are typed</source>
-        <translation type="unfinished"></translation>
+        <translation>les longueurs sont affichées comme elles sont saisies</translation>
     </message>
     <message>
         <source>letters are filled when plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>les lettres sont remplies au tracé</translation>
     </message>
     <message>
         <source>limits are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les limites sont affichées</translation>
     </message>
     <message>
         <source>line spacing at least (1) or exactly (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>interligne au moins (1) ou exactement (2)</translation>
     </message>
     <message>
         <source>lines are drawn smoothly</source>
-        <translation type="unfinished"></translation>
+        <translation>les lignes sont dessinées lisses</translation>
     </message>
     <message>
         <source>lines between two corners of a spline-fitted polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>lignes entre deux coins d&apos;une polyligne lissée en spline</translation>
     </message>
     <message>
         <source>lines of history that the command line shows</source>
-        <translation type="unfinished"></translation>
+        <translation>lignes d&apos;historique que montre la ligne de commande</translation>
     </message>
     <message>
         <source>lines of surfaces one way</source>
-        <translation type="unfinished"></translation>
+        <translation>lignes des surfaces dans un sens</translation>
     </message>
     <message>
         <source>lines of surfaces the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>lignes des surfaces dans l&apos;autre sens</translation>
     </message>
     <message>
         <source>lines on round solids</source>
-        <translation type="unfinished"></translation>
+        <translation>lignes sur les solides ronds</translation>
     </message>
     <message>
         <source>lines where solids meet are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les lignes où des solides se rencontrent sont affichées</translation>
     </message>
     <message>
         <source>linetypes in model space take the annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>les types de ligne de l&apos;espace objet prennent l&apos;échelle d&apos;annotation</translation>
     </message>
     <message>
         <source>linetypes in viewports take the scale of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>les types de ligne des fenêtres prennent l&apos;échelle de la feuille</translation>
     </message>
     <message>
         <source>linetypes run through the corners of polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>les types de ligne continuent dans les coins des polylignes</translation>
     </message>
     <message>
         <source>lineweights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les épaisseurs de ligne sont affichées</translation>
     </message>
     <message>
         <source>lineweights are shown in inches (0) or millimetres (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les épaisseurs de ligne sont affichées en pouces (0) ou en millimètres (1)</translation>
     </message>
     <message>
         <source>makes one curve of several that meet or lie on one line or circle</source>
-        <translation type="unfinished"></translation>
+        <translation>fait une courbe de plusieurs qui se touchent ou sont sur une même ligne ou un même cercle</translation>
     </message>
     <message>
         <source>makes regions of closed loops</source>
-        <translation type="unfinished"></translation>
+        <translation>fait des régions de boucles fermées</translation>
     </message>
     <message>
         <source>marks and tips of object snap, polar and object tracking, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>marques et infobulles de l&apos;accrochage, du repérage polaire et du repérage d&apos;objets, en bits</translation>
     </message>
     <message>
         <source>marks of centres: their size, negative with lines, 0 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>marques de centre : leur taille, négative avec lignes, 0 pour aucune</translation>
     </message>
     <message>
         <source>marks where points were picked</source>
-        <translation type="unfinished"></translation>
+        <translation>marques où des points ont été désignés</translation>
     </message>
     <message>
         <source>measures areas and perimeters of corners and curves</source>
-        <translation type="unfinished"></translation>
+        <translation>mesure les aires et périmètres de coins et de courbes</translation>
     </message>
     <message>
         <source>measures curves and makes them longer or shorter</source>
-        <translation type="unfinished"></translation>
+        <translation>mesure des courbes et les allonge ou les raccourcit</translation>
     </message>
     <message>
         <source>menus follow the command</source>
-        <translation type="unfinished"></translation>
+        <translation>les menus suivent la commande</translation>
     </message>
     <message>
         <source>menus of the right button, as bits: at rest, for what is chosen, at prompts, with options, held</source>
-        <translation type="unfinished"></translation>
+        <translation>menus du bouton droit, en bits : au repos, pour ce qui est choisi, aux invites, avec options, tenu</translation>
     </message>
     <message>
         <source>milliseconds since the machine was started</source>
-        <translation type="unfinished"></translation>
+        <translation>millisecondes depuis le démarrage de la machine</translation>
     </message>
     <message>
         <source>minutes between automatic saves</source>
-        <translation type="unfinished"></translation>
+        <translation>minutes entre les enregistrements automatiques</translation>
     </message>
     <message>
         <source>model space is shown (1) or a layout (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;espace objet est affiché (1) ou une présentation (0)</translation>
     </message>
     <message>
         <source>names may be long and have blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>les noms peuvent être longs et avoir des espaces</translation>
     </message>
     <message>
         <source>names of applications come with external drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>des noms d&apos;applications viennent avec les dessins externes</translation>
     </message>
     <message>
         <source>new drawings are imperial (0) or metric (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouveaux dessins sont impériaux (0) ou métriques (1)</translation>
     </message>
     <message>
         <source>new external drawings are attached (0) or overlaid (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouveaux dessins externes sont attachés (0) ou superposés (1)</translation>
     </message>
     <message>
         <source>new external drawings have no path (0), a relative (1) or a full one (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouveaux dessins externes n&apos;ont pas de chemin (0), un chemin relatif (1) ou complet (2)</translation>
     </message>
     <message>
         <source>new hatches are annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouvelles hachures sont annotatives</translation>
     </message>
     <message>
         <source>new layers are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouveaux calques sont recherchés</translation>
     </message>
     <message>
         <source>new layouts get a viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouvelles présentations reçoivent une fenêtre</translation>
     </message>
     <message>
         <source>new texts are in capitals</source>
-        <translation type="unfinished"></translation>
+        <translation>les nouveaux textes sont en majuscules</translation>
     </message>
     <message>
         <source>notes are shown in the status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>les notes sont affichées dans la barre d&apos;état</translation>
     </message>
     <message>
         <source>object snap finds hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;accrochage aux objets trouve les hachures</translation>
     </message>
     <message>
         <source>object snap finds underlays</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;accrochage aux objets trouve les fonds de plan</translation>
     </message>
     <message>
         <source>object snap takes the height of the user&apos;s plane</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;accrochage aux objets prend la hauteur du plan de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>object snaps in space, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>accrochages aux objets dans l&apos;espace, en bits</translation>
     </message>
     <message>
         <source>objects of other programs are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets d&apos;autres programmes sont cachés</translation>
     </message>
     <message>
         <source>one drawing at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>un dessin à la fois</translation>
     </message>
     <message>
         <source>one text is edited (1) or several (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte est édité (1) ou plusieurs (0)</translation>
     </message>
     <message>
         <source>patterns are mirrored with hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>les motifs sont mis en miroir avec les hachures</translation>
     </message>
     <message>
         <source>pictures are shown whole when chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>les images sont montrées en entier quand elles sont choisies</translation>
     </message>
     <message>
         <source>pictures have a ground</source>
-        <translation type="unfinished"></translation>
+        <translation>les images ont un fond</translation>
     </message>
     <message>
         <source>pictures of unknown entities are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>les images des objets inconnus sont enregistrées</translation>
     </message>
     <message>
         <source>plot styles go by colour (1) or name (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>les styles de tracé suivent la couleur (1) ou le nom (0)</translation>
     </message>
     <message>
         <source>points must be within the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>les points doivent être dans les limites</translation>
     </message>
     <message>
         <source>points typed beside the pointer are polar (0) or cartesian (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les points saisis au pointeur sont polaires (0) ou cartésiens (1)</translation>
     </message>
     <message>
         <source>points typed beside the pointer are relative (0) or absolute (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les points saisis au pointeur sont relatifs (0) ou absolus (1)</translation>
     </message>
     <message>
         <source>polylines are made light: never (0), new ones (1), old ones too (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>les polylignes sont allégées : jamais (0), les nouvelles (1), les anciennes aussi (2)</translation>
     </message>
     <message>
         <source>programs from elsewhere: loaded (0), asked for (1), refused (2); trusted folders decide here</source>
-        <translation type="unfinished"></translation>
+        <translation>programmes venus d&apos;ailleurs : chargés (0), demandés (1), refusés (2) ; les dossiers de confiance décident ici</translation>
     </message>
     <message>
         <source>prompts are not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>les invites ne sont pas affichées</translation>
     </message>
     <message>
         <source>prompts are shown beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>les invites sont affichées au pointeur</translation>
     </message>
     <message>
         <source>prompts beside the pointer, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>invites au pointeur, en bits</translation>
     </message>
     <message>
         <source>puts points or blocks at steps along a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>place des points ou des blocs à intervalles le long d&apos;une courbe</translation>
     </message>
     <message>
         <source>puts points or blocks that cut a curve into equal parts</source>
-        <translation type="unfinished"></translation>
+        <translation>place des points ou des blocs qui coupent une courbe en parties égales</translation>
     </message>
     <message>
         <source>quick properties are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les propriétés rapides sont affichées</translation>
     </message>
     <message>
         <source>regeneration on several processors</source>
-        <translation type="unfinished"></translation>
+        <translation>régénération sur plusieurs processeurs</translation>
     </message>
     <message>
         <source>reversing a polyline swaps its widths</source>
-        <translation type="unfinished"></translation>
+        <translation>inverser une polyligne échange ses largeurs</translation>
     </message>
     <message>
         <source>saving keeps a backup</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;enregistrement conserve une copie de sauvegarde</translation>
     </message>
     <message>
         <source>scripts plot without questions</source>
-        <translation type="unfinished"></translation>
+        <translation>les scripts tracent sans questions</translation>
     </message>
     <message>
         <source>silhouettes of solids are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>les silhouettes des solides sont dessinées</translation>
     </message>
     <message>
         <source>sketches become lines (0), polylines (1), splines (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>les esquisses deviennent des lignes (0), polylignes (1), splines (2)</translation>
     </message>
     <message>
         <source>snap goes by the grid (0) or by polar tracking (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>la résolution suit la grille (0) ou le repérage polaire (1)</translation>
     </message>
     <message>
         <source>snap is square (0) or isometric (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>la résolution est rectangulaire (0) ou isométrique (1)</translation>
     </message>
     <message>
         <source>solids are checked</source>
-        <translation type="unfinished"></translation>
+        <translation>les solides sont contrôlés</translation>
     </message>
     <message>
         <source>solids keep their history</source>
-        <translation type="unfinished"></translation>
+        <translation>les solides gardent leur historique</translation>
     </message>
     <message>
         <source>spline-fitted polylines are quadratic (5) or cubic (6)</source>
-        <translation type="unfinished"></translation>
+        <translation>les polylignes lissées en spline sont quadratiques (5) ou cubiques (6)</translation>
     </message>
     <message>
         <source>splines become polylines of lines (0) or arcs (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les splines deviennent des polylignes de lignes (0) ou d&apos;arcs (1)</translation>
     </message>
     <message>
         <source>splines go by fit points (0) or control points (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>les splines suivent des points de lissage (0) ou de contrôle (1)</translation>
     </message>
     <message>
         <source>start-up programs are loaded into every drawing (1) or the first (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>les programmes de démarrage sont chargés dans chaque dessin (1) ou le premier (0)</translation>
     </message>
     <message>
         <source>steps of a walk in a second</source>
-        <translation type="unfinished"></translation>
+        <translation>pas d&apos;une promenade par seconde</translation>
     </message>
     <message>
         <source>such settings are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>de tels réglages sont affichés</translation>
     </message>
     <message>
         <source>symbols are shown in the status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>les symboles sont affichés dans la barre d&apos;état</translation>
     </message>
     <message>
         <source>takes a part out of a curve, or cuts it in two</source>
-        <translation type="unfinished"></translation>
+        <translation>retire une partie d&apos;une courbe, ou la coupe en deux</translation>
     </message>
     <message>
         <source>texts are kept inside</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes sont maintenus à l&apos;intérieur</translation>
     </message>
     <message>
         <source>texts are mirrored with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes sont mis en miroir avec le dessin</translation>
     </message>
     <message>
         <source>texts are read the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes se lisent dans l&apos;autre sens</translation>
     </message>
     <message>
         <source>texts are shown as boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes sont affichés en rectangles</translation>
     </message>
     <message>
         <source>texts hide and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes cachent et sont cachés</translation>
     </message>
     <message>
         <source>texts inside are level</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes intérieurs sont horizontaux</translation>
     </message>
     <message>
         <source>texts outside are level</source>
-        <translation type="unfinished"></translation>
+        <translation>les textes extérieurs sont horizontaux</translation>
     </message>
     <message>
         <source>the address of the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;adresse du navigateur</translation>
     </message>
     <message>
         <source>the angle of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angle des dégradés</translation>
     </message>
     <message>
         <source>the angle of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angle des hachures</translation>
     </message>
     <message>
         <source>the angle of the jog of large radii</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angle du raccourcissement des grands rayons</translation>
     </message>
     <message>
         <source>the angle that ROTATE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angle que propose ROTATE</translation>
     </message>
     <message>
         <source>the angle that UCS proposes for a turn</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angle que propose UCS pour une rotation</translation>
     </message>
     <message>
         <source>the arcs of clouds differ</source>
-        <translation type="unfinished"></translation>
+        <translation>les arcs des nuages diffèrent</translation>
     </message>
     <message>
         <source>the area that was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;aire mesurée en dernier</translation>
     </message>
     <message>
         <source>the arrow at both ends</source>
-        <translation type="unfinished"></translation>
+        <translation>la flèche aux deux extrémités</translation>
     </message>
     <message>
         <source>the arrow at the first end</source>
-        <translation type="unfinished"></translation>
+        <translation>la flèche à la première extrémité</translation>
     </message>
     <message>
         <source>the arrow at the second end</source>
-        <translation type="unfinished"></translation>
+        <translation>la flèche à la seconde extrémité</translation>
     </message>
     <message>
         <source>the arrow of leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>la flèche des lignes de repère</translation>
     </message>
     <message>
         <source>the bar of navigation is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barre de navigation est affichée</translation>
     </message>
     <message>
         <source>the base point of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le point de base du dessin</translation>
     </message>
     <message>
         <source>the blank key ends a line of a list</source>
-        <translation type="unfinished"></translation>
+        <translation>la touche espace termine une ligne de liste</translation>
     </message>
     <message>
         <source>the block that INSERT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>le bloc que propose INSERT</translation>
     </message>
     <message>
         <source>the block that is edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>le bloc édité sur place</translation>
     </message>
     <message>
         <source>the blocks inserted last</source>
-        <translation type="unfinished"></translation>
+        <translation>les derniers blocs insérés</translation>
     </message>
     <message>
         <source>the box of object snap is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la cible d&apos;accrochage aux objets est affichée</translation>
     </message>
     <message>
         <source>the chamfer angle</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angle de chanfrein</translation>
     </message>
     <message>
         <source>the chamfer length</source>
-        <translation type="unfinished"></translation>
+        <translation>la longueur de chanfrein</translation>
     </message>
     <message>
         <source>the code page of the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la page de codes de la machine</translation>
     </message>
     <message>
         <source>the colour of crossing windows</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des fenêtres de capture</translation>
     </message>
     <message>
         <source>the colour of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des lignes de cote</translation>
     </message>
     <message>
         <source>the colour of extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des lignes d&apos;attache</translation>
     </message>
     <message>
         <source>the colour of grips</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des poignées</translation>
     </message>
     <message>
         <source>the colour of hidden lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des lignes cachées</translation>
     </message>
     <message>
         <source>the colour of lines where solids meet</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des lignes où des solides se rencontrent</translation>
     </message>
     <message>
         <source>the colour of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des nouveaux objets</translation>
     </message>
     <message>
         <source>the colour of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des nouvelles hachures ; &quot;.&quot; est la couleur courante</translation>
     </message>
     <message>
         <source>the colour of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des textes</translation>
     </message>
     <message>
         <source>the colour of the grip that is pulled</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur de la poignée tirée</translation>
     </message>
     <message>
         <source>the colour of the grip under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur de la poignée sous le pointeur</translation>
     </message>
     <message>
         <source>the colour of the grips of dynamic blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des poignées des blocs dynamiques</translation>
     </message>
     <message>
         <source>the colour of windows of selections</source>
-        <translation type="unfinished"></translation>
+        <translation>la couleur des fenêtres de sélection</translation>
     </message>
     <message>
         <source>the command line is written to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne de commande est écrite dans un fichier</translation>
     </message>
     <message>
         <source>the commands that are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>les commandes en cours</translation>
     </message>
     <message>
         <source>the control key goes through what lies above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>la touche Ctrl parcourt ce qui est superposé</translation>
     </message>
     <message>
         <source>the cube of views is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le cube de vues est affiché</translation>
     </message>
     <message>
         <source>the cube of views is shown in flat views</source>
-        <translation type="unfinished"></translation>
+        <translation>le cube de vues est affiché dans les vues planes</translation>
     </message>
     <message>
         <source>the current dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de cote courant</translation>
     </message>
     <message>
         <source>the current dimension style is annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de cote courant est annotatif</translation>
     </message>
     <message>
         <source>the decimal separator</source>
-        <translation type="unfinished"></translation>
+        <translation>le séparateur décimal</translation>
     </message>
     <message>
         <source>the default lineweight, in hundredths of a millimetre</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;épaisseur de ligne par défaut, en centièmes de millimètre</translation>
     </message>
     <message>
         <source>the degree of new splines</source>
-        <translation type="unfinished"></translation>
+        <translation>le degré des nouvelles splines</translation>
     </message>
     <message>
         <source>the dictionary of spelling</source>
-        <translation type="unfinished"></translation>
+        <translation>le dictionnaire d&apos;orthographe</translation>
     </message>
     <message>
         <source>the distance of dimension lines above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>la distance entre lignes de cote superposées</translation>
     </message>
     <message>
         <source>the distance of the back clipping plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la distance du plan de délimitation arrière</translation>
     </message>
     <message>
         <source>the distance of the front clipping plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la distance du plan de délimitation avant</translation>
     </message>
     <message>
         <source>the distance of the user&apos;s lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la distance des lignes de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the distance that OFFSET proposes; negative for through a point</source>
-        <translation type="unfinished"></translation>
+        <translation>la distance que propose OFFSET ; négative pour par un point</translation>
     </message>
     <message>
         <source>the distance that was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>la distance mesurée en dernier</translation>
     </message>
     <message>
         <source>the distances of the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>les distances de la grille</translation>
     </message>
     <message>
         <source>the drawing behaves as annotative when inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin se comporte en annotatif quand il est inséré</translation>
     </message>
     <message>
         <source>the drawing has a name</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin a un nom</translation>
     </message>
     <message>
         <source>the drawing may be edited in place by others</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin peut être édité sur place par d&apos;autres</translation>
     </message>
     <message>
         <source>the drawing may be written</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin peut être écrit</translation>
     </message>
     <message>
         <source>the drawing takes imperial (0) or metric (1) patterns</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin prend des motifs impériaux (0) ou métriques (1)</translation>
     </message>
     <message>
         <source>the drawing was opened whole</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin a été ouvert en entier</translation>
     </message>
     <message>
         <source>the drawing&apos;s code page</source>
-        <translation type="unfinished"></translation>
+        <translation>la page de codes du dessin</translation>
     </message>
     <message>
         <source>the drawing&apos;s file name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de fichier du dessin</translation>
     </message>
     <message>
         <source>the drawing&apos;s folder</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier du dessin</translation>
     </message>
     <message>
         <source>the drawing&apos;s unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unité de longueur du dessin</translation>
     </message>
     <message>
         <source>the editor of paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;éditeur de paragraphes</translation>
     </message>
     <message>
         <source>the encoding of text files</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;encodage des fichiers texte</translation>
     </message>
     <message>
         <source>the end direction of the arc drawn last</source>
-        <translation type="unfinished"></translation>
+        <translation>la direction de fin du dernier arc dessiné</translation>
     </message>
     <message>
         <source>the ends have arrows of their own</source>
-        <translation type="unfinished"></translation>
+        <translation>les extrémités ont leurs propres flèches</translation>
     </message>
     <message>
         <source>the factor of a unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>le facteur des parties d&apos;une unité</translation>
     </message>
     <message>
         <source>the factor of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>le facteur des longueurs</translation>
     </message>
     <message>
         <source>the factor of the line spacing of paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>le facteur d&apos;interligne des paragraphes</translation>
     </message>
     <message>
         <source>the factor of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>le facteur de la seconde unité</translation>
     </message>
     <message>
         <source>the factor of the second unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>le facteur des parties de la seconde unité</translation>
     </message>
     <message>
         <source>the factor that SCALE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>le facteur que propose SCALE</translation>
     </message>
     <message>
         <source>the far corner of the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>le coin éloigné des limites</translation>
     </message>
     <message>
         <source>the far corner of the virtual screen</source>
-        <translation type="unfinished"></translation>
+        <translation>le coin éloigné de l&apos;écran virtuel</translation>
     </message>
     <message>
         <source>the far corner of what the space shows</source>
-        <translation type="unfinished"></translation>
+        <translation>le coin éloigné de ce que montre l&apos;espace</translation>
     </message>
     <message>
         <source>the file of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier de la ligne de commande</translation>
     </message>
     <message>
         <source>the file of the last automatic save</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier du dernier enregistrement automatique</translation>
     </message>
     <message>
         <source>the file of the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier du menu</translation>
     </message>
     <message>
         <source>the file that says which font replaces which</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier qui dit quelle police en remplace une autre</translation>
     </message>
     <message>
         <source>the file that was saved last</source>
-        <translation type="unfinished"></translation>
+        <translation>le dernier fichier enregistré</translation>
     </message>
     <message>
         <source>the first chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la première distance de chanfrein</translation>
     </message>
     <message>
         <source>the first colour of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>la première couleur des dégradés</translation>
     </message>
     <message>
         <source>the first extension line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la première ligne d&apos;attache est omise</translation>
     </message>
     <message>
         <source>the first half of the line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la première moitié de la ligne est omise</translation>
     </message>
     <message>
         <source>the focal length of perspective views</source>
-        <translation type="unfinished"></translation>
+        <translation>la focale des vues en perspective</translation>
     </message>
     <message>
         <source>the folder of automatic saves</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier des enregistrements automatiques</translation>
     </message>
     <message>
         <source>the folder of such files</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier de tels fichiers</translation>
     </message>
     <message>
         <source>the folder of temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier des fichiers temporaires</translation>
     </message>
     <message>
         <source>the folder of the user&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier des données de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the folder of the user&apos;s documents</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier des documents de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the folder of what stays on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier de ce qui reste sur cette machine</translation>
     </message>
     <message>
         <source>the folder that the program was started in</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier où le programme a été démarré</translation>
     </message>
     <message>
         <source>the folders that files are looked for in</source>
-        <translation type="unfinished"></translation>
+        <translation>les dossiers où les fichiers sont cherchés</translation>
     </message>
     <message>
         <source>the font for those that are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la police de celles qui manquent</translation>
     </message>
     <message>
         <source>the format of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>le format des angles</translation>
     </message>
     <message>
         <source>the format of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>le format des longueurs</translation>
     </message>
     <message>
         <source>the format of lengths, in the old form</source>
-        <translation type="unfinished"></translation>
+        <translation>le format des longueurs, à l&apos;ancienne</translation>
     </message>
     <message>
         <source>the format of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>le format de la seconde unité</translation>
     </message>
     <message>
         <source>the frames of pictures, underlays and clips</source>
-        <translation type="unfinished"></translation>
+        <translation>les cadres des images, fonds de plan et délimitations</translation>
     </message>
     <message>
         <source>the gap between a multileader&apos;s landing and its text</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;écart entre la ligne de guidage d&apos;un repère multiple et son texte</translation>
     </message>
     <message>
         <source>the gap of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;écart des marques de centre</translation>
     </message>
     <message>
         <source>the grid is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la grille est affichée</translation>
     </message>
     <message>
         <source>the ground of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>le fond des hachures</translation>
     </message>
     <message>
         <source>the ground of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>le fond des textes</translation>
     </message>
     <message>
         <source>the handle that comes next</source>
-        <translation type="unfinished"></translation>
+        <translation>le prochain identificateur</translation>
     </message>
     <message>
         <source>the height of POLYSOLID</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur de POLYSOLID</translation>
     </message>
     <message>
         <source>the height of new cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur des nouvelles caméras</translation>
     </message>
     <message>
         <source>the height of new entities above the user&apos;s plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur des nouveaux objets au-dessus du plan de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the height of new entities on sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur des nouveaux objets sur les feuilles</translation>
     </message>
     <message>
         <source>the height of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur des textes</translation>
     </message>
     <message>
         <source>the height of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur de la vue</translation>
     </message>
     <message>
         <source>the height that shadows fall on</source>
-        <translation type="unfinished"></translation>
+        <translation>la hauteur sur laquelle tombent les ombres</translation>
     </message>
     <message>
         <source>the history of solids is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;historique des solides est affiché</translation>
     </message>
     <message>
         <source>the inner diameter that DONUT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>le diamètre intérieur que propose DONUT</translation>
     </message>
     <message>
         <source>the isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>le plan isométrique</translation>
     </message>
     <message>
         <source>the kind of array that is proposed</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de réseau proposé</translation>
     </message>
     <message>
         <source>the kind of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>le type des dégradés</translation>
     </message>
     <message>
         <source>the language of the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la langue de la machine</translation>
     </message>
     <message>
         <source>the last dialog ended with OK</source>
-        <translation type="unfinished"></translation>
+        <translation>la dernière boîte de dialogue a fini par OK</translation>
     </message>
     <message>
         <source>the last line of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>la dernière ligne de la ligne de commande</translation>
     </message>
     <message>
         <source>the layer of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>le calque des marques de centre</translation>
     </message>
     <message>
         <source>the layer of new dimensions; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>le calque des nouvelles cotes ; &quot;.&quot; est le calque courant</translation>
     </message>
     <message>
         <source>the layer of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>le calque des nouveaux objets</translation>
     </message>
     <message>
         <source>the layer of new external drawings; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>le calque des nouveaux dessins externes ; &quot;.&quot; est le calque courant</translation>
     </message>
     <message>
         <source>the layer of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>le calque des nouvelles hachures ; &quot;.&quot; est le calque courant</translation>
     </message>
     <message>
         <source>the least speed of smooth changes of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la vitesse minimale des changements de vue en douceur</translation>
     </message>
     <message>
         <source>the length of extension lines, where fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>la longueur des lignes d&apos;attache, où elle est fixe</translation>
     </message>
     <message>
         <source>the length of the arcs of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>la longueur des arcs des nuages</translation>
     </message>
     <message>
         <source>the length round what was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>le périmètre de ce qui a été mesuré en dernier</translation>
     </message>
     <message>
         <source>the linetype of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne des marques de centre</translation>
     </message>
     <message>
         <source>the linetype of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne des lignes de cote</translation>
     </message>
     <message>
         <source>the linetype of hidden lines</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne des lignes cachées</translation>
     </message>
     <message>
         <source>the linetype of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne des nouveaux objets</translation>
     </message>
     <message>
         <source>the linetype of the first extension line</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne de la première ligne d&apos;attache</translation>
     </message>
     <message>
         <source>the linetype of the second extension line</source>
-        <translation type="unfinished"></translation>
+        <translation>le type de ligne de la seconde ligne d&apos;attache</translation>
     </message>
     <message>
         <source>the linetype scale of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle du type de ligne des marques de centre</translation>
     </message>
     <message>
         <source>the linetype scale of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle du type de ligne des nouveaux objets</translation>
     </message>
     <message>
         <source>the lineweight of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;épaisseur des lignes de cote</translation>
     </message>
     <message>
         <source>the lineweight of extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;épaisseur des lignes d&apos;attache</translation>
     </message>
     <message>
         <source>the lineweight of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;épaisseur de ligne des nouveaux objets</translation>
     </message>
     <message>
         <source>the longest arc of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>le plus long arc des nuages</translation>
     </message>
     <message>
         <source>the lower tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>la tolérance inférieure</translation>
     </message>
     <message>
         <source>the maintenance version of the drawing&apos;s format</source>
-        <translation type="unfinished"></translation>
+        <translation>la version de maintenance du format du dessin</translation>
     </message>
     <message>
         <source>the material of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>le matériau des nouveaux objets</translation>
     </message>
     <message>
         <source>the menu bar is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barre de menus est affichée</translation>
     </message>
     <message>
         <source>the menus of viewports are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les menus des fenêtres sont affichés</translation>
     </message>
     <message>
         <source>the middle of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>le milieu de la vue</translation>
     </message>
     <message>
         <source>the most memory that Lisp may take, in megabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire maximale que Lisp peut prendre, en mégaoctets</translation>
     </message>
     <message>
         <source>the most nodes of the spatial index</source>
-        <translation type="unfinished"></translation>
+        <translation>le nombre maximal de nœuds de l&apos;index spatial</translation>
     </message>
     <message>
         <source>the name of the current annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de l&apos;échelle d&apos;annotation courante</translation>
     </message>
     <message>
         <source>the name of the layout that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de la présentation affichée</translation>
     </message>
     <message>
         <source>the name of the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du menu</translation>
     </message>
     <message>
         <source>the name of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du programme</translation>
     </message>
     <message>
         <source>the name of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du projet</translation>
     </message>
     <message>
         <source>the name of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>the name of the user&apos;s profile</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du profil de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the near corner of the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>le coin proche des limites</translation>
     </message>
     <message>
         <source>the near corner of the virtual screen</source>
-        <translation type="unfinished"></translation>
+        <translation>le coin proche de l&apos;écran virtuel</translation>
     </message>
     <message>
         <source>the near corner of what the space shows</source>
-        <translation type="unfinished"></translation>
+        <translation>le coin proche de ce que montre l&apos;espace</translation>
     </message>
     <message>
         <source>the number of the current viewport; 1 is the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>le numéro de la fenêtre courante ; 1 est la feuille</translation>
     </message>
     <message>
         <source>the offset of plots counts from the margin (0) or the edge (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>le décalage des tracés compte depuis la marge (0) ou le bord (1)</translation>
     </message>
     <message>
         <source>the operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>le système d&apos;exploitation</translation>
     </message>
     <message>
         <source>the origin of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;origine des hachures</translation>
     </message>
     <message>
         <source>the origin of snap and grid</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;origine de la résolution et de la grille</translation>
     </message>
     <message>
         <source>the origin of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;origine du système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>the outer diameter that DONUT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>le diamètre extérieur que propose DONUT</translation>
     </message>
     <message>
         <source>the panel of databases is open</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau des bases de données est ouvert</translation>
     </message>
     <message>
         <source>the panel of external drawings is open</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau des dessins externes est ouvert</translation>
     </message>
     <message>
         <source>the panel of layers is open</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau des calques est ouvert</translation>
     </message>
     <message>
         <source>the panel of other drawings&apos; contents is open</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau du contenu d&apos;autres dessins est ouvert</translation>
     </message>
     <message>
         <source>the panel of properties is open</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau des propriétés est ouvert</translation>
     </message>
     <message>
         <source>the pattern of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>le motif des hachures</translation>
     </message>
     <message>
         <source>the plan view follows the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>la vue en plan suit le système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>the plane follows faces</source>
-        <translation type="unfinished"></translation>
+        <translation>le plan suit les faces</translation>
     </message>
     <message>
         <source>the plot style of layer 0 in new drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de tracé du calque 0 dans les nouveaux dessins</translation>
     </message>
     <message>
         <source>the plot style of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de tracé des nouveaux objets</translation>
     </message>
     <message>
         <source>the plot style of new entities in new drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>le style de tracé des nouveaux objets dans les nouveaux dessins</translation>
     </message>
     <message>
         <source>the point given last</source>
-        <translation type="unfinished"></translation>
+        <translation>le dernier point donné</translation>
     </message>
     <message>
         <source>the pointer moves along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>le pointeur se déplace selon les axes</translation>
     </message>
     <message>
         <source>the pointer moves in steps</source>
-        <translation type="unfinished"></translation>
+        <translation>le pointeur se déplace par pas</translation>
     </message>
     <message>
         <source>the program of such an object is started for a plot</source>
-        <translation type="unfinished"></translation>
+        <translation>le programme d&apos;un tel objet est démarré pour un tracé</translation>
     </message>
     <message>
         <source>the radius that CIRCLE proposes; 0 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>le rayon que propose CIRCLE ; 0 pour aucun</translation>
     </message>
     <message>
         <source>the radius that FILLET takes</source>
-        <translation type="unfinished"></translation>
+        <translation>le rayon que prend FILLET</translation>
     </message>
     <message>
         <source>the release of the dialect, beginning with its number</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du dialecte, commençant par son numéro</translation>
     </message>
     <message>
         <source>the ribbon is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le ruban est affiché</translation>
     </message>
     <message>
         <source>the room round the text; negative with a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>la place autour du texte ; négative avec un cadre</translation>
     </message>
     <message>
         <source>the running object snaps, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>les accrochages aux objets actifs, en bits</translation>
     </message>
     <message>
         <source>the scale of all linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle de tous les types de ligne</translation>
     </message>
     <message>
         <source>the scale of everything in dimensions; 0 by the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle de tout dans les cotes ; 0 selon la feuille</translation>
     </message>
     <message>
         <source>the scale of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle des hachures</translation>
     </message>
     <message>
         <source>the scale of multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle des repères multiples</translation>
     </message>
     <message>
         <source>the scale of multilines</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle des multilignes</translation>
     </message>
     <message>
         <source>the scale of new viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle des nouvelles fenêtres</translation>
     </message>
     <message>
         <source>the scale of objects of other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;échelle des objets d&apos;autres programmes</translation>
     </message>
     <message>
         <source>the scales of chosen annotative things are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les échelles des objets annotatifs choisis sont affichées</translation>
     </message>
     <message>
         <source>the second chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconde distance de chanfrein</translation>
     </message>
     <message>
         <source>the second colour of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconde couleur des dégradés</translation>
     </message>
     <message>
         <source>the second extension line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconde ligne d&apos;attache est omise</translation>
     </message>
     <message>
         <source>the second half of the line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconde moitié de la ligne est omise</translation>
     </message>
     <message>
         <source>the shadow of an entity</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ombre d&apos;un objet</translation>
     </message>
     <message>
         <source>the shape that SHAPE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>la forme que propose SHAPE</translation>
     </message>
     <message>
         <source>the sheet set of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeu de feuilles du dessin</translation>
     </message>
     <message>
         <source>the shortest arc of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>le plus court arc des nuages</translation>
     </message>
     <message>
         <source>the size of a step in a walk</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille d&apos;un pas de promenade</translation>
     </message>
     <message>
         <source>the size of arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille des flèches</translation>
     </message>
     <message>
         <source>the size of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille des marques de centre</translation>
     </message>
     <message>
         <source>the size of grips in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille des poignées en pixels</translation>
     </message>
     <message>
         <source>the size of stacked texts, as per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille des textes superposés, en pour cent</translation>
     </message>
     <message>
         <source>the size of the box that picks dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille de la cible qui désigne les cotes</translation>
     </message>
     <message>
         <source>the size of the cross hairs, as per cent of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille du réticule, en pour cent de la fenêtre</translation>
     </message>
     <message>
         <source>the size of the drawing&apos;s window in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille de la fenêtre du dessin en pixels</translation>
     </message>
     <message>
         <source>the size of ticks; 0 for arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille des traits obliques ; 0 pour des flèches</translation>
     </message>
     <message>
         <source>the size of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>la taille des tolérances</translation>
     </message>
     <message>
         <source>the start page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la page d&apos;accueil est affichée</translation>
     </message>
     <message>
         <source>the status bar is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barre d&apos;état est affichée</translation>
     </message>
     <message>
         <source>the status bar may have two lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la barre d&apos;état peut avoir deux lignes</translation>
     </message>
     <message>
         <source>the step along polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>le pas le long du repérage polaire</translation>
     </message>
     <message>
         <source>the step of polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>le pas du repérage polaire</translation>
     </message>
     <message>
         <source>the step of sketches</source>
-        <translation type="unfinished"></translation>
+        <translation>le pas des esquisses</translation>
     </message>
     <message>
         <source>the steps of snap</source>
-        <translation type="unfinished"></translation>
+        <translation>les pas de la résolution</translation>
     </message>
     <message>
         <source>the style of details</source>
-        <translation type="unfinished"></translation>
+        <translation>le style des détails</translation>
     </message>
     <message>
         <source>the style of multilines</source>
-        <translation type="unfinished"></translation>
+        <translation>le style des multilignes</translation>
     </message>
     <message>
         <source>the style of new multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>le style des nouveaux repères multiples</translation>
     </message>
     <message>
         <source>the style of new tables</source>
-        <translation type="unfinished"></translation>
+        <translation>le style des nouveaux tableaux</translation>
     </message>
     <message>
         <source>the style of sections</source>
-        <translation type="unfinished"></translation>
+        <translation>le style des coupes</translation>
     </message>
     <message>
         <source>the style of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>le style des textes</translation>
     </message>
     <message>
         <source>the symbol of the axes, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>le symbole des axes, en bits</translation>
     </message>
     <message>
         <source>the text around the number</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte autour du nombre</translation>
     </message>
     <message>
         <source>the text around the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte autour de la seconde unité</translation>
     </message>
     <message>
         <source>the text of a unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte des parties d&apos;une unité</translation>
     </message>
     <message>
         <source>the text of the second unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte des parties de la seconde unité</translation>
     </message>
     <message>
         <source>the text stands above the line</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte se tient au-dessus de la ligne</translation>
     </message>
     <message>
         <source>the text that hangs at the pointer where MTEXT asks</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte suspendu au pointeur quand MTEXT demande</translation>
     </message>
     <message>
         <source>the tint of gradients of one colour</source>
-        <translation type="unfinished"></translation>
+        <translation>la teinte des dégradés d&apos;une couleur</translation>
     </message>
     <message>
         <source>the tool palettes are open</source>
-        <translation type="unfinished"></translation>
+        <translation>les palettes d&apos;outils sont ouvertes</translation>
     </message>
     <message>
         <source>the transparency of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparence des nouveaux objets</translation>
     </message>
     <message>
         <source>the transparency of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparence des nouvelles hachures ; &quot;.&quot; est la transparence courante</translation>
     </message>
     <message>
         <source>the turn of snap and grid</source>
-        <translation type="unfinished"></translation>
+        <translation>la rotation de la résolution et de la grille</translation>
     </message>
     <message>
         <source>the turn of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la rotation de la vue</translation>
     </message>
     <message>
         <source>the unit of drawings that say none, when inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unité des dessins qui n&apos;en disent pas, quand ils sont insérés</translation>
     </message>
     <message>
         <source>the unit of the drawing that says none</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unité du dessin qui n&apos;en dit pas</translation>
     </message>
     <message>
         <source>the upper tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>la tolérance supérieure</translation>
     </message>
     <message>
         <source>the user places the text</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;utilisateur place le texte</translation>
     </message>
     <message>
         <source>the user&apos;s coordinate system is the world&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>le système de coordonnées utilisateur est le système général</translation>
     </message>
     <message>
         <source>the user&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the user&apos;s own dictionary of spelling</source>
-        <translation type="unfinished"></translation>
+        <translation>le dictionnaire d&apos;orthographe de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the user&apos;s timer</source>
-        <translation type="unfinished"></translation>
+        <translation>le chronomètre de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>the user&apos;s timer is on</source>
-        <translation type="unfinished"></translation>
+        <translation>le chronomètre de l&apos;utilisateur est en marche</translation>
     </message>
     <message>
         <source>the value of the current annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur de l&apos;échelle d&apos;annotation courante</translation>
     </message>
     <message>
         <source>the version of bodies that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>la version des corps écrits</translation>
     </message>
     <message>
         <source>the version of the drawing&apos;s file, as &quot;AC1032&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du fichier de dessin, comme &quot;AC1032&quot;</translation>
     </message>
     <message>
         <source>the view is a perspective</source>
-        <translation type="unfinished"></translation>
+        <translation>la vue est une perspective</translation>
     </message>
     <message>
         <source>the viewport has layers with settings of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>la fenêtre a des calques avec leurs propres réglages</translation>
     </message>
     <message>
         <source>the wheel button pans</source>
-        <translation type="unfinished"></translation>
+        <translation>le bouton de la molette déplace la vue</translation>
     </message>
     <message>
         <source>the width of POLYSOLID</source>
-        <translation type="unfinished"></translation>
+        <translation>la largeur de POLYSOLID</translation>
     </message>
     <message>
         <source>the width of polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>la largeur des polylignes</translation>
     </message>
     <message>
         <source>the width of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>la largeur des tracés larges</translation>
     </message>
     <message>
         <source>the workspace</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;espace de travail</translation>
     </message>
     <message>
         <source>the x axis of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;axe x du système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>the y axis of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;axe y du système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>the zone of the drawing&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>le fuseau du lieu du dessin</translation>
     </message>
     <message>
         <source>their distance</source>
-        <translation type="unfinished"></translation>
+        <translation>leur distance</translation>
     </message>
     <message>
         <source>their distances</source>
-        <translation type="unfinished"></translation>
+        <translation>leurs distances</translation>
     </message>
     <message>
         <source>there are menus</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a des menus</translation>
     </message>
     <message>
         <source>ticks along the axes, in early programs</source>
-        <translation type="unfinished"></translation>
+        <translation>graduations le long des axes, dans les premiers programmes</translation>
     </message>
     <message>
         <source>ticks of the clock, for measuring</source>
-        <translation type="unfinished"></translation>
+        <translation>battements de l&apos;horloge, pour mesurer</translation>
     </message>
     <message>
         <source>tips are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les infobulles sont affichées</translation>
     </message>
     <message>
         <source>tips on the keys beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>infobulles sur les touches au pointeur</translation>
     </message>
     <message>
         <source>tips on what is under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>infobulles sur ce qui est sous le pointeur</translation>
     </message>
     <message>
         <source>tolerances are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>les tolérances sont affichées</translation>
     </message>
     <message>
         <source>transparency is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparence est tracée</translation>
     </message>
     <message>
         <source>transparency is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparence est affichée</translation>
     </message>
     <message>
         <source>typed coordinates go before object snap: never (0), always (1), not in scripts (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>les coordonnées saisies l&apos;emportent sur l&apos;accrochage : jamais (0), toujours (1), sauf dans les scripts (2)</translation>
     </message>
     <message>
         <source>units of light</source>
-        <translation type="unfinished"></translation>
+        <translation>unités de lumière</translation>
     </message>
     <message>
         <source>unknown entities are told</source>
-        <translation type="unfinished"></translation>
+        <translation>les objets inconnus sont signalés</translation>
     </message>
     <message>
         <source>viewports keep their coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>les fenêtres gardent leur système de coordonnées</translation>
     </message>
     <message>
         <source>views are made anew when needed</source>
-        <translation type="unfinished"></translation>
+        <translation>les vues sont régénérées au besoin</translation>
     </message>
     <message>
         <source>views count from the world (1) or the user&apos;s system (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>les vues comptent depuis le système général (1) ou celui de l&apos;utilisateur (0)</translation>
     </message>
     <message>
         <source>views keep their coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>les vues gardent leur système de coordonnées</translation>
     </message>
     <message>
         <source>what TRIM and EXTEND project on</source>
-        <translation type="unfinished"></translation>
+        <translation>sur quoi TRIM et EXTEND projettent</translation>
     </message>
     <message>
         <source>what a file&apos;s tab shows</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que montre l&apos;onglet d&apos;un fichier</translation>
     </message>
     <message>
         <source>what commands make others of is erased</source>
-        <translation type="unfinished"></translation>
+        <translation>ce dont les commandes font autre chose est effacé</translation>
     </message>
     <message>
         <source>what fills the gaps of offset polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui comble les lacunes des polylignes décalées</translation>
     </message>
     <message>
         <source>what goes out first where there is no room</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui sort d&apos;abord où la place manque</translation>
     </message>
     <message>
         <source>what happens to external drawings is logged</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui arrive aux dessins externes est consigné</translation>
     </message>
     <message>
         <source>what has changed since the drawing was saved, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui a changé depuis l&apos;enregistrement du dessin, en bits</translation>
     </message>
     <message>
         <source>what is asked when a block is defined again</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est demandé quand un bloc est redéfini</translation>
     </message>
     <message>
         <source>what is chosen is added to what was</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est choisi s&apos;ajoute à ce qui l&apos;était</translation>
     </message>
     <message>
         <source>what is chosen is drawn smoothly</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est choisi est dessiné lisse</translation>
     </message>
     <message>
         <source>what is chosen is shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est choisi est montré comme tel</translation>
     </message>
     <message>
         <source>what is chosen of things that hide each other</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est choisi d&apos;objets qui se cachent</translation>
     </message>
     <message>
         <source>what is cut off near the eye, as per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est coupé près de l&apos;œil, en pour cent</translation>
     </message>
     <message>
         <source>what is done after a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est fait après un plantage</translation>
     </message>
     <message>
         <source>what is not shown under the pointer, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui n&apos;est pas montré sous le pointeur, en bits</translation>
     </message>
     <message>
         <source>what is offered while one types</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est proposé pendant la frappe</translation>
     </message>
     <message>
         <source>what is plotted in the background, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est tracé en arrière-plan, en bits</translation>
     </message>
     <message>
         <source>what is shown while a grip is pulled, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est montré pendant qu&apos;on tire une poignée, en bits</translation>
     </message>
     <message>
         <source>what is shown while attributes are edited</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est montré pendant l&apos;édition d&apos;attributs</translation>
     </message>
     <message>
         <source>what is under the pointer is shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est sous le pointeur est montré comme tel</translation>
     </message>
     <message>
         <source>what is under way: a command (1), transparent one (2), script (4), dialog (8), Lisp (32)</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est en cours : une commande (1), transparente (2), script (4), boîte de dialogue (8), Lisp (32)</translation>
     </message>
     <message>
         <source>what keeps to the drawing order</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui respecte l&apos;ordre de tracé</translation>
     </message>
     <message>
         <source>what keeps to the order of the file, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui respecte l&apos;ordre du fichier, en bits</translation>
     </message>
     <message>
         <source>what layouts keep ready</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que les présentations tiennent prêt</translation>
     </message>
     <message>
         <source>what lengths are rounded to</source>
-        <translation type="unfinished"></translation>
+        <translation>à quoi les longueurs sont arrondies</translation>
     </message>
     <message>
         <source>what lies above each other is offered</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui est superposé est proposé</translation>
     </message>
     <message>
         <source>what menus echo, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que les menus affichent, en bits</translation>
     </message>
     <message>
         <source>what moves with the text</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qui se déplace avec le texte</translation>
     </message>
     <message>
         <source>what new drawings do</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que font les nouveaux dessins</translation>
     </message>
     <message>
         <source>what object snap leaves out, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que l&apos;accrochage aux objets laisse de côté, en bits</translation>
     </message>
     <message>
         <source>what orthographic settings count from</source>
-        <translation type="unfinished"></translation>
+        <translation>depuis quoi comptent les réglages orthogonaux</translation>
     </message>
     <message>
         <source>what relative links start from</source>
-        <translation type="unfinished"></translation>
+        <translation>d&apos;où partent les liens relatifs</translation>
     </message>
     <message>
         <source>what similar means, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que veut dire semblable, en bits</translation>
     </message>
     <message>
         <source>what the picture in the file shows</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que montre l&apos;image dans le fichier</translation>
     </message>
     <message>
         <source>what the program shows at its start</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que montre le programme à son démarrage</translation>
     </message>
     <message>
         <source>what the screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que montre l&apos;écran</translation>
     </message>
     <message>
         <source>what the second unit is rounded to</source>
-        <translation type="unfinished"></translation>
+        <translation>à quoi la seconde unité est arrondie</translation>
     </message>
     <message>
         <source>what the view is: perspective, clipped, ..., as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ce qu&apos;est la vue : perspective, délimitée, ..., en bits</translation>
     </message>
     <message>
         <source>what the view looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que regarde la vue</translation>
     </message>
     <message>
         <source>when coordinates are shown beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>quand les coordonnées sont montrées au pointeur</translation>
     </message>
     <message>
         <source>when fields are evaluated, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>quand les champs sont évalués, en bits</translation>
     </message>
     <message>
         <source>when it was made, in world time</source>
-        <translation type="unfinished"></translation>
+        <translation>quand il a été créé, en temps universel</translation>
     </message>
     <message>
         <source>when it was saved last</source>
-        <translation type="unfinished"></translation>
+        <translation>quand il a été enregistré en dernier</translation>
     </message>
     <message>
         <source>when it was saved last, in world time</source>
-        <translation type="unfinished"></translation>
+        <translation>quand il a été enregistré en dernier, en temps universel</translation>
     </message>
     <message>
         <source>when links to tables are checked</source>
-        <translation type="unfinished"></translation>
+        <translation>quand les liens aux tableaux sont contrôlés</translation>
     </message>
     <message>
         <source>when modules of other makers are loaded, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>quand les modules d&apos;autres fabricants sont chargés, en bits</translation>
     </message>
     <message>
         <source>when new layers are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>quand les nouveaux calques sont recherchés</translation>
     </message>
     <message>
         <source>when new layers are told, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>quand les nouveaux calques sont signalés, en bits</translation>
     </message>
     <message>
         <source>when the drawing was made</source>
-        <translation type="unfinished"></translation>
+        <translation>quand le dessin a été créé</translation>
     </message>
     <message>
         <source>when the pointer snaps to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>quand le pointeur s&apos;accroche à la grille</translation>
     </message>
     <message>
         <source>where a hatch like another has its origin</source>
-        <translation type="unfinished"></translation>
+        <translation>où une hachure semblable à une autre a son origine</translation>
     </message>
     <message>
         <source>where angles count from, from the x axis</source>
-        <translation type="unfinished"></translation>
+        <translation>d&apos;où comptent les angles, depuis l&apos;axe x</translation>
     </message>
     <message>
         <source>where earlier input is offered, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>où les saisies antérieures sont proposées, en bits</translation>
     </message>
     <message>
         <source>where multilines lie on their points: top, middle, bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>où les multilignes se tiennent sur leurs points : haut, milieu, bas</translation>
     </message>
     <message>
         <source>where new hatches lie in the drawing order</source>
-        <translation type="unfinished"></translation>
+        <translation>où se placent les nouvelles hachures dans l&apos;ordre de tracé</translation>
     </message>
     <message>
         <source>where north is, from the y axis</source>
-        <translation type="unfinished"></translation>
+        <translation>où est le nord, depuis l&apos;axe y</translation>
     </message>
     <message>
         <source>where on earth the drawing is</source>
-        <translation type="unfinished"></translation>
+        <translation>où sur terre se trouve le dessin</translation>
     </message>
     <message>
         <source>where quick properties are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>où les propriétés rapides sont affichées</translation>
     </message>
     <message>
         <source>where the grid is of dots, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>où la grille est faite de points, en bits</translation>
     </message>
     <message>
         <source>where the origin of hatches lies</source>
-        <translation type="unfinished"></translation>
+        <translation>où se trouve l&apos;origine des hachures</translation>
     </message>
     <message>
         <source>where the sign of an arc&apos;s length stands</source>
-        <translation type="unfinished"></translation>
+        <translation>où se tient le signe d&apos;une longueur d&apos;arc</translation>
     </message>
     <message>
         <source>where the text stands along the line</source>
-        <translation type="unfinished"></translation>
+        <translation>où se tient le texte le long de la ligne</translation>
     </message>
     <message>
         <source>where the view is seen from</source>
-        <translation type="unfinished"></translation>
+        <translation>d&apos;où la vue est regardée</translation>
     </message>
     <message>
         <source>where to look for what knows them</source>
-        <translation type="unfinished"></translation>
+        <translation>où chercher ce qui les connaît</translation>
     </message>
     <message>
         <source>where tolerances stand beside the number</source>
-        <translation type="unfinished"></translation>
+        <translation>où se tiennent les tolérances à côté du nombre</translation>
     </message>
     <message>
         <source>which changes of the view are smooth</source>
-        <translation type="unfinished"></translation>
+        <translation>quels changements de vue se font en douceur</translation>
     </message>
     <message>
         <source>which extents count</source>
-        <translation type="unfinished"></translation>
+        <translation>quelles étendues comptent</translation>
     </message>
     <message>
         <source>which islands a hatch leaves out</source>
-        <translation type="unfinished"></translation>
+        <translation>quels îlots une hachure laisse de côté</translation>
     </message>
     <message>
         <source>which parts of solids are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>quelles parties de solides sont choisies</translation>
     </message>
     <message>
         <source>which pictures in the file are kept up</source>
-        <translation type="unfinished"></translation>
+        <translation>quelles images du fichier sont tenues à jour</translation>
     </message>
     <message>
         <source>which questions commands leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>quelles questions les commandes laissent de côté</translation>
     </message>
     <message>
         <source>which tips beside the pointer take its settings</source>
-        <translation type="unfinished"></translation>
+        <translation>quelles infobulles au pointeur prennent ses réglages</translation>
     </message>
     <message>
         <source>which tool bars and panels are fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>quelles barres d&apos;outils et quels panneaux sont fixes</translation>
     </message>
     <message>
         <source>which way the wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>dans quel sens zoome la molette</translation>
     </message>
     <message>
         <source>why a function of Lisp failed, as a number</source>
-        <translation type="unfinished"></translation>
+        <translation>pourquoi une fonction Lisp a échoué, en nombre</translation>
     </message>
     <message>
         <source>windows are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>les fenêtres sont tirées</translation>
     </message>
     <message>
         <source>windows of selections are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>les fenêtres de sélection sont remplies</translation>
     </message>
     <message>
         <source>with more boundaries than this HATCH warns</source>
-        <translation type="unfinished"></translation>
+        <translation>avec plus de contours que cela, HATCH avertit</translation>
     </message>
     <message>
         <source>with more entities than this no grips are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>avec plus d&apos;objets que cela, aucune poignée n&apos;est affichée</translation>
     </message>
     <message>
         <source>words of object snap replace the running modes</source>
-        <translation type="unfinished"></translation>
+        <translation>les mots d&apos;accrochage remplacent les modes actifs</translation>
     </message>
     <message>
         <source>zeros of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>zéros des angles</translation>
     </message>
     <message>
         <source>zeros of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>zéros des longueurs</translation>
     </message>
     <message>
         <source>zeros of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>zéros de la seconde unité</translation>
     </message>
     <message>
         <source>zeros of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>zéros des tolérances</translation>
     </message>
     <message>
         <source>zeros of tolerances in the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>zéros des tolérances dans la seconde unité</translation>
     </message>
 </context>
 <context>
     <name>Kernel</name>
     <message>
         <source>%1 has no file yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas encore de fichier.</translation>
     </message>
     <message>
         <source>
 More files that the drawing names were not read.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+D&apos;autres fichiers que nomme le dessin n&apos;ont pas été lus.
+</translation>
     </message>
     <message>
         <source>
 %1 was not read: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;a pas été lu : %2.
+</translation>
     </message>
     <message>
         <source>%1 (recovered)</source>
-        <translation type="unfinished">%1 (récupéré)</translation>
+        <translation>%1 (récupéré)</translation>
     </message>
     <message>
         <source>
 Saving this drawing was broken off once. What was to be saved is in %1; the drawing&apos;s own file may have only a part of it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;enregistrement de ce dessin a été interrompu une fois. Ce qui devait être enregistré est dans %1 ; le fichier du dessin lui-même n&apos;en a peut-être qu&apos;une partie.
+</translation>
     </message>
     <message>
         <source>The document has no Lisp engine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n&apos;a pas de moteur Lisp.</translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande inconnue &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>%1 was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été annulé.</translation>
     </message>
     <message>
         <source>%1: %2; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 ; rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>%1 stays open while a session is played on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 reste ouvert pendant qu&apos;une session s&apos;y joue.</translation>
     </message>
     <message>
         <source>%1 was not closed: it was changed since.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas été fermé : il a été modifié depuis.</translation>
     </message>
     <message>
         <source>%1 was not closed: a program of it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas été fermé : l&apos;un de ses programmes s&apos;exécute.</translation>
     </message>
     <message>
         <source>%1: %2 done, %3 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 faits, %3 ignorés</translation>
     </message>
     <message>
         <source>and %1 more
 </source>
-        <translation type="unfinished"></translation>
+        <translation>et %1 de plus
+</translation>
     </message>
     <message>
         <source>
 *Cancel*
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+*Annulé*
+</translation>
     </message>
     <message>
         <source>This cannot be allowed here: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela ne peut pas être autorisé ici : %1.</translation>
     </message>
     <message>
         <source>The folder cannot be trusted: everyone may write to it, or its name has a &quot;;&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>On ne peut pas faire confiance à ce dossier : tout le monde peut y écrire, ou son nom contient un &quot;;&quot;.</translation>
     </message>
     <message>
         <source>The list cannot be kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste ne peut pas être conservée dans %1.</translation>
     </message>
     <message>
         <source>its folder is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>son dossier n&apos;est pas de confiance</translation>
     </message>
     <message>
         <source>everyone may write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tout le monde peut écrire dans %1</translation>
     </message>
     <message>
         <source>
 TRUSTEDPATHS cannot be kept in %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+TRUSTEDPATHS ne peut pas être conservé dans %1.
+</translation>
     </message>
     <message>
         <source>
 %1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;a pas été chargé : %2. TRUSTEDPATHS, ou l&apos;option --trust, nomme les dossiers dont les programmes peuvent s&apos;exécuter.
+</translation>
     </message>
     <message>
         <source>%1 was opened for reading only; save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été ouvert en lecture seule ; enregistrez-le sous un autre nom.</translation>
     </message>
     <message>
         <source>%1 was changed by another program since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été modifié par un autre programme depuis qu&apos;il a été ouvert ou enregistré ici.</translation>
     </message>
     <message>
         <source>%1 is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;existe plus.</translation>
     </message>
     <message>
         <source>%1 is the damaged file that this drawing was recovered from; save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est le fichier endommagé d&apos;où ce dessin a été récupéré ; enregistrez-le sous un autre nom.</translation>
     </message>
     <message>
         <source>%1 leads to another file than when it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mène à un autre fichier que lorsqu&apos;il a été ouvert ou enregistré ici.</translation>
     </message>
     <message>
         <source>%1 is open in this program; close it first, or give another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est ouvert dans ce programme ; fermez-le d&apos;abord, ou donnez un autre nom.</translation>
     </message>
     <message>
         <source>%1 is open in another program (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est ouvert dans un autre programme (%2).</translation>
     </message>
     <message>
         <source> of </source>
-        <translation type="unfinished"></translation>
+        <translation> de </translation>
     </message>
     <message>
         <source> (need %1): </source>
-        <translation type="unfinished"></translation>
+        <translation> (besoin de %1) : </translation>
     </message>
     <message>
         <source>
 Second point of mid: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Second point du milieu : </translation>
     </message>
     <message>
         <source>
 First point of mid: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Premier point du milieu : </translation>
     </message>
     <message>
         <source>&lt;Offset&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Décalage&gt; : </translation>
     </message>
     <message>
         <source>
 Base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Point de base : </translation>
     </message>
     <message>
         <source>
 Next point (Press ENTER to end tracking): </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Point suivant (ENTRÉE termine le repérage) : </translation>
     </message>
     <message>
         <source>
 First tracking point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Premier point de repérage : </translation>
     </message>
     <message>
         <source>
 Specify point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez un point : </translation>
     </message>
     <message>
         <source>
 Specify temporary tracking point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez un point de repérage temporaire : </translation>
     </message>
     <message>
         <source>Requires an integer value or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier ou un mot-clé est nécessaire.</translation>
     </message>
     <message>
         <source>Requires numeric value or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre ou un mot-clé est nécessaire.</translation>
     </message>
     <message>
         <source>Requires numeric distance, two points, or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une distance numérique, deux points ou un mot-clé est nécessaire.</translation>
     </message>
     <message>
         <source>Requires valid numeric angle, two points, or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un angle numérique valide, deux points ou un mot-clé est nécessaire.</translation>
     </message>
     <message>
         <source>Point or option keyword required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point ou un mot-clé est nécessaire.</translation>
     </message>
     <message>
         <source>Requires an integer value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier est nécessaire.</translation>
     </message>
     <message>
         <source>Requires numeric value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre est nécessaire.</translation>
     </message>
     <message>
         <source>Requires numeric distance or two points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une distance numérique ou deux points sont nécessaires.</translation>
     </message>
     <message>
         <source>Requires valid numeric angle or two points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un angle numérique valide ou deux points sont nécessaires.</translation>
     </message>
     <message>
         <source>Invalid option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot-clé non valide.</translation>
     </message>
     <message>
         <source>Expects a point or %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point ou %1 est attendu.</translation>
     </message>
     <message>
         <source>Invalid input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie non valide.</translation>
     </message>
     <message>
         <source>Invalid point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Point non valide.</translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur ne doit pas être nulle.</translation>
     </message>
     <message>
         <source>Value must not be negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur ne doit pas être négative.</translation>
     </message>
     <message>
         <source>**Outside limits</source>
-        <translation type="unfinished"></translation>
+        <translation>**Hors des limites</translation>
     </message>
     <message>
         <source>
 Specify second point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez le second point : </translation>
     </message>
     <message>
         <source> to </source>
-        <translation type="unfinished"></translation>
+        <translation> à </translation>
     </message>
     <message>
         <source>
 Angle Override: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Angle imposé : </translation>
     </message>
     <message>
         <source>No %1 found for specified point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introuvable au point spécifié : %1.</translation>
     </message>
     <message>
         <source>
 Enter group name: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Entrez le nom du groupe : </translation>
     </message>
     <message>
         <source>
 Remove objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Retirez des objets : </translation>
     </message>
     <message>
         <source>
 First point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Premier point : </translation>
     </message>
     <message>
         <source>
 Specify first corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez le premier coin : </translation>
     </message>
     <message>
         <source>
 Next point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Point suivant : </translation>
     </message>
     <message>
         <source>
 Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spécifiez le coin opposé : </translation>
     </message>
     <message>
         <source>
 Command has been completely undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La commande a été entièrement annulée.</translation>
     </message>
     <message>
         <source>
 Cannot find group &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Groupe &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>
 %1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 trouvé(s)</translation>
     </message>
     <message>
         <source>
 %1 found, %2 total</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 trouvé(s), %2 au total</translation>
     </message>
     <message>
         <source>
 Select objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sélectionnez des objets : </translation>
     </message>
     <message>
         <source>endpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>extrémité</translation>
     </message>
     <message>
         <source>midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>milieu</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>centre</translation>
     </message>
     <message>
         <source>node</source>
-        <translation type="unfinished"></translation>
+        <translation>nodal</translation>
     </message>
     <message>
         <source>quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>quadrant</translation>
     </message>
     <message>
         <source>intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>intersection</translation>
     </message>
     <message>
         <source>insertion point</source>
-        <translation type="unfinished"></translation>
+        <translation>point d&apos;insertion</translation>
     </message>
     <message>
         <source>perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>perpendiculaire</translation>
     </message>
     <message>
         <source>tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>tangente</translation>
     </message>
     <message>
         <source>nearest point</source>
-        <translation type="unfinished"></translation>
+        <translation>proche</translation>
     </message>
     <message>
         <source>quick</source>
-        <translation type="unfinished"></translation>
+        <translation>rapide</translation>
     </message>
     <message>
         <source>apparent intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>intersection projetée</translation>
     </message>
     <message>
         <source>extension</source>
-        <translation type="unfinished"></translation>
+        <translation>prolongement</translation>
     </message>
     <message>
         <source>parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>parallèle</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>
 The rest of what was typed ahead is left out.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le reste de ce qui a été saisi d&apos;avance est omis.
+</translation>
     </message>
     <message>
         <source>
 Nobody is there to answer &quot;%1&quot;: cancelled.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Personne n&apos;est là pour répondre à &quot;%1&quot; : annulé.
+</translation>
     </message>
     <message>
         <source>*Cancel*
 </source>
-        <translation type="unfinished"></translation>
+        <translation>*Annulé*
+</translation>
     </message>
     <message>
         <source>No help page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de page d&apos;aide.</translation>
     </message>
     <message>
         <source>it is no module (odrxGetAPIVersion is missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un module (odrxGetAPIVersion manque)</translation>
     </message>
     <message>
         <source>it was built for version %1 of the interface, this host has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il a été construit pour la version %1 de l&apos;interface, cet hôte a la version %2</translation>
     </message>
     <message>
         <source>it is no module (odrxCreateModuleObject is missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un module (odrxCreateModuleObject manque)</translation>
     </message>
     <message>
         <source>it made no module object</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;a pas créé d&apos;objet de module</translation>
     </message>
     <message>
         <source>there is no memory for its module object</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de mémoire pour son objet de module</translation>
     </message>
     <message>
         <source>Cannot load %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger %1 : %2</translation>
     </message>
     <message>
         <source>
 %1 cannot run while another command is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 ne peut pas s&apos;exécuter pendant qu&apos;une autre commande est en cours.</translation>
     </message>
     <message>
         <source>
 %1: the setting cannot be written to %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 : le paramètre ne peut pas être écrit dans %2.
+</translation>
     </message>
     <message>
         <source>The command aliases in %1 cannot be read: %2 The ones before stay in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les alias de commandes dans %1 ne peuvent pas être lus : %2 Les précédents restent en usage.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les nombres sont trop grands.</translation>
     </message>
     <message>
         <source>
 %1 has ended, nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 est terminé, rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>
 ** That command may not be invoked transparently **
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+** Cette commande ne peut pas être appelée en transparence **
+</translation>
     </message>
     <message>
         <source>
 Resuming %1 command.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Reprise de la commande %1.
+</translation>
     </message>
     <message>
         <source>
 %1 cannot be kept.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 ne peut pas être conservé.
+</translation>
     </message>
     <message>
         <source>
 The user&apos;s settings cannot be kept.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
+</translation>
     </message>
 </context>
 <context>
     <name>Keywords</name>
     <message>
         <source>2points</source>
-        <translation type="unfinished"></translation>
+        <translation>2points</translation>
     </message>
     <message>
         <source>3point</source>
-        <translation type="unfinished"></translation>
+        <translation>3Points</translation>
     </message>
     <message>
         <source>3points</source>
-        <translation type="unfinished"></translation>
+        <translation>3points</translation>
     </message>
     <message>
         <source>ALL</source>
-        <translation type="unfinished"></translation>
+        <translation>TOUT</translation>
     </message>
     <message>
         <source>ALl</source>
-        <translation type="unfinished"></translation>
+        <translation>TOut</translation>
     </message>
     <message>
         <source>ANnotative</source>
-        <translation type="unfinished"></translation>
+        <translation>ANnotatif</translation>
     </message>
     <message>
         <source>AUto</source>
-        <translation type="unfinished"></translation>
+        <translation>AUto</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur</translation>
     </message>
     <message>
         <source>Above objects</source>
-        <translation type="unfinished"></translation>
+        <translation>auDessus d&apos;objets</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Add area</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Add leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>aVAncé</translation>
     </message>
     <message>
         <source>Advanced options</source>
-        <translation type="unfinished"></translation>
+        <translation>aVAncé</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished">Tous</translation>
+        <translation>TOut</translation>
     </message>
     <message>
         <source>Ang</source>
-        <translation type="unfinished"></translation>
+        <translation>Ang</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished">Angle</translation>
+        <translation>Angle</translation>
     </message>
     <message>
         <source>Annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>aNnotation</translation>
     </message>
     <message>
         <source>Annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>annOtatif</translation>
     </message>
     <message>
         <source>Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand même</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>APpliquer</translation>
     </message>
     <message>
         <source>Arc</source>
-        <translation type="unfinished"></translation>
+        <translation>ARc</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished">Longueur d&apos;arc</translation>
+        <translation>Longueur d&apos;arc</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished">Aire</translation>
+        <translation>aIre</translation>
     </message>
     <message>
         <source>Array</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Flèche</translation>
     </message>
     <message>
         <source>As</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme</translation>
     </message>
     <message>
         <source>As displayed</source>
-        <translation type="unfinished"></translation>
+        <translation>comme Affiché</translation>
     </message>
     <message>
         <source>Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>aSPect</translation>
     </message>
     <message>
         <source>Associativity</source>
-        <translation type="unfinished"></translation>
+        <translation>ASsociativité</translation>
     </message>
     <message>
         <source>At least</source>
-        <translation type="unfinished"></translation>
+        <translation>aU moins</translation>
     </message>
     <message>
         <source>Attach</source>
-        <translation type="unfinished"></translation>
+        <translation>Attacher</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>BAck</source>
-        <translation type="unfinished"></translation>
+        <translation>arRière</translation>
     </message>
     <message>
         <source>BC</source>
-        <translation type="unfinished"></translation>
+        <translation>BC</translation>
     </message>
     <message>
         <source>BEgin</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>BL</source>
-        <translation type="unfinished"></translation>
+        <translation>BG</translation>
     </message>
     <message>
         <source>BOX</source>
-        <translation type="unfinished"></translation>
+        <translation>BOîte</translation>
     </message>
     <message>
         <source>BR</source>
-        <translation type="unfinished"></translation>
+        <translation>BD</translation>
     </message>
     <message>
         <source>BYBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>DUBloc</translation>
     </message>
     <message>
         <source>BYLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>DUCalque</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>arRière</translation>
     </message>
     <message>
         <source>Base</source>
-        <translation type="unfinished"></translation>
+        <translation>Base</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished">Point de base</translation>
+        <translation>point de Base</translation>
     </message>
     <message>
         <source>Below</source>
-        <translation type="unfinished"></translation>
+        <translation>soUs</translation>
     </message>
     <message>
         <source>Binary</source>
-        <translation type="unfinished"></translation>
+        <translation>Binaire</translation>
     </message>
     <message>
         <source>Bind</source>
-        <translation type="unfinished"></translation>
+        <translation>Lier</translation>
     </message>
     <message>
         <source>Bisect</source>
-        <translation type="unfinished"></translation>
+        <translation>Bissectrice</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc</translation>
     </message>
     <message>
         <source>Block selection</source>
-        <translation type="unfinished"></translation>
+        <translation>sélection de Blocs</translation>
     </message>
     <message>
         <source>Blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocs</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>COntours</translation>
     </message>
     <message>
         <source>Boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour</translation>
     </message>
     <message>
         <source>Boundary set</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu de contours</translation>
     </message>
     <message>
         <source>Break</source>
-        <translation type="unfinished"></translation>
+        <translation>cOuper</translation>
     </message>
     <message>
         <source>ByBlock</source>
-        <translation type="unfinished">ByBlock</translation>
+        <translation>ByBlock</translation>
     </message>
     <message>
         <source>ByLayer</source>
-        <translation type="unfinished">ByLayer</translation>
+        <translation>ByLayer</translation>
     </message>
     <message>
         <source>CEnter</source>
-        <translation type="unfinished"></translation>
+        <translation>CEntre</translation>
     </message>
     <message>
         <source>CLose</source>
-        <translation type="unfinished"></translation>
+        <translation>CLore</translation>
     </message>
     <message>
         <source>COlor</source>
-        <translation type="unfinished"></translation>
+        <translation>COuleur</translation>
     </message>
     <message>
         <source>COlorbook</source>
-        <translation type="unfinished"></translation>
+        <translation>NUancier</translation>
     </message>
     <message>
         <source>CPolygon</source>
-        <translation type="unfinished"></translation>
+        <translation>CPolygone</translation>
     </message>
     <message>
         <source>CV</source>
-        <translation type="unfinished"></translation>
+        <translation>PC</translation>
     </message>
     <message>
         <source>Calligraphy</source>
-        <translation type="unfinished"></translation>
+        <translation>Calligraphie</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished">Centre</translation>
+        <translation>Centre</translation>
     </message>
     <message>
         <source>Chamfer</source>
-        <translation type="unfinished"></translation>
+        <translation>CHanfrein</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Chord</source>
-        <translation type="unfinished"></translation>
+        <translation>Corde</translation>
     </message>
     <message>
         <source>Circumscribed about circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Circonscrit au cercle</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Clear overrides</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Fermer</translation>
+        <translation>Clore</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished">Couleur</translation>
+        <translation>COuleur</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>COlonnes</translation>
     </message>
     <message>
         <source>Combine</source>
-        <translation type="unfinished"></translation>
+        <translation>COmbiner</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished">Commandes</translation>
+        <translation>COmmandes</translation>
     </message>
     <message>
         <source>Constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constant</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>COntenu</translation>
     </message>
     <message>
         <source>Content first</source>
-        <translation type="unfinished"></translation>
+        <translation>COntenu d&apos;abord</translation>
     </message>
     <message>
         <source>Content type</source>
-        <translation type="unfinished"></translation>
+        <translation>COntenu</translation>
     </message>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>COpier</translation>
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Coin</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer</translation>
     </message>
     <message>
         <source>Crossing</source>
-        <translation type="unfinished"></translation>
+        <translation>CApture</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant</translation>
     </message>
     <message>
         <source>Current ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>scu Courant</translation>
     </message>
     <message>
         <source>DElta</source>
-        <translation type="unfinished"></translation>
+        <translation>écArt</translation>
     </message>
     <message>
         <source>DEtailviewstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>DEtail</translation>
     </message>
     <message>
         <source>DIsassociate</source>
-        <translation type="unfinished"></translation>
+        <translation>DIssocier</translation>
     </message>
     <message>
         <source>DRaw</source>
-        <translation type="unfinished"></translation>
+        <translation>ORdre</translation>
     </message>
     <message>
         <source>DRaw order</source>
-        <translation type="unfinished"></translation>
+        <translation>ORdre</translation>
     </message>
     <message>
         <source>DXF</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF</translation>
     </message>
     <message>
         <source>DYnamic</source>
-        <translation type="unfinished"></translation>
+        <translation>DYnamique</translation>
     </message>
     <message>
         <source>Decurve</source>
-        <translation type="unfinished"></translation>
+        <translation>Délisser</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished">Valeur par défaut</translation>
+        <translation>Default</translation>
     </message>
     <message>
         <source>Degree</source>
-        <translation type="unfinished">Degré</translation>
+        <translation>DEgré</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>SUpprimer</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished">Description</translation>
+        <translation>Description</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Détacher</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished">Diamètre</translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>Dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>COtes</translation>
     </message>
     <message>
         <source>Dimstyle</source>
-        <translation type="unfinished"></translation>
+        <translation>stylecOte</translation>
     </message>
     <message>
         <source>Dimstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stylescOte</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished">Direction</translation>
+        <translation>Direction</translation>
     </message>
     <message>
         <source>Displacement</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacement</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished">Affichage</translation>
+        <translation>éCran</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Distribute</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuer</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished">Faits</translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>Dynamique</translation>
     </message>
     <message>
         <source>EXport</source>
-        <translation type="unfinished"></translation>
+        <translation>EXporter</translation>
     </message>
     <message>
         <source>Edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>MOdifier</translation>
     </message>
     <message>
         <source>Edit vertex</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier sommet</translation>
     </message>
     <message>
         <source>Elev</source>
-        <translation type="unfinished"></translation>
+        <translation>éLévation</translation>
     </message>
     <message>
         <source>Elevation</source>
-        <translation type="unfinished">Élévation</translation>
+        <translation>éLévation</translation>
     </message>
     <message>
         <source>Empty text objects</source>
-        <translation type="unfinished"></translation>
+        <translation>textesVIDes</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished">Fin</translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Endtoend</source>
-        <translation type="unfinished"></translation>
+        <translation>BoutàBout</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Objet</translation>
+        <translation>Objet</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout</translation>
     </message>
     <message>
         <source>Exactly</source>
-        <translation type="unfinished"></translation>
+        <translation>Exactement</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Explode</source>
-        <translation type="unfinished"></translation>
+        <translation>DEcomposer</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Prolonger</translation>
     </message>
     <message>
         <source>Extents</source>
-        <translation type="unfinished"></translation>
+        <translation>éTendu</translation>
     </message>
     <message>
         <source>Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Face</translation>
     </message>
     <message>
         <source>Fence</source>
-        <translation type="unfinished"></translation>
+        <translation>Trajet</translation>
     </message>
     <message>
         <source>Fillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccord</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier</translation>
     </message>
     <message>
         <source>First angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier angle</translation>
     </message>
     <message>
         <source>First point</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier point</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished">Ajuster</translation>
+        <translation>Lisser</translation>
     </message>
     <message>
         <source>Fit tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>TOlérance</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Freehand</source>
-        <translation type="unfinished"></translation>
+        <translation>Mainlevée</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished">Geler</translation>
+        <translation>Geler</translation>
     </message>
     <message>
         <source>Front</source>
-        <translation type="unfinished"></translation>
+        <translation>aVant</translation>
     </message>
     <message>
         <source>Frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelé</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacement</translation>
     </message>
     <message>
         <source>Gap tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>tolérance d&apos;Espacement</translation>
     </message>
     <message>
         <source>Go</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Grille</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes</translation>
     </message>
     <message>
         <source>HELP</source>
-        <translation type="unfinished"></translation>
+        <translation>AIDE</translation>
     </message>
     <message>
         <source>Halfwidth</source>
-        <translation type="unfinished"></translation>
+        <translation>DEmilargeur</translation>
     </message>
     <message>
         <source>Hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>Hachures</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished">Hauteur</translation>
+        <translation>Hauteur</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Masqué</translation>
     </message>
     <message>
         <source>Hideplot</source>
-        <translation type="unfinished"></translation>
+        <translation>MAsquertracé</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Hor</source>
-        <translation type="unfinished"></translation>
+        <translation>Hor</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouces</translation>
     </message>
     <message>
         <source>Included</source>
-        <translation type="unfinished"></translation>
+        <translation>Décrit</translation>
     </message>
     <message>
         <source>Included angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angle Décrit</translation>
     </message>
     <message>
         <source>Inscribed in circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscrit dans le cercle</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer</translation>
     </message>
     <message>
         <source>Invert clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>Invisible</translation>
     </message>
     <message>
         <source>Island</source>
-        <translation type="unfinished"></translation>
+        <translation>Ilots</translation>
     </message>
     <message>
         <source>Island detection</source>
-        <translation type="unfinished"></translation>
+        <translation>détection des Ilots</translation>
     </message>
     <message>
         <source>Isometric</source>
-        <translation type="unfinished"></translation>
+        <translation>Isométrique</translation>
     </message>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre</translation>
     </message>
     <message>
         <source>Jointype</source>
-        <translation type="unfinished"></translation>
+        <translation>Typedejonction</translation>
     </message>
     <message>
         <source>Justification</source>
-        <translation type="unfinished"></translation>
+        <translation>Justification</translation>
     </message>
     <message>
         <source>Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>Justifier</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœuds</translation>
     </message>
     <message>
         <source>LAYOut</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation</translation>
     </message>
     <message>
         <source>LAyer</source>
-        <translation type="unfinished"></translation>
+        <translation>CAlque</translation>
     </message>
     <message>
         <source>LAyers</source>
-        <translation type="unfinished"></translation>
+        <translation>CAlques</translation>
     </message>
     <message>
         <source>LOck</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller</translation>
     </message>
     <message>
         <source>LType</source>
-        <translation type="unfinished"></translation>
+        <translation>TYpeligne</translation>
     </message>
     <message>
         <source>LTypes</source>
-        <translation type="unfinished"></translation>
+        <translation>TYpesligne</translation>
     </message>
     <message>
         <source>LWeight</source>
-        <translation type="unfinished"></translation>
+        <translation>éPaisseurligne</translation>
     </message>
     <message>
         <source>Landing</source>
-        <translation type="unfinished"></translation>
+        <translation>Guidage</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished">Paysage</translation>
+        <translation>pAysage</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>DErnier</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished">Calque</translation>
+        <translation>CAlque</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation</translation>
     </message>
     <message>
         <source>Leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère</translation>
     </message>
     <message>
         <source>Leader type</source>
-        <translation type="unfinished"></translation>
+        <translation>type de Repère</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished">Longueur</translation>
+        <translation>LOngueur</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished">Limites</translation>
+        <translation>Limites</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>LIgne</translation>
     </message>
     <message>
         <source>Line spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Interligne</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">Verrouiller</translation>
+        <translation>Verrouiller</translation>
     </message>
     <message>
         <source>Lock and fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller et estomper</translation>
     </message>
     <message>
         <source>Ltype</source>
-        <translation type="unfinished"></translation>
+        <translation>TYpeligne</translation>
     </message>
     <message>
         <source>Ltype gen</source>
-        <translation type="unfinished"></translation>
+        <translation>Gentypeligne</translation>
     </message>
     <message>
         <source>MATerial</source>
-        <translation type="unfinished"></translation>
+        <translation>MATériau</translation>
     </message>
     <message>
         <source>MAterials</source>
-        <translation type="unfinished"></translation>
+        <translation>MATériaux</translation>
     </message>
     <message>
         <source>MC</source>
-        <translation type="unfinished"></translation>
+        <translation>MC</translation>
     </message>
     <message>
         <source>MIrror</source>
-        <translation type="unfinished"></translation>
+        <translation>MIroir</translation>
     </message>
     <message>
         <source>ML</source>
-        <translation type="unfinished"></translation>
+        <translation>MG</translation>
     </message>
     <message>
         <source>MOve</source>
-        <translation type="unfinished"></translation>
+        <translation>DEplacer</translation>
     </message>
     <message>
         <source>MR</source>
-        <translation type="unfinished"></translation>
+        <translation>MD</translation>
     </message>
     <message>
         <source>MUltileaderstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stylesREpère</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire</translation>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>MAtériau</translation>
     </message>
     <message>
         <source>Maxpoints</source>
-        <translation type="unfinished"></translation>
+        <translation>Maxpoints</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Méthode</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Milieu</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimètres</translation>
     </message>
     <message>
         <source>Mlinestyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stylesMligne</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>DEplacer</translation>
     </message>
     <message>
         <source>Mtext</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXTMult</translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiple</translation>
     </message>
     <message>
         <source>Multiple points</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiples points</translation>
     </message>
     <message>
         <source>NAmed</source>
-        <translation type="unfinished"></translation>
+        <translation>NOmmé</translation>
     </message>
     <message>
         <source>NEW</source>
-        <translation type="unfinished"></translation>
+        <translation>NOUVEAU</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nom</translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>New boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau contour</translation>
     </message>
     <message>
         <source>Newfrz</source>
-        <translation type="unfinished"></translation>
+        <translation>NOUVgelés</translation>
     </message>
     <message>
         <source>Newvpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>gelNouvfen</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>No columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans colonnes</translation>
     </message>
     <message>
         <source>No extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Non prolongé</translation>
     </message>
     <message>
         <source>No leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans repère</translation>
     </message>
     <message>
         <source>No plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Non tracé</translation>
     </message>
     <message>
         <source>No trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ajusté</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>AUcun</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Not</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne</translation>
     </message>
     <message>
         <source>OBject</source>
-        <translation type="unfinished"></translation>
+        <translation>OBjet</translation>
     </message>
     <message>
         <source>OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>INactif</translation>
     </message>
     <message>
         <source>ON</source>
-        <translation type="unfinished"></translation>
+        <translation>ACtif</translation>
     </message>
     <message>
         <source>Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objet</translation>
     </message>
     <message>
         <source>Object type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type d&apos;objet</translation>
     </message>
     <message>
         <source>Objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Objets</translation>
     </message>
     <message>
         <source>Oblique</source>
-        <translation type="unfinished"></translation>
+        <translation>oBlique</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>INactif</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Actif</translation>
+        <translation>ACtif</translation>
     </message>
     <message>
         <source>One</source>
-        <translation type="unfinished"></translation>
+        <translation>UN</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>ORdre</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>orIGine</translation>
     </message>
     <message>
         <source>Orphaned data</source>
-        <translation type="unfinished"></translation>
+        <translation>donnéesORphelines</translation>
     </message>
     <message>
         <source>Orthographic</source>
-        <translation type="unfinished"></translation>
+        <translation>orTHogonal</translation>
     </message>
     <message>
         <source>Outer</source>
-        <translation type="unfinished"></translation>
+        <translation>Extérieur</translation>
     </message>
     <message>
         <source>Overlaps</source>
-        <translation type="unfinished"></translation>
+        <translation>REcouvrements</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>SUperposer</translation>
     </message>
     <message>
         <source>PStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>STyletracé</translation>
     </message>
     <message>
         <source>Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>Partial</source>
-        <translation type="unfinished"></translation>
+        <translation>Partiel</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>CHemin</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcent</translation>
     </message>
     <message>
         <source>Pick</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>Pick points</source>
-        <translation type="unfinished"></translation>
+        <translation>choisir des Points</translation>
     </message>
     <message>
         <source>Plot</source>
-        <translation type="unfinished">Tracer</translation>
+        <translation>Tracé</translation>
     </message>
     <message>
         <source>Plotstyle</source>
-        <translation type="unfinished"></translation>
+        <translation>STyletracé</translation>
     </message>
     <message>
         <source>Plotstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>STylestracé</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>Polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Polaire</translation>
     </message>
     <message>
         <source>Polygonal</source>
-        <translation type="unfinished"></translation>
+        <translation>POLygonal</translation>
     </message>
     <message>
         <source>Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>POLyligne</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished">Portrait</translation>
+        <translation>Portrait</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Prédéfini</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>PRojection</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished">Propriétés</translation>
+        <translation>PROpriétés</translation>
     </message>
     <message>
         <source>QUIT</source>
-        <translation type="unfinished"></translation>
+        <translation>QUITTER</translation>
     </message>
     <message>
         <source>Quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrant</translation>
     </message>
     <message>
         <source>REName</source>
-        <translation type="unfinished"></translation>
+        <translation>RENommer</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished">Rayon</translation>
+        <translation>RAyon</translation>
     </message>
     <message>
         <source>Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangulaire</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence</translation>
     </message>
     <message>
         <source>Regapps</source>
-        <translation type="unfinished"></translation>
+        <translation>APPlications</translation>
     </message>
     <message>
         <source>Regen</source>
-        <translation type="unfinished"></translation>
+        <translation>REgén</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Région</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>REcharger</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Remove leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>RENommer</translation>
     </message>
     <message>
         <source>Rendered</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendu</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>RESTituer</translation>
     </message>
     <message>
         <source>Retain</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver</translation>
     </message>
     <message>
         <source>Retain boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver le contour</translation>
     </message>
     <message>
         <source>Reverse</source>
-        <translation type="unfinished"></translation>
+        <translation>INVerser</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>ROtation</translation>
     </message>
     <message>
         <source>Rotated</source>
-        <translation type="unfinished"></translation>
+        <translation>ROtation</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished">Rotation</translation>
+        <translation>ROtation</translation>
     </message>
     <message>
         <source>SAveas</source>
-        <translation type="unfinished"></translation>
+        <translation>ENregistrersous</translation>
     </message>
     <message>
         <source>SCale</source>
-        <translation type="unfinished"></translation>
+        <translation>éCHelle</translation>
     </message>
     <message>
         <source>SEctionviewstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>COUpe</translation>
     </message>
     <message>
         <source>SHapes</source>
-        <translation type="unfinished"></translation>
+        <translation>FORmes</translation>
     </message>
     <message>
         <source>SIngle</source>
-        <translation type="unfinished"></translation>
+        <translation>UNique</translation>
     </message>
     <message>
         <source>STatus</source>
-        <translation type="unfinished"></translation>
+        <translation>étAt</translation>
     </message>
     <message>
         <source>STraight</source>
-        <translation type="unfinished"></translation>
+        <translation>Droit</translation>
     </message>
     <message>
         <source>STretch</source>
-        <translation type="unfinished"></translation>
+        <translation>éTirer</translation>
     </message>
     <message>
         <source>STyle</source>
-        <translation type="unfinished"></translation>
+        <translation>STyle</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished">Échelle</translation>
+        <translation>éCHelle</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Second</translation>
     </message>
     <message>
         <source>Second angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Second angle</translation>
     </message>
     <message>
         <source>Second pt</source>
-        <translation type="unfinished"></translation>
+        <translation>Second pt</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>CHoisir</translation>
     </message>
     <message>
         <source>Select objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Objets</translation>
     </message>
     <message>
         <source>Select polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>choisir polyLigne</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnable</translation>
     </message>
     <message>
         <source>Set</source>
-        <translation type="unfinished"></translation>
+        <translation>fiXer</translation>
     </message>
     <message>
         <source>Set new origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle origine</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished">Paramètres</translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Shadeplot</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracéombré</translation>
     </message>
     <message>
         <source>Single</source>
-        <translation type="unfinished"></translation>
+        <translation>UNique</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished">Accrochage</translation>
+        <translation>Résolution</translation>
     </message>
     <message>
         <source>Solid</source>
-        <translation type="unfinished"></translation>
+        <translation>Solide</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacement</translation>
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>SPline</translation>
     </message>
     <message>
         <source>Spline curve</source>
-        <translation type="unfinished"></translation>
+        <translation>SPline</translation>
     </message>
     <message>
         <source>Square root</source>
-        <translation type="unfinished"></translation>
+        <translation>Racine carrée</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>STatique</translation>
     </message>
     <message>
         <source>Straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Droit</translation>
     </message>
     <message>
         <source>Straighten</source>
-        <translation type="unfinished"></translation>
+        <translation>REDresser</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished">Style</translation>
+        <translation>STyle</translation>
     </message>
     <message>
         <source>Subtract area</source>
-        <translation type="unfinished"></translation>
+        <translation>Soustraire</translation>
     </message>
     <message>
         <source>TC</source>
-        <translation type="unfinished"></translation>
+        <translation>HC</translation>
     </message>
     <message>
         <source>TL</source>
-        <translation type="unfinished"></translation>
+        <translation>HG</translation>
     </message>
     <message>
         <source>TR</source>
-        <translation type="unfinished"></translation>
+        <translation>HD</translation>
     </message>
     <message>
         <source>TRansparency</source>
-        <translation type="unfinished"></translation>
+        <translation>TRANsparence</translation>
     </message>
     <message>
         <source>Tablestyle</source>
-        <translation type="unfinished"></translation>
+        <translation>styletABleau</translation>
     </message>
     <message>
         <source>Tablestyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stylestABleau</translation>
     </message>
     <message>
         <source>Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente</translation>
     </message>
     <message>
         <source>Tangent</source>
-        <translation type="unfinished">Tangente</translation>
+        <translation>Tangente</translation>
     </message>
     <message>
         <source>Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Gabarit</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">Texte</translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Thaw</source>
-        <translation type="unfinished"></translation>
+        <translation>DEGeler</translation>
     </message>
     <message>
         <source>Thawed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dégelé</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished">Épaisseur</translation>
+        <translation>épaiSseur</translation>
     </message>
     <message>
         <source>Through</source>
-        <translation type="unfinished"></translation>
+        <translation>Par</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>TOlérance</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished">Transparence</translation>
+        <translation>TRANsparence</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>AJuster</translation>
     </message>
     <message>
         <source>Truecolor</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraiecouleur</translation>
     </message>
     <message>
         <source>Ttr</source>
-        <translation type="unfinished"></translation>
+        <translation>TTr</translation>
     </message>
     <message>
         <source>Ttr (tan tan radius)</source>
-        <translation type="unfinished"></translation>
+        <translation>TTr (Tan Tan Rayon)</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>TYpe</translation>
     </message>
     <message>
         <source>Ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>Scu</translation>
     </message>
     <message>
         <source>Under</source>
-        <translation type="unfinished"></translation>
+        <translation>auDEssous</translation>
     </message>
     <message>
         <source>Under objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous des objets</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>annUler</translation>
     </message>
     <message>
         <source>Uniform</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniforme</translation>
     </message>
     <message>
         <source>Unload</source>
-        <translation type="unfinished"></translation>
+        <translation>DECharger</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>DEVerrouiller</translation>
     </message>
     <message>
         <source>Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser</translation>
     </message>
     <message>
         <source>Use current origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser l&apos;origine courante</translation>
     </message>
     <message>
         <source>Use current spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser l&apos;espacement courant</translation>
     </message>
     <message>
         <source>User defined</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisateur</translation>
     </message>
     <message>
         <source>VIew</source>
-        <translation type="unfinished"></translation>
+        <translation>VUe</translation>
     </message>
     <message>
         <source>VPort</source>
-        <translation type="unfinished"></translation>
+        <translation>FENêtre</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valeur</translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifié</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue</translation>
     </message>
     <message>
         <source>Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres</translation>
     </message>
     <message>
         <source>Visual styles</source>
-        <translation type="unfinished"></translation>
+        <translation>styles VIsuels</translation>
     </message>
     <message>
         <source>Visualstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stylesVIsuels</translation>
     </message>
     <message>
         <source>Vpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>GElfenêtre</translation>
     </message>
     <message>
         <source>Vpvisdflt</source>
-        <translation type="unfinished"></translation>
+        <translation>VISfenêtre</translation>
     </message>
     <message>
         <source>WPolygon</source>
-        <translation type="unfinished"></translation>
+        <translation>FPolygone</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished">Largeur</translation>
+        <translation>LArgeur</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished">Fenêtre</translation>
+        <translation>Fenêtre</translation>
     </message>
     <message>
         <source>Wireframe</source>
-        <translation type="unfinished"></translation>
+        <translation>Filaire</translation>
     </message>
     <message>
         <source>World</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>XY</source>
-        <translation type="unfinished"></translation>
+        <translation>XY</translation>
     </message>
     <message>
         <source>XYZ</source>
-        <translation type="unfinished"></translation>
+        <translation>XYZ</translation>
     </message>
     <message>
         <source>Xaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>Xaxe</translation>
     </message>
     <message>
         <source>Xdatum</source>
-        <translation type="unfinished"></translation>
+        <translation>Xordonnée</translation>
     </message>
     <message>
         <source>YZ</source>
-        <translation type="unfinished"></translation>
+        <translation>YZ</translation>
     </message>
     <message>
         <source>Yaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>Yaxe</translation>
     </message>
     <message>
         <source>Ydatum</source>
-        <translation type="unfinished"></translation>
+        <translation>Yordonnée</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>ZAxis</source>
-        <translation type="unfinished"></translation>
+        <translation>ZAxe</translation>
     </message>
     <message>
         <source>ZX</source>
-        <translation type="unfinished"></translation>
+        <translation>ZX</translation>
     </message>
     <message>
         <source>Zaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaxe</translation>
     </message>
     <message>
         <source>Zdepth</source>
-        <translation type="unfinished"></translation>
+        <translation>Zprofondeur</translation>
     </message>
     <message>
         <source>Zero</source>
-        <translation type="unfinished"></translation>
+        <translation>Zéro</translation>
     </message>
     <message>
         <source>Zero-length geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>LONgueurnulle</translation>
     </message>
     <message>
         <source>beHind</source>
-        <translation type="unfinished"></translation>
+        <translation>derrIère</translation>
     </message>
     <message>
         <source>bounDary</source>
-        <translation type="unfinished"></translation>
+        <translation>coNtour</translation>
     </message>
     <message>
         <source>bring in front of bounDary</source>
-        <translation type="unfinished"></translation>
+        <translation>devant le Contour</translation>
     </message>
     <message>
         <source>bring to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>à l&apos;aVant</translation>
     </message>
     <message>
         <source>cLose</source>
-        <translation type="unfinished"></translation>
+        <translation>Clore</translation>
     </message>
     <message>
         <source>chord Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur de corde</translation>
     </message>
     <message>
         <source>do Not assign</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne pas attribuer</translation>
     </message>
     <message>
         <source>draW</source>
-        <translation type="unfinished"></translation>
+        <translation>dEssiner</translation>
     </message>
     <message>
         <source>draW boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>dEssiner le contour</translation>
     </message>
     <message>
         <source>eRase</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>eXcept current</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauf courant</translation>
     </message>
     <message>
         <source>eXit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>eXit options</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter les options</translation>
     </message>
     <message>
         <source>end Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente de fin</translation>
     </message>
     <message>
         <source>generate Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>générer une Polyligne</translation>
     </message>
     <message>
         <source>hatch COlor</source>
-        <translation type="unfinished"></translation>
+        <translation>COuleur</translation>
     </message>
     <message>
         <source>lAnding</source>
-        <translation type="unfinished"></translation>
+        <translation>Guidage</translation>
     </message>
     <message>
         <source>leader Landing first</source>
-        <translation type="unfinished"></translation>
+        <translation>Guidage d&apos;abord</translation>
     </message>
     <message>
         <source>leader lAnding</source>
-        <translation type="unfinished"></translation>
+        <translation>Guidage</translation>
     </message>
     <message>
         <source>lineType</source>
-        <translation type="unfinished"></translation>
+        <translation>TYpeligne</translation>
     </message>
     <message>
         <source>lineWeight</source>
-        <translation type="unfinished"></translation>
+        <translation>éPaisseurligne</translation>
     </message>
     <message>
         <source>ltScale</source>
-        <translation type="unfinished"></translation>
+        <translation>éCHelletl</translation>
     </message>
     <message>
         <source>mEthod</source>
-        <translation type="unfinished"></translation>
+        <translation>MEthode</translation>
     </message>
     <message>
         <source>mOde</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode</translation>
     </message>
     <message>
         <source>multileadersTyle</source>
-        <translation type="unfinished"></translation>
+        <translation>styleREpère</translation>
     </message>
     <message>
         <source>plotStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>STyletracé</translation>
     </message>
     <message>
         <source>rEconcile</source>
-        <translation type="unfinished"></translation>
+        <translation>RAPprocher</translation>
     </message>
     <message>
         <source>remove Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer des contours</translation>
     </message>
     <message>
         <source>sPline</source>
-        <translation type="unfinished"></translation>
+        <translation>SPline</translation>
     </message>
     <message>
         <source>send beHind boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le contour</translation>
     </message>
     <message>
         <source>send to Back</source>
-        <translation type="unfinished"></translation>
+        <translation>à l&apos;aRrière</translation>
     </message>
     <message>
         <source>separate Hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>Hachures séparées</translation>
     </message>
     <message>
         <source>specify Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacement</translation>
     </message>
     <message>
         <source>stAte</source>
-        <translation type="unfinished"></translation>
+        <translation>étAt</translation>
     </message>
     <message>
         <source>start Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente de départ</translation>
     </message>
     <message>
         <source>textSTyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stylesTEXte</translation>
     </message>
     <message>
         <source>toLerance</source>
-        <translation type="unfinished"></translation>
+        <translation>tOlérance</translation>
     </message>
 </context>
 <context>
@@ -12024,987 +12312,987 @@ The user&apos;s settings cannot be kept.
     <name>Menus</name>
     <message>
         <source>&amp;About Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos d&apos;Ortakit</translation>
     </message>
     <message>
         <source>&amp;Aiming</source>
-        <translation type="unfinished"></translation>
+        <translation>Aides au &amp;dessin</translation>
     </message>
     <message>
         <source>&amp;Black ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond n&amp;oir</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>&amp;Construction lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes de &amp;construction</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sommaire</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished">&amp;Copier</translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>&amp;Dark style</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Style sombre</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished">&amp;Supprimer</translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>&amp;Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dessin</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditio&amp;n</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajuster</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>&amp;In space</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dans l&apos;espace</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertion</translation>
     </message>
     <message>
         <source>&amp;Light style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl&amp;e clair</translation>
     </message>
     <message>
         <source>&amp;Lock display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verrouiller l&apos;affichage</translation>
     </message>
     <message>
         <source>&amp;Make</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Créer</translation>
     </message>
     <message>
         <source>&amp;Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modification</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished">&amp;Nouveau</translation>
+        <translation>&amp;Nouveau</translation>
     </message>
     <message>
         <source>&amp;Next under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Suiva&amp;nt sous le pointeur</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir...</translation>
     </message>
     <message>
         <source>&amp;PNG picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Image &amp;PNG...</translation>
     </message>
     <message>
         <source>&amp;Pan</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Panoramique</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimer...</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Propriétés</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Record session...</source>
-        <translation type="unfinished">Enre&amp;gistrer une session...</translation>
+        <translation>Enre&amp;gistrer une session...</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>&amp;Regenerate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;générer</translation>
     </message>
     <message>
         <source>&amp;SVG drawing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin &amp;SVG...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>&amp;Start page</source>
-        <translation type="unfinished"></translation>
+        <translation>Page d&apos;&amp;accueil</translation>
     </message>
     <message>
         <source>&amp;Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barres d&apos;outils</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou&amp;tils</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Unlock display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Déverrouiller l&apos;affichage</translation>
     </message>
     <message>
         <source>&amp;Upkeep</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;aintenance</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Views and planes</source>
-        <translation type="unfinished"></translation>
+        <translation>Vues et pla&amp;ns</translation>
     </message>
     <message>
         <source>&amp;Zoom by its options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zoom par options</translation>
     </message>
     <message>
         <source>1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>1:1</translation>
     </message>
     <message>
         <source>1:10</source>
-        <translation type="unfinished"></translation>
+        <translation>1:10</translation>
     </message>
     <message>
         <source>1:100</source>
-        <translation type="unfinished"></translation>
+        <translation>1:100</translation>
     </message>
     <message>
         <source>1:2</source>
-        <translation type="unfinished"></translation>
+        <translation>1:2</translation>
     </message>
     <message>
         <source>1:20</source>
-        <translation type="unfinished"></translation>
+        <translation>1:20</translation>
     </message>
     <message>
         <source>1:5</source>
-        <translation type="unfinished"></translation>
+        <translation>1:5</translation>
     </message>
     <message>
         <source>1:50</source>
-        <translation type="unfinished"></translation>
+        <translation>1:50</translation>
     </message>
     <message>
         <source>Align</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner</translation>
     </message>
     <message>
         <source>Align multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner des repères multiples</translation>
     </message>
     <message>
         <source>Aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>Alignée</translation>
     </message>
     <message>
         <source>Along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon les axes</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished">Angle</translation>
+        <translation>Angle</translation>
     </message>
     <message>
         <source>Arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Arc</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished">Longueur d&apos;arc</translation>
+        <translation>Longueur d&apos;arc</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished">Aire</translation>
+        <translation>Aire</translation>
     </message>
     <message>
         <source>Array</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>As another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme un autre</translation>
     </message>
     <message>
         <source>At steps along a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>À intervalles le long d&apos;une courbe</translation>
     </message>
     <message>
         <source>Attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Attributs</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished">Point de base</translation>
+        <translation>Point de base</translation>
     </message>
     <message>
         <source>Between sheet and model</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre feuille et modèle</translation>
     </message>
     <message>
         <source>Boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour</translation>
     </message>
     <message>
         <source>Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupure</translation>
     </message>
     <message>
         <source>Bring back what was &amp;erased</source>
-        <translation type="unfinished"></translation>
+        <translation>Ra&amp;mener ce qui était effacé</translation>
     </message>
     <message>
         <source>Center mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque de centre</translation>
     </message>
     <message>
         <source>Chamfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Chanfrein</translation>
     </message>
     <message>
         <source>Choose &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>Choose &amp;similar</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélect&amp;ionner les semblables</translation>
     </message>
     <message>
         <source>Chooses what can be seen and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit ce qui peut être vu et modifié</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cercle</translation>
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Délimiter</translation>
     </message>
     <message>
         <source>Closes all drawings and the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme tous les dessins et le programme</translation>
     </message>
     <message>
         <source>Closes the drawing in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme le dessin au premier plan</translation>
     </message>
     <message>
         <source>Co&amp;mmands...</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;mmandes...</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished">Couleur</translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>Coordinates of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordonnées d&apos;un point</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Copy with &amp;base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier avec point de &amp;base</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>Dark windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres sombres</translation>
     </message>
     <message>
         <source>Define an attribute</source>
-        <translation type="unfinished"></translation>
+        <translation>Définir un attribut</translation>
     </message>
     <message>
         <source>Delete layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer des calques</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished">Diamètre</translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>Dime&amp;nsion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cotation</translation>
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished">Style de cote</translation>
+        <translation>Style de cote</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Divide a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Diviser une courbe</translation>
     </message>
     <message>
         <source>Divide the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Diviser l&apos;écran</translation>
     </message>
     <message>
         <source>Draw order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de tracé</translation>
     </message>
     <message>
         <source>Drawing limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limites du dessin</translation>
     </message>
     <message>
         <source>Drawing status</source>
-        <translation type="unfinished"></translation>
+        <translation>État du dessin</translation>
     </message>
     <message>
         <source>Draws on black</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine sur fond noir</translation>
     </message>
     <message>
         <source>Draws on white</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine sur fond blanc</translation>
     </message>
     <message>
         <source>Edit multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier des repères multiples</translation>
     </message>
     <message>
         <source>Edit text and extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le texte et les lignes d&apos;attache</translation>
     </message>
     <message>
         <source>Elevation and thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Élévation et épaisseur</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>End isolating</source>
-        <translation type="unfinished"></translation>
+        <translation>Finir l&apos;isolement</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Erases what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Efface ce qui est choisi</translation>
     </message>
     <message>
         <source>Explode</source>
-        <translation type="unfinished"></translation>
+        <translation>Décomposer</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Prolonger</translation>
     </message>
     <message>
         <source>External reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence externe</translation>
     </message>
     <message>
         <source>F&amp;ormat</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ormat</translation>
     </message>
     <message>
         <source>Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Face</translation>
     </message>
     <message>
         <source>Filled area</source>
-        <translation type="unfinished"></translation>
+        <translation>Surface remplie</translation>
     </message>
     <message>
         <source>Fillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccord</translation>
     </message>
     <message>
         <source>Finds commands, menu entries and system variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouve des commandes, des entrées de menu et des variables système</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished">Geler</translation>
+        <translation>Geler</translation>
     </message>
     <message>
         <source>From the same begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Depuis le même départ</translation>
     </message>
     <message>
         <source>Gives what was printed most of the window, and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne à ce qui a été affiché la plus grande partie de la fenêtre, et la rend</translation>
     </message>
     <message>
         <source>Goes through what lies on top of each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourt ce qui est superposé</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Grille</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Hachures</translation>
     </message>
     <message>
         <source>Horizontal or vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontale ou verticale</translation>
     </message>
     <message>
         <source>How the layout that is shown lies on its paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment la présentation affichée est placée sur son papier</translation>
     </message>
     <message>
         <source>I&amp;n space</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;ns l&apos;espace</translation>
     </message>
     <message>
         <source>In a row</source>
-        <translation type="unfinished"></translation>
+        <translation>À la suite</translation>
     </message>
     <message>
         <source>In&amp;quiry</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renseignements</translation>
     </message>
     <message>
         <source>Insert a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer un bloc</translation>
     </message>
     <message>
         <source>Into the viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la fenêtre</translation>
     </message>
     <message>
         <source>Isolate</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoler</translation>
     </message>
     <message>
         <source>Isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan isométrique</translation>
     </message>
     <message>
         <source>Jogged radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Rayon raccourci</translation>
     </message>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre</translation>
     </message>
     <message>
         <source>Layer, color, linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque, couleur, type de ligne</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished">Calques</translation>
+        <translation>Calques</translation>
     </message>
     <message>
         <source>Layers of &amp;objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Calques des &amp;objets</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation</translation>
     </message>
     <message>
         <source>Leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de repère</translation>
     </message>
     <message>
         <source>Lengthen</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la longueur</translation>
     </message>
     <message>
         <source>Light windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres claires</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished">Type de ligne</translation>
+        <translation>Type de ligne</translation>
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished">Épaisseur de ligne</translation>
+        <translation>Épaisseur de ligne</translation>
     </message>
     <message>
         <source>Lisp &amp;console</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Console Lisp</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister</translation>
     </message>
     <message>
         <source>Load shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger des formes</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">Verrouiller</translation>
+        <translation>Verrouiller</translation>
     </message>
     <message>
         <source>Lon&amp;g command history</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Historique long des commandes</translation>
     </message>
     <message>
         <source>Look for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher les erreurs</translation>
     </message>
     <message>
         <source>Look from a direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Regarder d&apos;une direction</translation>
     </message>
     <message>
         <source>Look straight at a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Regarder un plan de face</translation>
     </message>
     <message>
         <source>Make a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un bloc</translation>
     </message>
     <message>
         <source>Make current</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendre courant</translation>
     </message>
     <message>
         <source>Makes a new drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée un nouveau dessin</translation>
     </message>
     <message>
         <source>Merge layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionner des calques</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir</translation>
     </message>
     <message>
         <source>Mirror in a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir par rapport à un plan</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer</translation>
     </message>
     <message>
         <source>Move in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer dans l&apos;espace</translation>
     </message>
     <message>
         <source>Move the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le texte</translation>
     </message>
     <message>
         <source>Multileader</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère multiple</translation>
     </message>
     <message>
         <source>Multiline</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiligne</translation>
     </message>
     <message>
         <source>Named views</source>
-        <translation type="unfinished"></translation>
+        <translation>Vues nommées</translation>
     </message>
     <message>
         <source>O&amp;bjects</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;bjets</translation>
     </message>
     <message>
         <source>Object snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Accrochage aux objets</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décaler</translation>
     </message>
     <message>
         <source>Onto the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur la feuille</translation>
     </message>
     <message>
         <source>Opens drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre des dessins</translation>
     </message>
     <message>
         <source>Ordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordonnée</translation>
     </message>
     <message>
         <source>Override variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer des variables</translation>
     </message>
     <message>
         <source>P&amp;DF page...</source>
-        <translation type="unfinished"></translation>
+        <translation>Page P&amp;DF...</translation>
     </message>
     <message>
         <source>Pa&amp;ge setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mise en page...</translation>
     </message>
     <message>
         <source>Paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Paragraphe</translation>
     </message>
     <message>
         <source>Paste as b&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller en b&amp;loc</translation>
     </message>
     <message>
         <source>Paste where it &amp;was</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller à l&apos;&amp;emplacement d&apos;origine</translation>
     </message>
     <message>
         <source>Place a shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer une forme</translation>
     </message>
     <message>
         <source>Poin&amp;ts</source>
-        <translation type="unfinished"></translation>
+        <translation>Poin&amp;ts</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Polygone</translation>
     </message>
     <message>
         <source>Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Polyligne</translation>
     </message>
     <message>
         <source>Polyline in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Polyligne dans l&apos;espace</translation>
     </message>
     <message>
         <source>Prints the layout that is shown, or writes it as a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime la présentation affichée, ou l&apos;écrit en page</translation>
     </message>
     <message>
         <source>Purge</source>
-        <translation type="unfinished"></translation>
+        <translation>Purger</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished">Rayon</translation>
+        <translation>Rayon</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangle</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Région</translation>
     </message>
     <message>
         <source>Remove duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les doublons</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Revision cloud</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuage de révision</translation>
     </message>
     <message>
         <source>Ring</source>
-        <translation type="unfinished"></translation>
+        <translation>Anneau</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation</translation>
     </message>
     <message>
         <source>Rotate round an axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourner autour d&apos;un axe</translation>
     </message>
     <message>
         <source>Run a s&amp;cript</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xécuter un script</translation>
     </message>
     <message>
         <source>S&amp;ettings...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Paramètres...</translation>
     </message>
     <message>
         <source>Save &amp;as...</source>
-        <translation type="unfinished">Enregistrer &amp;sous...</translation>
+        <translation>Enregistrer &amp;sous...</translation>
     </message>
     <message>
         <source>Saves the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre le dessin</translation>
     </message>
     <message>
         <source>Saves the drawing under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre le dessin sous un autre nom</translation>
     </message>
     <message>
         <source>Says what this program is</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit ce qu&apos;est ce programme</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished">Échelle</translation>
+        <translation>Échelle</translation>
     </message>
     <message>
         <source>Shows a place to try Lisp at</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche un endroit où essayer Lisp</translation>
     </message>
     <message>
         <source>Shows all that is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche tout ce qui est dessiné</translation>
     </message>
     <message>
         <source>Shows all through the viewport that is worked through</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche tout à travers la fenêtre où l&apos;on travaille</translation>
     </message>
     <message>
         <source>Shows less, larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche moins, en plus grand</translation>
     </message>
     <message>
         <source>Shows more, smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche plus, en plus petit</translation>
     </message>
     <message>
         <source>Shows recent drawings, samples and first steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les dessins récents, les exemples et les premiers pas</translation>
     </message>
     <message>
         <source>Shows the help pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les pages d&apos;aide</translation>
     </message>
     <message>
         <source>Shows what is in a box</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qui est dans un cadre</translation>
     </message>
     <message>
         <source>Snap to a grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolution</translation>
     </message>
     <message>
         <source>Snaps, display, selection, units, folders and trust</source>
-        <translation type="unfinished"></translation>
+        <translation>Accrochages, affichage, sélection, unités, dossiers et confiance</translation>
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Étirer</translation>
     </message>
     <message>
         <source>Synchronize attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchroniser les attributs</translation>
     </message>
     <message>
         <source>System &amp;variables</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variables système</translation>
     </message>
     <message>
         <source>Take back the last layer change</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la dernière modification de calques</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">Texte</translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Text of one line</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte sur une ligne</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished">Style de texte</translation>
+        <translation>Style de texte</translation>
     </message>
     <message>
         <source>Texts to a paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Textes en un paragraphe</translation>
     </message>
     <message>
         <source>Thaw all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout dégeler</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:1</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:10</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:10</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:100</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:100</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:2</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:2</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:20</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:20</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:5</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:5</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:50</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre où l&apos;on travaille affiche à l&apos;échelle 1:50</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Dates et durées</translation>
     </message>
     <message>
         <source>To the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le calque courant</translation>
     </message>
     <message>
         <source>To the layer of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le calque d&apos;un autre</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>Turn all on</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout activer</translation>
     </message>
     <message>
         <source>Turn off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactiver</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished">Unités</translation>
+        <translation>Unités</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Déverrouiller</translation>
     </message>
     <message>
         <source>Update expressions of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser les expressions des textes</translation>
     </message>
     <message>
         <source>User coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Système de coordonnées utilisateur</translation>
     </message>
     <message>
         <source>Viewports of &amp;a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres d&apos;une feui&amp;lle</translation>
     </message>
     <message>
         <source>W&amp;hite ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Fon&amp;d blanc</translation>
     </message>
     <message>
         <source>With one end</source>
-        <translation type="unfinished"></translation>
+        <translation>À une extrémité</translation>
     </message>
     <message>
         <source>Without ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans extrémités</translation>
     </message>
     <message>
         <source>Write a block to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire un bloc dans un fichier</translation>
     </message>
     <message>
         <source>Writes down what you do as a session that plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Note ce que vous faites en une session qui se joue</translation>
     </message>
     <message>
         <source>Writes what is drawn as a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit ce qui est dessiné en page</translation>
     </message>
     <message>
         <source>Writes what is drawn as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit ce qui est dessiné en image</translation>
     </message>
     <message>
         <source>Writes what is drawn as lines and areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit ce qui est dessiné en lignes et surfaces</translation>
     </message>
     <message>
         <source>Zoom &amp;extents</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom é&amp;tendu</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom a&amp;vant</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom a&amp;rrière</translation>
     </message>
     <message>
         <source>Zoom &amp;window</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom &amp;fenêtre</translation>
     </message>
 </context>
 <context>
@@ -13034,427 +13322,427 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source> saying &quot;%1&quot;</source>
-        <translation type="unfinished"> qui dit &quot;%1&quot;</translation>
+        <translation> qui dit &quot;%1&quot;</translation>
     </message>
     <message>
         <source>${%1} is not known</source>
-        <translation type="unfinished">${%1} n&apos;est pas connu</translation>
+        <translation>${%1} n&apos;est pas connu</translation>
     </message>
     <message>
         <source>%1 cannot be checked</source>
-        <translation type="unfinished">%1 ne peut pas être coché</translation>
+        <translation>%1 ne peut pas être coché</translation>
     </message>
     <message>
         <source>%1 cannot be written to</source>
-        <translation type="unfinished">impossible d&apos;écrire dans %1</translation>
+        <translation>impossible d&apos;écrire dans %1</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;</source>
-        <translation type="unfinished">%1 n&apos;accepte pas &quot;%2&quot;</translation>
+        <translation>%1 n&apos;accepte pas &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;; it shows &quot;%3&quot;</source>
-        <translation type="unfinished">%1 n&apos;accepte pas &quot;%2&quot;&#xa0;; il affiche &quot;%3&quot;</translation>
+        <translation>%1 n&apos;accepte pas &quot;%2&quot; ; il affiche &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 has no button &quot;%2&quot;</source>
-        <translation type="unfinished">%1 n&apos;a pas de bouton &quot;%2&quot;</translation>
+        <translation>%1 n&apos;a pas de bouton &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no cell %2, %3</source>
-        <translation type="unfinished">%1 n&apos;a pas de cellule %2, %3</translation>
+        <translation>%1 n&apos;a pas de cellule %2, %3</translation>
     </message>
     <message>
         <source>%1 has no item &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished">%1 n&apos;a pas d&apos;élément &quot;%2&quot;&#xa0;; il a %3</translation>
+        <translation>%1 n&apos;a pas d&apos;élément &quot;%2&quot; ; il a %3</translation>
     </message>
     <message>
         <source>%1 has no row &quot;%2&quot;</source>
-        <translation type="unfinished">%1 n&apos;a pas de ligne &quot;%2&quot;</translation>
+        <translation>%1 n&apos;a pas de ligne &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no tab &quot;%2&quot;</source>
-        <translation type="unfinished">%1 n&apos;a pas d&apos;onglet &quot;%2&quot;</translation>
+        <translation>%1 n&apos;a pas d&apos;onglet &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no value to set</source>
-        <translation type="unfinished">%1 n&apos;a pas de valeur à définir</translation>
+        <translation>%1 n&apos;a pas de valeur à définir</translation>
     </message>
     <message>
         <source>%1 has no widget &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished">%1 n&apos;a pas d&apos;élément &quot;%2&quot;&#xa0;; il a %3</translation>
+        <translation>%1 n&apos;a pas d&apos;élément &quot;%2&quot; ; il a %3</translation>
     </message>
     <message>
         <source>%1 has the keyboard</source>
-        <translation type="unfinished">%1 a le clavier</translation>
+        <translation>%1 a le clavier</translation>
     </message>
     <message>
         <source>%1 is disabled</source>
-        <translation type="unfinished">%1 est désactivé</translation>
+        <translation>%1 est désactivé</translation>
     </message>
     <message>
         <source>%1 is no UTF-8 text</source>
-        <translation type="unfinished">%1 n&apos;est pas un texte UTF-8</translation>
+        <translation>%1 n&apos;est pas un texte UTF-8</translation>
     </message>
     <message>
         <source>%1 is no list, table or tree</source>
-        <translation type="unfinished">%1 n&apos;est ni une liste, ni un tableau, ni un arbre</translation>
+        <translation>%1 n&apos;est ni une liste, ni un tableau, ni un arbre</translation>
     </message>
     <message>
         <source>%1 is not visible</source>
-        <translation type="unfinished">%1 n&apos;est pas visible</translation>
+        <translation>%1 n&apos;est pas visible</translation>
     </message>
     <message>
         <source>%1 is open</source>
-        <translation type="unfinished">%1 est ouvert</translation>
+        <translation>%1 est ouvert</translation>
     </message>
     <message>
         <source>%1 is still open</source>
-        <translation type="unfinished">%1&#xa0;: encore ouvert</translation>
+        <translation>%1 : encore ouvert</translation>
     </message>
     <message>
         <source>%1 is too long for a session</source>
-        <translation type="unfinished">%1 est trop long pour une session</translation>
+        <translation>%1 est trop long pour une session</translation>
     </message>
     <message>
         <source>%1 stays as it is; another button of its group must be checked</source>
-        <translation type="unfinished">%1 reste tel quel&#xa0;; un autre bouton de son groupe doit être coché</translation>
+        <translation>%1 reste tel quel ; un autre bouton de son groupe doit être coché</translation>
     </message>
     <message>
         <source>%1 takes no file name</source>
-        <translation type="unfinished">%1 n&apos;accepte pas de nom de fichier</translation>
+        <translation>%1 n&apos;accepte pas de nom de fichier</translation>
     </message>
     <message>
         <source>%1 took &quot;%2&quot;</source>
-        <translation type="unfinished">%1 a pris &quot;%2&quot;</translation>
+        <translation>%1 a pris &quot;%2&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither yes nor no (on, off)</source>
-        <translation type="unfinished">&quot;%1&quot; n&apos;est ni yes ni no (on, off)</translation>
+        <translation>&quot;%1&quot; n&apos;est ni yes ni no (on, off)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no handle</source>
-        <translation type="unfinished">&quot;%1&quot; n&apos;est pas un identificateur d&apos;objet</translation>
+        <translation>&quot;%1&quot; n&apos;est pas un identificateur d&apos;objet</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no key</source>
-        <translation type="unfinished">&quot;%1&quot; n&apos;est pas une touche</translation>
+        <translation>&quot;%1&quot; n&apos;est pas une touche</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no point; write x,y or x,y,z</source>
-        <translation type="unfinished">&quot;%1&quot; n&apos;est pas un point&#xa0;; écrivez x,y ou x,y,z</translation>
+        <translation>&quot;%1&quot; n&apos;est pas un point ; écrivez x,y ou x,y,z</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number from 0 up</source>
-        <translation type="unfinished">&quot;%1&quot; n&apos;est pas un nombre entier à partir de 0</translation>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre entier à partir de 0</translation>
     </message>
     <message>
         <source>a quote is not closed, or text follows right behind it</source>
-        <translation type="unfinished">un guillemet n&apos;est pas fermé, ou du texte le suit immédiatement</translation>
+        <translation>un guillemet n&apos;est pas fermé, ou du texte le suit immédiatement</translation>
     </message>
     <message>
         <source>a view needs two corners</source>
-        <translation type="unfinished">une vue demande deux coins</translation>
+        <translation>une vue demande deux coins</translation>
     </message>
     <message>
         <source>cancelled at %1, </source>
-        <translation type="unfinished">annulé à %1, </translation>
+        <translation>annulé à %1, </translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished">impossible de lire %1&#xa0;: %2</translation>
+        <translation>impossible de lire %1 : %2</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 cannot be written to</source>
-        <translation type="unfinished">la cellule %1, %2 de %3 n&apos;est pas modifiable</translation>
+        <translation>la cellule %1, %2 de %3 n&apos;est pas modifiable</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 does not take &quot;%4&quot;</source>
-        <translation type="unfinished">la cellule %1, %2 de %3 n&apos;accepte pas &quot;%4&quot;</translation>
+        <translation>la cellule %1, %2 de %3 n&apos;accepte pas &quot;%4&quot;</translation>
     </message>
     <message>
         <source>dialog %1</source>
-        <translation type="unfinished">boîte de dialogue %1</translation>
+        <translation>boîte de dialogue %1</translation>
     </message>
     <message>
         <source>done again, the drawing differs from what it was: %1</source>
-        <translation type="unfinished">après rétablissement, le dessin diffère de ce qu&apos;il était&#xa0;: %1</translation>
+        <translation>après rétablissement, le dessin diffère de ce qu&apos;il était : %1</translation>
     </message>
     <message>
         <source>drawing: only the first line says which drawing it is</source>
-        <translation type="unfinished">drawing&#xa0;: seule la première ligne dit de quel dessin il s&apos;agit</translation>
+        <translation>drawing : seule la première ligne dit de quel dessin il s&apos;agit</translation>
     </message>
     <message>
         <source>end: no part was begun</source>
-        <translation type="unfinished">end&#xa0;: aucune partie n&apos;a été commencée</translation>
+        <translation>end : aucune partie n&apos;a été commencée</translation>
     </message>
     <message>
         <source>it is disabled</source>
-        <translation type="unfinished">il est désactivé</translation>
+        <translation>il est désactivé</translation>
     </message>
     <message>
         <source>it is enabled</source>
-        <translation type="unfinished">il est activé</translation>
+        <translation>il est activé</translation>
     </message>
     <message>
         <source>it is nil</source>
-        <translation type="unfinished">c&apos;est nil</translation>
+        <translation>c&apos;est nil</translation>
     </message>
     <message>
         <source>it is not visible</source>
-        <translation type="unfinished">il n&apos;est pas visible</translation>
+        <translation>il n&apos;est pas visible</translation>
     </message>
     <message>
         <source>it is visible</source>
-        <translation type="unfinished">il est visible</translation>
+        <translation>il est visible</translation>
     </message>
     <message>
         <source>it shows &quot;%1&quot;</source>
-        <translation type="unfinished">il affiche &quot;%1&quot;</translation>
+        <translation>il affiche &quot;%1&quot;</translation>
     </message>
     <message>
         <source>it stands in front of a command or lisp</source>
-        <translation type="unfinished">cela se place devant une commande ou lisp</translation>
+        <translation>cela se place devant une commande ou lisp</translation>
     </message>
     <message>
         <source>line %1%2 (%3): </source>
-        <translation type="unfinished">ligne %1%2 (%3)&#xa0;: </translation>
+        <translation>ligne %1%2 (%3) : </translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished">ligne %1&#xa0;: %2</translation>
+        <translation>ligne %1 : %2</translation>
     </message>
     <message>
         <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
-        <translation type="unfinished">ligne %1&#xa0;: la session a des cas, qui demandent chacun que le dessin soit rouvert</translation>
+        <translation>ligne %1 : la session a des cas, qui demandent chacun que le dessin soit rouvert</translation>
     </message>
     <message>
         <source>no arguments</source>
-        <translation type="unfinished">aucun argument</translation>
+        <translation>aucun argument</translation>
     </message>
     <message>
         <source>no dialog</source>
-        <translation type="unfinished">aucune boîte de dialogue</translation>
+        <translation>aucune boîte de dialogue</translation>
     </message>
     <message>
         <source>no folder was given to write to (--out)</source>
-        <translation type="unfinished">aucun dossier où écrire n&apos;a été donné (--out)</translation>
+        <translation>aucun dossier où écrire n&apos;a été donné (--out)</translation>
     </message>
     <message>
         <source>no program was given that reads drawings (--audit, or the environment&apos;s ORTAKIT_AUDIT)</source>
-        <translation type="unfinished">aucun programme lisant les dessins n&apos;a été donné (--audit, ou ORTAKIT_AUDIT dans l&apos;environnement)</translation>
+        <translation>aucun programme lisant les dessins n&apos;a été donné (--audit, ou ORTAKIT_AUDIT dans l&apos;environnement)</translation>
     </message>
     <message>
         <source>no prompt and no dialog is open that this could be meant for</source>
-        <translation type="unfinished">ni invite ni boîte de dialogue n&apos;est ouverte à laquelle cela pourrait s&apos;adresser</translation>
+        <translation>ni invite ni boîte de dialogue n&apos;est ouverte à laquelle cela pourrait s&apos;adresser</translation>
     </message>
     <message>
         <source>nothing has the keyboard</source>
-        <translation type="unfinished">rien n&apos;a le clavier</translation>
+        <translation>rien n&apos;a le clavier</translation>
     </message>
     <message>
         <source>nothing with a name</source>
-        <translation type="unfinished">rien qui ait un nom</translation>
+        <translation>rien qui ait un nom</translation>
     </message>
     <message>
         <source>part %1, line %2</source>
-        <translation type="unfinished">partie %1, ligne %2</translation>
+        <translation>partie %1, ligne %2</translation>
     </message>
     <message>
         <source>part: a part cannot be written in a part</source>
-        <translation type="unfinished">part&#xa0;: une partie ne peut pas être écrite dans une partie</translation>
+        <translation>part : une partie ne peut pas être écrite dans une partie</translation>
     </message>
     <message>
         <source>part: it has no end</source>
-        <translation type="unfinished">part&#xa0;: elle n&apos;a pas de fin</translation>
+        <translation>part : elle n&apos;a pas de fin</translation>
     </message>
     <message>
         <source>part: the part before it has no end</source>
-        <translation type="unfinished">part&#xa0;: la partie précédente n&apos;a pas de fin</translation>
+        <translation>part : la partie précédente n&apos;a pas de fin</translation>
     </message>
     <message>
         <source>part: there is a part %1 already</source>
-        <translation type="unfinished">part&#xa0;: il y a déjà une partie %1</translation>
+        <translation>part : il y a déjà une partie %1</translation>
     </message>
     <message>
         <source>play: the part %1 plays itself</source>
-        <translation type="unfinished">play&#xa0;: la partie %1 se joue elle-même</translation>
+        <translation>play : la partie %1 se joue elle-même</translation>
     </message>
     <message>
         <source>play: the part %1 takes %2</source>
-        <translation type="unfinished">play&#xa0;: la partie %1 prend %2</translation>
+        <translation>play : la partie %1 prend %2</translation>
     </message>
     <message>
         <source>play: the parts write too much</source>
-        <translation type="unfinished">play&#xa0;: les parties écrivent trop</translation>
+        <translation>play : les parties écrivent trop</translation>
     </message>
     <message>
         <source>play: there is no part %1</source>
-        <translation type="unfinished">play&#xa0;: il n&apos;y a pas de partie %1</translation>
+        <translation>play : il n&apos;y a pas de partie %1</translation>
     </message>
     <message>
         <source>play: too many parts are played one in the other</source>
-        <translation type="unfinished">play&#xa0;: trop de parties sont jouées l&apos;une dans l&apos;autre</translation>
+        <translation>play : trop de parties sont jouées l&apos;une dans l&apos;autre</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 cannot be checked</source>
-        <translation type="unfinished">la ligne &quot;%1&quot; de %2 ne peut pas être cochée</translation>
+        <translation>la ligne &quot;%1&quot; de %2 ne peut pas être cochée</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 is not visible</source>
-        <translation type="unfinished">la ligne &quot;%1&quot; de %2 n&apos;est pas visible</translation>
+        <translation>la ligne &quot;%1&quot; de %2 n&apos;est pas visible</translation>
     </message>
     <message>
         <source>something is missing at the end of the line</source>
-        <translation type="unfinished">il manque quelque chose à la fin de la ligne</translation>
+        <translation>il manque quelque chose à la fin de la ligne</translation>
     </message>
     <message>
         <source>the changes are &quot;%1&quot;</source>
-        <translation type="unfinished">les modifications sont &quot;%1&quot;</translation>
+        <translation>les modifications sont &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the drawing differs from what it was: %1</source>
-        <translation type="unfinished">le dessin diffère de ce qu&apos;il était&#xa0;: %1</translation>
+        <translation>le dessin diffère de ce qu&apos;il était : %1</translation>
     </message>
     <message>
         <source>the drawing has no entity with the handle %1</source>
-        <translation type="unfinished">le dessin n&apos;a pas d&apos;objet avec l&apos;identificateur %1</translation>
+        <translation>le dessin n&apos;a pas d&apos;objet avec l&apos;identificateur %1</translation>
     </message>
     <message>
         <source>the drawing is unchanged</source>
-        <translation type="unfinished">le dessin est inchangé</translation>
+        <translation>le dessin est inchangé</translation>
     </message>
     <message>
         <source>the drawing was changed</source>
-        <translation type="unfinished">le dessin a été modifié</translation>
+        <translation>le dessin a été modifié</translation>
     </message>
     <message>
         <source>the error is &quot;%1&quot;</source>
-        <translation type="unfinished">l&apos;erreur est &quot;%1&quot;</translation>
+        <translation>l&apos;erreur est &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file does not hold it; its text is &quot;%1&quot;</source>
-        <translation type="unfinished">le fichier ne le contient pas&#xa0;; son texte est &quot;%1&quot;</translation>
+        <translation>le fichier ne le contient pas ; son texte est &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file is there</source>
-        <translation type="unfinished">le fichier est présent</translation>
+        <translation>le fichier est présent</translation>
     </message>
     <message>
         <source>the file&apos;s text is &quot;%1&quot;</source>
-        <translation type="unfinished">le texte du fichier est &quot;%1&quot;</translation>
+        <translation>le texte du fichier est &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the files differ at byte %1: &quot;%2&quot; and &quot;%3&quot;</source>
-        <translation type="unfinished">les fichiers diffèrent à l&apos;octet %1&#xa0;: &quot;%2&quot; et &quot;%3&quot;</translation>
+        <translation>les fichiers diffèrent à l&apos;octet %1 : &quot;%2&quot; et &quot;%3&quot;</translation>
     </message>
     <message>
         <source>the items are &quot;%1&quot;</source>
-        <translation type="unfinished">les éléments sont &quot;%1&quot;</translation>
+        <translation>les éléments sont &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the line goes on (it ends in a backslash), but the session ends</source>
-        <translation type="unfinished">la ligne continue (elle finit par une barre oblique inverse), mais la session finit</translation>
+        <translation>la ligne continue (elle finit par une barre oblique inverse), mais la session finit</translation>
     </message>
     <message>
         <source>the list went away while rows were selected</source>
-        <translation type="unfinished">la liste a disparu pendant la sélection de lignes</translation>
+        <translation>la liste a disparu pendant la sélection de lignes</translation>
     </message>
     <message>
         <source>the menu has no entry &quot;%1&quot;; it has %2</source>
-        <translation type="unfinished">le menu n&apos;a pas d&apos;entrée &quot;%1&quot;&#xa0;; il a %2</translation>
+        <translation>le menu n&apos;a pas d&apos;entrée &quot;%1&quot; ; il a %2</translation>
     </message>
     <message>
         <source>the menu&apos;s entry &quot;%1&quot; is disabled</source>
-        <translation type="unfinished">l&apos;entrée de menu &quot;%1&quot; est désactivée</translation>
+        <translation>l&apos;entrée de menu &quot;%1&quot; est désactivée</translation>
     </message>
     <message>
         <source>the order of its records</source>
-        <translation type="unfinished">l&apos;ordre de ses enregistrements</translation>
+        <translation>l&apos;ordre de ses enregistrements</translation>
     </message>
     <message>
         <source>the prompt &quot;%1&quot;</source>
-        <translation type="unfinished">l&apos;invite &quot;%1&quot;</translation>
+        <translation>l&apos;invite &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the reader %1 does not answer</source>
-        <translation type="unfinished">le lecteur %1 ne répond pas</translation>
+        <translation>le lecteur %1 ne répond pas</translation>
     </message>
     <message>
         <source>the reader takes no names with line feeds</source>
-        <translation type="unfinished">le lecteur n&apos;accepte pas les noms avec des sauts de ligne</translation>
+        <translation>le lecteur n&apos;accepte pas les noms avec des sauts de ligne</translation>
     </message>
     <message>
         <source>the run before it ended without an error</source>
-        <translation type="unfinished">l&apos;exécution précédente a fini sans erreur</translation>
+        <translation>l&apos;exécution précédente a fini sans erreur</translation>
     </message>
     <message>
         <source>the run changed nothing</source>
-        <translation type="unfinished">l&apos;exécution n&apos;a rien modifié</translation>
+        <translation>l&apos;exécution n&apos;a rien modifié</translation>
     </message>
     <message>
         <source>the run ended with &quot;%1&quot;</source>
-        <translation type="unfinished">l&apos;exécution a fini par &quot;%1&quot;</translation>
+        <translation>l&apos;exécution a fini par &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the session ends while %1 is open</source>
-        <translation type="unfinished">la session finit alors que ceci est ouvert&#xa0;: %1</translation>
+        <translation>la session finit alors que ceci est ouvert : %1</translation>
     </message>
     <message>
         <source>the session took longer than %1 s; open is %2</source>
-        <translation type="unfinished">la session a duré plus de %1 s&#xa0;; est ouvert&#xa0;: %2</translation>
+        <translation>la session a duré plus de %1 s ; est ouvert : %2</translation>
     </message>
     <message>
         <source>the title is &quot;%1&quot;</source>
-        <translation type="unfinished">le titre est &quot;%1&quot;</translation>
+        <translation>le titre est &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the widget went away while it was typed into</source>
-        <translation type="unfinished">l&apos;élément de saisie a disparu pendant la frappe</translation>
+        <translation>l&apos;élément de saisie a disparu pendant la frappe</translation>
     </message>
     <message>
         <source>there are %1</source>
-        <translation type="unfinished">il y en a %1</translation>
+        <translation>il y en a %1</translation>
     </message>
     <message>
         <source>there is %1</source>
-        <translation type="unfinished">il y a %1</translation>
+        <translation>il y a %1</translation>
     </message>
     <message>
         <source>there is no panel &quot;%1&quot;</source>
-        <translation type="unfinished">il n&apos;y a pas de panneau &quot;%1&quot;</translation>
+        <translation>il n&apos;y a pas de panneau &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished">il n&apos;y a rien à rétablir</translation>
+        <translation>il n&apos;y a rien à rétablir</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished">il n&apos;y a rien à annuler</translation>
+        <translation>il n&apos;y a rien à annuler</translation>
     </message>
     <message>
         <source>there was no run before it</source>
-        <translation type="unfinished">il n&apos;y a pas eu d&apos;exécution avant</translation>
+        <translation>il n&apos;y a pas eu d&apos;exécution avant</translation>
     </message>
     <message>
         <source>too much on the line: &quot;%1&quot;</source>
-        <translation type="unfinished">il y a quelque chose de trop sur la ligne&#xa0;: &quot;%1&quot;</translation>
+        <translation>il y a quelque chose de trop sur la ligne : &quot;%1&quot;</translation>
     </message>
     <message>
         <source>undone, the drawing differs from what it was: %1</source>
-        <translation type="unfinished">après annulation, le dessin diffère de ce qu&apos;il était&#xa0;: %1</translation>
+        <translation>après annulation, le dessin diffère de ce qu&apos;il était : %1</translation>
     </message>
     <message>
         <source>unknown word &quot;%1&quot;</source>
-        <translation type="unfinished">mot inconnu &quot;%1&quot;</translation>
+        <translation>mot inconnu &quot;%1&quot;</translation>
     </message>
     <message>
         <source>what cannot be read again</source>
-        <translation type="unfinished">ce qui ne peut pas être relu</translation>
+        <translation>ce qui ne peut pas être relu</translation>
     </message>
     <message>
         <source>what was printed is &quot;%1&quot;</source>
-        <translation type="unfinished">ce qui a été affiché est &quot;%1&quot;</translation>
+        <translation>ce qui a été affiché est &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -13807,31 +14095,31 @@ The user&apos;s settings cannot be kept.
     <name>RenderReport</name>
     <message>
         <source>%1 drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dessinés</translation>
     </message>
     <message>
         <source>%1 invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 invisibles</translation>
     </message>
     <message>
         <source>simplified</source>
-        <translation type="unfinished">simplifié</translation>
+        <translation>simplifié</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished">ignoré</translation>
+        <translation>ignoré</translation>
     </message>
     <message>
         <source>not drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>non dessinés</translation>
     </message>
     <message>
         <source>drawn in part</source>
-        <translation type="unfinished"></translation>
+        <translation>dessinés en partie</translation>
     </message>
     <message>
         <source>cut short: there is more than is drawn in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>interrompu : il y a plus que ce qui est dessiné en une fois</translation>
     </message>
 </context>
 <context>
@@ -14219,308 +14507,310 @@ The user&apos;s settings cannot be kept.
     <name>TrustQuestion</name>
     <message>
         <source>&amp;Load once</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger &amp;une fois</translation>
     </message>
     <message>
         <source>&amp;Trust this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire &amp;confiance à ce dossier</translation>
     </message>
     <message>
         <source>Load this program? It can do whatever you can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger ce programme ? Il peut faire tout ce que vous pouvez faire.</translation>
     </message>
 </context>
 <context>
     <name>Uses</name>
     <message>
         <source>%1 takes %2 from %3 to %4, not &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 prend %2 de %3 à %4, non &quot;%5&quot;</translation>
     </message>
     <message>
         <source>%1 is %2, not &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est %2, non &quot;%3&quot;</translation>
     </message>
     <message>
         <source>or</source>
-        <translation type="unfinished"></translation>
+        <translation>ou</translation>
     </message>
     <message>
         <source>%1 has no meaning here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas de sens ici</translation>
     </message>
     <message>
         <source>there is no option %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas d&apos;option %1%2</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 demande une valeur</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne prend pas de valeur</translation>
     </message>
     <message>
         <source>there is no command %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de commande %1%2</translation>
     </message>
     <message>
         <source>convert needs two files</source>
-        <translation type="unfinished"></translation>
+        <translation>convert demande deux fichiers</translation>
     </message>
     <message>
         <source>the sheet of a layout as its page setup has it; &quot;model&quot; for the page of model space; &quot;all&quot; for every sheet: a page each in a pdf, a file each as png and svg, with its name: OUT-NAME.png</source>
-        <translation type="unfinished"></translation>
+        <translation>la feuille d&apos;une présentation selon sa mise en page ; &quot;model&quot; pour la page de l&apos;espace objet ; &quot;all&quot; pour chaque feuille : une page chacune dans un pdf, un fichier chacune en png et svg, avec son nom : OUT-NAME.png</translation>
     </message>
     <message>
         <source>another sheet, on which everything is to be seen: A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres as 420x297; -landscape or -portrait behind it turns it</source>
-        <translation type="unfinished"></translation>
+        <translation>une autre feuille, où tout doit être visible : A0 à A6, B0 à B6, ANSI-A à ANSI-E, ARCH-A à ARCH-E1 ou des millimètres comme 420x297 ; -landscape ou -portrait à la suite l&apos;oriente</translation>
     </message>
     <message>
         <source>millimetres on the sheet to drawing units, in place of what the page says or as fits</source>
-        <translation type="unfinished"></translation>
+        <translation>millimètres sur la feuille pour unités de dessin, au lieu de ce que dit la page ou de ce qui convient</translation>
     </message>
     <message>
         <source>show what lies between these corners, in drawing units</source>
-        <translation type="unfinished"></translation>
+        <translation>montre ce qui se trouve entre ces coins, en unités de dessin</translation>
     </message>
     <message>
         <source>png, svg: so many pixels, 1 to 16000 each way; a sheet goes into their middle</source>
-        <translation type="unfinished"></translation>
+        <translation>png, svg : tant de pixels, 1 à 16000 par côté ; une feuille se place en leur milieu</translation>
     </message>
     <message>
         <source>png, svg: pixels an inch of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>png, svg : pixels par pouce de la feuille</translation>
     </message>
     <message>
         <source>what it lies on</source>
-        <translation type="unfinished"></translation>
+        <translation>sur quoi il repose</translation>
     </message>
     <message>
         <source>only layers whose names match, as in a layer filter: &quot;walls,door*&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>seulement les calques dont les noms conviennent, comme dans un filtre de calques : &quot;walls,door*&quot;</translation>
     </message>
     <message>
         <source>pdf, svg: texts as areas, or as text that can be searched</source>
-        <translation type="unfinished"></translation>
+        <translation>pdf, svg : textes en surfaces, ou en texte où l&apos;on peut chercher</translation>
     </message>
     <message>
         <source>a table of plot styles (ctb, stb) in place of what the page names; &quot;none&quot; for none. Without a file there are monochrome, grayscale and screening 25%, 50%, 75%, 100%</source>
-        <translation type="unfinished"></translation>
+        <translation>une table de styles de tracé (ctb, stb) au lieu de celle que nomme la page ; &quot;none&quot; pour aucune. Sans fichier il y a monochrome, grayscale et screening 25%, 50%, 75%, 100%</translation>
     </message>
     <message>
         <source>all lines as thin as can be</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les lignes aussi fines que possible</translation>
     </message>
     <message>
         <source>the most it may take; OUT stays as it was when it takes longer</source>
-        <translation type="unfinished"></translation>
+        <translation>la durée maximale ; OUT reste tel quel quand elle est dépassée</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune limite</translation>
     </message>
     <message>
         <source>write OUT although another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit OUT bien qu&apos;un autre programme l&apos;ait ouvert</translation>
     </message>
     <message>
         <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>finit par le statut 3 quand il manque quelque chose à l&apos;image, qui est écrite quand même</translation>
     </message>
     <message>
         <source>write a DXF file in the binary form; without it, as text</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit un fichier DXF sous la forme binaire ; sans cela, en texte</translation>
     </message>
     <message>
         <source>open a damaged IN as far as it is sound, and tell on standard error what was dropped; OUT must be another file</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvre un IN endommagé autant qu&apos;il est sain, et dit sur l&apos;erreur standard ce qui a été écarté ; OUT doit être un autre fichier</translation>
     </message>
     <message>
         <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation type="unfinished"></translation>
+        <translation>affiche une ligne de JSON : input, output, et pour les images complete, drawn, invisible, inPart et notDrawn (un nombre pour chaque type) et cutShort ; avec --layout, tout cela pour chacune des pages, avec layout et output ; avec --recover, de même ce qui a été écarté, réparé et ajouté</translation>
     </message>
     <message>
         <source>writes a drawing as DXF, PNG, SVG or PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit un dessin en DXF, PNG, SVG ou PDF</translation>
     </message>
     <message>
         <source>the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin</translation>
     </message>
     <message>
         <source>the file to write, as what its extension says</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier à écrire, selon son extension</translation>
     </message>
     <message>
         <source>Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre un dessin et l&apos;écrit selon l&apos;extension de OUT : dxf, png, svg ou pdf. Ce qu&apos;une image ne montre pas, ou seulement en partie, est dit sur l&apos;erreur standard, par type.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, with the lineweights that it would have on a sheet 297 mm long; pdf shows it on A4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans les options d&apos;une feuille, png et svg montrent tout l&apos;espace objet en 1600 sur 1200 pixels, avec les épaisseurs de ligne qu&apos;il aurait sur une feuille de 297 mm de long ; pdf le montre sur A4.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>par défaut : %1</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was more to show than is drawn in one go: a few lines of a drawing can make millions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Statut de sortie : 0 fait, 1 un outil, une expression ou une session a échoué ou dépassé une limite, 2 mauvais usage, 3 une partie d&apos;un lot a échoué ou, avec --strict, manque dans une image, 4 un fichier n&apos;a pas pu être lu ou écrit, 5 une image a été écrite, mais il y avait plus à montrer que ce qui est dessiné en une fois : quelques lignes d&apos;un dessin peuvent en faire des millions.</translation>
     </message>
     <message>
         <source>Usage: </source>
-        <translation type="unfinished"></translation>
+        <translation>Usage : </translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes :</translation>
     </message>
     <message>
         <source>Drafting tools without their dialogs:</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils de dessin sans leurs boîtes de dialogue :</translation>
     </message>
     <message>
         <source>Options for every use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Options pour tout usage :</translation>
     </message>
     <message>
         <source>there is no kind of finding &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de sorte de constat &quot;%1&quot;</translation>
     </message>
     <message>
         <source>lisp needs at least one file for this</source>
-        <translation type="unfinished"></translation>
+        <translation>lisp demande pour cela au moins un fichier</translation>
     </message>
     <message>
         <source>--json, --only and --except go with --check</source>
-        <translation type="unfinished"></translation>
+        <translation>--json, --only et --except vont avec --check</translation>
     </message>
     <message>
         <source>--filter and --junit go with --test</source>
-        <translation type="unfinished"></translation>
+        <translation>--filter et --junit vont avec --test</translation>
     </message>
     <message>
         <source>--profile goes with programs that are run</source>
-        <translation type="unfinished"></translation>
+        <translation>--profile va avec des programmes exécutés</translation>
     </message>
     <message>
         <source>--check and --test do not go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--check et --test ne vont pas ensemble</translation>
     </message>
     <message>
         <source>Kinds of findings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortes de constats :</translation>
     </message>
     <message>
         <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
 
 What these files load must lie in a trusted folder: the installation, the folder of the user&apos;s data, those that the system variable TRUSTEDPATHS lists, and those named here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge les fichiers Lisp dans l&apos;ordre et affiche ce qu&apos;ils affichent. &quot;-&quot; lit des expressions de l&apos;entrée standard. Sans --drawing, un nouveau dessin est ouvert. Rien n&apos;est demandé à personne : les invites sont annulées, et une boîte de dialogue finit le programme par le statut 1.
+
+Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;installation, le dossier des données de l&apos;utilisateur, ceux que liste la variable système TRUSTEDPATHS, et ceux nommés ici.</translation>
     </message>
     <message>
         <source>the drawing to work on</source>
-        <translation type="unfinished"></translation>
+        <translation>le dessin sur lequel travailler</translation>
     </message>
     <message>
         <source>a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>un nouveau</translation>
     </message>
     <message>
         <source>the most all of it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>la durée maximale de l&apos;ensemble</translation>
     </message>
     <message>
         <source>write files as well that another program has open, or has changed since they were opened</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit aussi les fichiers qu&apos;un autre programme a ouverts, ou modifiés depuis leur ouverture</translation>
     </message>
     <message>
         <source>tell on standard error where the time went, function by function</source>
-        <translation type="unfinished"></translation>
+        <translation>dit sur l&apos;erreur standard où le temps est passé, fonction par fonction</translation>
     </message>
     <message>
         <source>write that as folded stacks as well, of which flame graphs are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit cela aussi en piles repliées, dont on dessine des graphes de flammes</translation>
     </message>
     <message>
         <source>Without a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans fichier</translation>
     </message>
     <message>
         <source>It is a prompt: expressions are evaluated as they are typed, and their values printed. Tab completes names, &quot;help NAME&quot; or &quot;?NAME&quot; tells about one, Ctrl+C stops what runs, Ctrl+D ends. What is piped in is evaluated form by form; errors go to standard error with their line, the forms behind one are evaluated all the same, and the status is 1 then.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est une invite : les expressions sont évaluées à mesure qu&apos;elles sont saisies, et leurs valeurs affichées. Tab complète les noms, &quot;help NAME&quot; ou &quot;?NAME&quot; en explique un, Ctrl+C arrête ce qui s&apos;exécute, Ctrl+D termine. Ce qui est transmis par un tube est évalué forme par forme ; les erreurs vont sur l&apos;erreur standard avec leur ligne, les formes suivantes sont évaluées quand même, et le statut est alors 1.</translation>
     </message>
     <message>
         <source>With --check</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec --check</translation>
     </message>
     <message>
         <source>The files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers sont lus et non exécutés, et ce qui y paraît faux est dit, une ligne chacun : FILE:LINE:COLUMN: erreur ou avertissement : ce que c&apos;est [KIND]. Ce que l&apos;un d&apos;eux définit, les autres le connaissent. Finit par le statut 1 quand quelque chose a été dit.</translation>
     </message>
     <message>
         <source>read the files and tell what looks wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>lit les fichiers et dit ce qui y paraît faux</translation>
     </message>
     <message>
         <source>tell it as one line of JSON: findings, each with file, line, column, severity, kind and message, and the numbers of errors and warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>le dit en une ligne de JSON : findings, chacun avec file, line, column, severity, kind et message, et les nombres d&apos;erreurs et d&apos;avertissements</translation>
     </message>
     <message>
         <source>tell only these kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>ne dit que ces sortes</translation>
     </message>
     <message>
         <source>tell all kinds but these</source>
-        <translation type="unfinished"></translation>
+        <translation>dit toutes les sortes sauf celles-ci</translation>
     </message>
     <message>
         <source>With --test</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec --test</translation>
     </message>
     <message>
         <source>The tests that the files define by (deftest name form...) are run, each in a new drawing (or DRAWING) into which its file was loaded before, and told on standard output in version 14 of the Test Anything Protocol. The time limit is that of each test. Ends with status 1 when one failed or there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les tests que les fichiers définissent par (deftest name form...) sont exécutés, chacun dans un nouveau dessin (ou DRAWING) où son fichier a été chargé auparavant, et rapportés sur la sortie standard dans la version 14 du Test Anything Protocol. La limite de temps est celle de chaque test. Finit par le statut 1 quand l&apos;un a échoué ou qu&apos;il n&apos;y en avait aucun.</translation>
     </message>
     <message>
         <source>run the tests that the files define</source>
-        <translation type="unfinished"></translation>
+        <translation>exécute les tests que les fichiers définissent</translation>
     </message>
     <message>
         <source>run only tests of such names: * stands for any characters, ? for one</source>
-        <translation type="unfinished"></translation>
+        <translation>n&apos;exécute que les tests de tels noms : * vaut pour des caractères quelconques, ? pour un seul</translation>
     </message>
     <message>
         <source>write a report in JUnit&apos;s XML instead</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit plutôt un rapport dans le XML de JUnit</translation>
     </message>
     <message>
         <source>runs, checks or tests Lisp files, or is a prompt for Lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>exécute, contrôle ou teste des fichiers Lisp, ou est une invite Lisp</translation>
     </message>
     <message>
         <source>a Lisp file, or - for standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier Lisp, ou - pour l&apos;entrée standard</translation>
     </message>
     <message>
         <source>names takes no word</source>
-        <translation type="unfinished"></translation>
+        <translation>names ne prend pas de mot</translation>
     </message>
     <message>
         <source>help takes one command</source>
-        <translation type="unfinished"></translation>
+        <translation>help prend une commande</translation>
     </message>
     <message>
         <source>lists what Lisp programs find here</source>
-        <translation type="unfinished"></translation>
+        <translation>liste ce que les programmes Lisp trouvent ici</translation>
     </message>
     <message>
         <source>Prints what Lisp programs find here in a new drawing, a line each with tabs between its fields, sorted:
@@ -14530,183 +14820,189 @@ What these files load must lie in a trusted folder: the installation, the folder
   variable  NAME  KIND       WHAT IT IS
 
 Documents are made from this, and scripts/demand compares it with what programs ask for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce que les programmes Lisp trouvent ici dans un nouveau dessin, une ligne chacun avec des tabulations entre les champs, triées :
+
+  function  NOM  ARGUMENTS  CE QU&apos;ELLE DONNE
+  command   NOM  -          CE QU&apos;ELLE FAIT
+  variable  NOM  GENRE      CE QU&apos;ELLE EST
+
+Des documents en sont faits, et scripts/demand le compare à ce que les programmes demandent.</translation>
     </message>
     <message>
         <source>tells about a command</source>
-        <translation type="unfinished"></translation>
+        <translation>explique une commande</translation>
     </message>
     <message>
         <source>which one; without it, the program as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>laquelle ; sans elle, le programme dans son ensemble</translation>
     </message>
     <message>
         <source>The same as --help behind the command.</source>
-        <translation type="unfinished"></translation>
+        <translation>La même chose que --help après la commande.</translation>
     </message>
     <message>
         <source>run needs a session</source>
-        <translation type="unfinished"></translation>
+        <translation>run demande une session</translation>
     </message>
     <message>
         <source>open damaged drawings as far as they are sound, and tell on standard error what was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvre les dessins endommagés autant qu&apos;ils sont sains, et dit sur l&apos;erreur standard ce qui a été écarté</translation>
     </message>
     <message>
         <source>write the drawings that the session changed there, under their own names; of a session with cases, what it saves itself</source>
-        <translation type="unfinished"></translation>
+        <translation>y écrit les dessins que la session a modifiés, sous leurs propres noms ; d&apos;une session à cas, ce qu&apos;elle enregistre elle-même</translation>
     </message>
     <message>
         <source>write a picture of each drawing as it is in the end to the out folder, or else beside the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit une image de chaque dessin tel qu&apos;il est à la fin dans le dossier de sortie, ou sinon à côté du dessin</translation>
     </message>
     <message>
         <source>an independent reader for sessions that ask one (default: the environment&apos;s ORTAKIT_AUDIT); see scripts/audit</source>
-        <translation type="unfinished"></translation>
+        <translation>un lecteur indépendant pour les sessions qui en interrogent un (par défaut : ORTAKIT_AUDIT de l&apos;environnement) ; voir scripts/audit</translation>
     </message>
     <message>
         <source>where pictures go that the session takes, and those of --png</source>
-        <translation type="unfinished"></translation>
+        <translation>où vont les images que prend la session, et celles de --png</translation>
     </message>
     <message>
         <source>the most the session may take with one drawing; one that does not stop then ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>la durée maximale de la session avec un dessin ; si elle ne s&apos;arrête pas alors, le programme finit</translation>
     </message>
     <message>
         <source>plays a recorded session over drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>joue une session enregistrée sur des dessins</translation>
     </message>
     <message>
         <source>the recorded session</source>
-        <translation type="unfinished"></translation>
+        <translation>la session enregistrée</translation>
     </message>
     <message>
         <source>what it is played over</source>
-        <translation type="unfinished"></translation>
+        <translation>sur quoi elle est jouée</translation>
     </message>
     <message>
         <source>Plays a recorded session over each drawing, one after the other, each opened afresh; without a drawing, over the one that the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each of them. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Joue une session enregistrée sur chaque dessin, l&apos;un après l&apos;autre, chacun ouvert à neuf ; sans dessin, sur celui que dit la session. Les dessins eux-mêmes restent tels quels. Affiche une ligne pour chacun, et pour une session à cas, pour chacun d&apos;eux. Ce qu&apos;une image ne montre pas, ou seulement en partie, est dit sur l&apos;erreur standard, par type.</translation>
     </message>
     <message>
         <source>look of windows and dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>aspect des fenêtres et des boîtes de dialogue</translation>
     </message>
     <message>
         <source>language of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>langue des textes</translation>
     </message>
     <message>
         <source>$ORTAKIT_LANGUAGE; else the window&apos;s setting or the desktop&apos;s language, and English where there is no window or a session is played</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_LANGUAGE ; sinon le paramètre de la fenêtre ou la langue du bureau, et l&apos;anglais où il n&apos;y a pas de fenêtre ou qu&apos;une session est jouée</translation>
     </message>
     <message>
         <source>folder of the user&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>dossier des données de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>$ORTAKIT_HOME, or the system&apos;s place for such data</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_HOME, ou l&apos;endroit du système pour de telles données</translation>
     </message>
     <message>
         <source>the plug-in module</source>
-        <translation type="unfinished"></translation>
+        <translation>le module d&apos;extension</translation>
     </message>
     <message>
         <source>$ORTAKIT_MODULE, or the one installed with the program</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_MODULE, ou celui installé avec le programme</translation>
     </message>
     <message>
         <source>folder of the Lisp tools</source>
-        <translation type="unfinished"></translation>
+        <translation>dossier des outils Lisp</translation>
     </message>
     <message>
         <source>$ORTAKIT_TOOLS, or the one installed with the program</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_TOOLS, ou celui installé avec le programme</translation>
     </message>
     <message>
         <source>let drawings name files of this folder and those below; may be given again. Else they are read from the drawing&apos;s own folder, those below and trusted ones only</source>
-        <translation type="unfinished"></translation>
+        <translation>laisse les dessins nommer des fichiers de ce dossier et de ceux qu&apos;il contient ; peut être répété. Sinon, ils ne sont lus que dans le dossier du dessin, ceux qu&apos;il contient et ceux de confiance</translation>
     </message>
     <message>
         <source>tell this and end</source>
-        <translation type="unfinished"></translation>
+        <translation>dit ceci et finit</translation>
     </message>
     <message>
         <source>tell the version and end</source>
-        <translation type="unfinished"></translation>
+        <translation>dit la version et finit</translation>
     </message>
     <message>
         <source> (did you mean %1?)</source>
-        <translation type="unfinished"></translation>
+        <translation> (vouliez-vous dire %1 ?)</translation>
     </message>
     <message>
         <source>run programs of this folder and those below as well; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>exécute aussi les programmes de ce dossier et de ceux qu&apos;il contient ; peut être répété</translation>
     </message>
     <message>
         <source>the most memory Lisp may take, more being an error of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire maximale que Lisp peut prendre ; au-delà, c&apos;est une erreur du programme</translation>
     </message>
     <message>
         <source>the system variable LISPHEAPMAX, which is 2048 as long as nobody changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>la variable système LISPHEAPMAX, qui vaut 2048 tant que personne ne l&apos;a modifiée</translation>
     </message>
     <message>
         <source>open damaged drawings as far as they are sound; they have no file until they are saved under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvre les dessins endommagés autant qu&apos;ils sont sains ; ils n&apos;ont pas de fichier avant d&apos;être enregistrés sous un nom</translation>
     </message>
     <message>
         <source>open what a program that was killed left of changed drawings, without asking</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvre sans demander ce qu&apos;un programme tué a laissé de dessins modifiés</translation>
     </message>
     <message>
         <source>play a recorded session in the window first</source>
-        <translation type="unfinished"></translation>
+        <translation>joue d&apos;abord une session enregistrée dans la fenêtre</translation>
     </message>
     <message>
         <source>how long each line of the session waits, so that you can watch it</source>
-        <translation type="unfinished"></translation>
+        <translation>combien de temps attend chaque ligne de la session, pour que vous puissiez la regarder</translation>
     </message>
     <message>
         <source>write what you do down as a session that plays</source>
-        <translation type="unfinished"></translation>
+        <translation>note ce que vous faites en une session qui se joue</translation>
     </message>
     <message>
         <source>write a picture of the window to DIR/window.png and end</source>
-        <translation type="unfinished"></translation>
+        <translation>écrit une image de la fenêtre dans DIR/window.png et finit</translation>
     </message>
     <message>
         <source>the most a session may take</source>
-        <translation type="unfinished"></translation>
+        <translation>la durée maximale d&apos;une session</translation>
     </message>
     <message>
         <source>opens drawings in a window</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvre des dessins dans une fenêtre</translation>
     </message>
     <message>
         <source>a drawing to open</source>
-        <translation type="unfinished"></translation>
+        <translation>un dessin à ouvrir</translation>
     </message>
     <message>
         <source>Opens the drawings in a window, or works on them without one. &quot;ortakit help COMMAND&quot; tells more about a command. A drawing whose name is that of a command is written with its folder: ./run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre les dessins dans une fenêtre, ou travaille dessus sans elle. &quot;ortakit help COMMAND&quot; en dit plus sur une commande. Un dessin dont le nom est celui d&apos;une commande s&apos;écrit avec son dossier : ./run</translation>
     </message>
     <message>
         <source>Options of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de la fenêtre</translation>
     </message>
     <message>
         <source>tell what became of each drawing as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>dit en une ligne de JSON ce qu&apos;il est advenu de chaque dessin</translation>
     </message>
     <message>
         <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
-        <translation type="unfinished"></translation>
+        <translation>travaille sur tant de fichiers à la fois, chacun dans un processus à lui, si bien qu&apos;un fichier qui plante ou dure trop longtemps n&apos;est qu&apos;un fichier en échec ; ce qui est dit et son ordre sont les mêmes pour tout N</translation>
     </message>
     <message>
         <source>one process for all</source>
-        <translation type="unfinished"></translation>
+        <translation>un seul processus pour tous</translation>
     </message>
 </context>
 <context>
@@ -14858,47 +15154,47 @@ Aucun dessin n&apos;est ouvert.
     <name>host::app::HelpWindow</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished">Aide</translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Rechercher</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished">Contenu</translation>
+        <translation>Contenu</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été trouvé</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Index</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grand</translation>
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus petit</translation>
     </message>
     <message>
         <source>Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer...</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n&apos;a été trouvé.</translation>
     </message>
 </context>
 <context>
@@ -15271,7 +15567,9 @@ Récupéré dans son état du %1. Il n&apos;est pas dans son fichier tant qu&apo
         <source>
 This link of the help page is not followed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
+</translation>
     </message>
 </context>
 <context>
@@ -15846,51 +16144,51 @@ This link of the help page is not followed: %1
     </message>
     <message>
         <source>GRID</source>
-        <translation type="unfinished">GRILLE</translation>
+        <translation>GRILLE</translation>
     </message>
     <message>
         <source>Shows the grid</source>
-        <translation type="unfinished">Affiche la grille</translation>
+        <translation>Affiche la grille</translation>
     </message>
     <message>
         <source>SNAP</source>
-        <translation type="unfinished">RESOL</translation>
+        <translation>RESOL</translation>
     </message>
     <message>
         <source>Points snap to the grid</source>
-        <translation type="unfinished">Les points s&apos;accrochent à la grille</translation>
+        <translation>Les points s&apos;accrochent à la grille</translation>
     </message>
     <message>
         <source>ORTHO</source>
-        <translation type="unfinished">ORTHO</translation>
+        <translation>ORTHO</translation>
     </message>
     <message>
         <source>Points lie along the axes from the last one</source>
-        <translation type="unfinished">Les points suivent les axes depuis le dernier</translation>
+        <translation>Les points suivent les axes depuis le dernier</translation>
     </message>
     <message>
         <source>POLAR</source>
-        <translation type="unfinished">POLAIRE</translation>
+        <translation>POLAIRE</translation>
     </message>
     <message>
         <source>Points lock to angles from the last one</source>
-        <translation type="unfinished">Les points se calent sur des angles depuis le dernier</translation>
+        <translation>Les points se calent sur des angles depuis le dernier</translation>
     </message>
     <message>
         <source>OSNAP</source>
-        <translation type="unfinished">ACCROBJ</translation>
+        <translation>ACCROBJ</translation>
     </message>
     <message>
         <source>Points snap to entities</source>
-        <translation type="unfinished">Les points s&apos;accrochent aux objets</translation>
+        <translation>Les points s&apos;accrochent aux objets</translation>
     </message>
     <message>
         <source>DYN</source>
-        <translation type="unfinished">DYN</translation>
+        <translation>DYN</translation>
     </message>
     <message>
         <source>Length and angle stand at the pointer; Tab locks what was typed</source>
-        <translation type="unfinished">La longueur et l&apos;angle s&apos;affichent au pointeur&#xa0;; Tab verrouille ce qui est saisi</translation>
+        <translation>La longueur et l&apos;angle s&apos;affichent au pointeur ; Tab verrouille ce qui est saisi</translation>
     </message>
 </context>
 <context>
@@ -16132,46 +16430,46 @@ This link of the help page is not followed: %1
     <name>host::kernel::DrawingBackup</name>
     <message>
         <source>No backup of %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie de sauvegarde de %1 : %2.</translation>
     </message>
     <message>
         <source>the backup would take the place of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>la copie de sauvegarde prendrait la place du dessin</translation>
     </message>
     <message>
         <source>there is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de dossier %1</translation>
     </message>
 </context>
 <context>
     <name>host::view::Export</name>
     <message>
         <source>Cannot make a picture of this size for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de faire une image de cette taille pour %1</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1 : %2</translation>
     </message>
     <message>
         <source>The sheet would be %1 by %2 pixels; %3 each way are the most</source>
-        <translation type="unfinished"></translation>
+        <translation>La feuille aurait %1 sur %2 pixels ; %3 par côté est le maximum</translation>
     </message>
     <message>
         <source>There is no block named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de bloc nommé %1</translation>
     </message>
     <message>
         <source>There is no layout named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de présentation nommée %1</translation>
     </message>
     <message>
         <source>it is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>il est introuvable</translation>
     </message>
     <message>
         <source>the plot styles %1 are left out: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>les styles de tracé %1 sont omis : %2</translation>
     </message>
 </context>
 </TS>

@@ -2859,111 +2859,115 @@ Paramètres enregistrés dans&#xa0;: </translation>
     </message>
     <message>
         <source>%1: the drawing has no room for an editing time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le dessin n&apos;a pas de place pour un temps d&apos;édition</translation>
     </message>
     <message>
         <source>%1: the drawing is not open any more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le dessin n&apos;est plus ouvert</translation>
     </message>
     <message>
         <source>A tag or text of the file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une balise ou un texte du fichier est trop long.</translation>
     </message>
     <message>
         <source>An element of the file has too many attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un élément du fichier a trop d&apos;attributs.</translation>
     </message>
     <message>
         <source>Enter to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée pour %1</translation>
     </message>
     <message>
         <source>Entities that this drawing cannot hold and that were left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objets que ce dessin ne peut pas contenir et qui ont été omis : %1.</translation>
     </message>
     <message>
         <source>Error reading alias file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de lecture du fichier d&apos;alias.</translation>
     </message>
     <message>
         <source>Favorite &quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le favori &quot;%1&quot; existe déjà. Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Favorite name is required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom de favori est nécessaire.</translation>
     </message>
     <message>
         <source>Favorites</source>
-        <translation type="unfinished">Favoris</translation>
+        <translation>Favoris</translation>
     </message>
     <message>
         <source>No file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun nom de fichier</translation>
     </message>
     <message>
         <source>Select object</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un objet</translation>
     </message>
     <message>
         <source>Specify folder</source>
-        <translation type="unfinished">Spécifier un dossier</translation>
+        <translation>Spécifier un dossier</translation>
     </message>
     <message>
         <source>Specify new path for Backup folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le nouveau chemin du dossier de sauvegarde</translation>
     </message>
     <message>
         <source>Specify option</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez une option</translation>
     </message>
     <message>
         <source>Specify second point</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifiez le second point</translation>
     </message>
     <message>
         <source>The drawing has its own, which stays as it is: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dessin a les siens, qui restent tels quels : %1.</translation>
     </message>
     <message>
         <source>The entities of the file expand to too much text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les entités du fichier donnent trop de texte.</translation>
     </message>
     <message>
         <source>There are too many copies of it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y en a déjà trop de copies.</translation>
     </message>
     <message>
         <source>There is no block &quot;%1&quot; in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de bloc &quot;%1&quot; dans %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a invalid directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; n&apos;est pas un dossier valide.</translation>
     </message>
     <message>
         <source>
 %1 could not be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 n&apos;ont pas pu être déplacés.</translation>
     </message>
     <message>
         <source>
 Nothing is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il n&apos;y a rien là.</translation>
     </message>
     <message>
         <source>
 This %1 is not what is asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Cet objet (%1) n&apos;est pas celui qui est demandé.</translation>
     </message>
     <message>
         <source>
 This is a %1; asked for is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+C&apos;est %1 ; il est demandé %2.</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1 : %2</translation>
     </message>
 </context>
 <context>

@@ -54,7 +54,9 @@ QString localDefault(const QString &shown, const PromptRequest &english, const Q
 /// `tail` with its default, which stands in angle brackets at the end, in the language.
 QString localTail(const QString &tail, const PromptRequest &english, const QStringList &local)
 {
-    static const QRegularExpression shownDefault(QStringLiteral("<([A-Za-z][A-Za-z ]*)>(?=:?\\s*$)"));
+    // French has a blank that does not break in front of the colon.
+    static const QRegularExpression shownDefault(QStringLiteral("<([A-Za-z][A-Za-z ]*)>(?=\\s*:?\\s*$)"),
+                                                 QRegularExpression::UseUnicodePropertiesOption);
     const QRegularExpressionMatch match = shownDefault.match(tail);
     if (!match.hasMatch())
         return tail;
