@@ -11474,7 +11474,7 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     </message>
     <message>
         <source>Orphaned data</source>
-        <translation>VErwaiste Daten</translation>
+        <translation>VErwaiste daten</translation>
     </message>
     <message>
         <source>Orthographic</source>
@@ -11898,7 +11898,7 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     </message>
     <message>
         <source>Ttr (tan tan radius)</source>
-        <translation>TTr (Tan Tan Radius)</translation>
+        <translation>TTr (tan tan radius)</translation>
     </message>
     <message>
         <source>Type</source>

@@ -10954,7 +10954,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>Endtoend</source>
-        <translation>BoutàBout</translation>
+        <translation>Boutàbout</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -11898,7 +11898,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>Ttr (tan tan radius)</source>
-        <translation>TTr (Tan Tan Rayon)</translation>
+        <translation>TTr (tan tan rayon)</translation>
     </message>
     <message>
         <source>Type</source>
