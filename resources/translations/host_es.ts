@@ -4335,7 +4335,7 @@ Tiempos de este dibujo:</translation>
     </message>
     <message>
         <source>Insertion base is</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de inserción es</translation>
     </message>
     <message>
         <source>Current space:</source>
@@ -6337,42 +6337,45 @@ Capas inutilizadas en la ventana %1:</translation>
     <name>FileActions</name>
     <message>
         <source>Open drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir dibujos</translation>
     </message>
     <message>
         <source>Drawings (*.dxf *.dwg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos (*.dxf *.dwg);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>%1
 What is saved here replaces what is saved there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Lo que se guarde aquí reemplaza lo que se guarde allí.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir de solo &amp;lectura</translation>
     </message>
     <message>
         <source>Open &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir de todos modos</translation>
     </message>
     <message>
         <source>Save under another &amp;name...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar con otro &amp;nombre...</translation>
     </message>
     <message>
         <source>Save &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar de todos modos</translation>
     </message>
     <message>
         <source>%1
 
 The drawing stays open.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+El dibujo sigue abierto.</translation>
     </message>
     <message>
         <source>Save &amp;as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;como...</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
@@ -6380,34 +6383,37 @@ The drawing stays open.</source>
     </message>
     <message>
         <source>Save drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar dibujo</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos DXF (*.dxf)</translation>
     </message>
     <message>
         <source>Export picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar imagen</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes %1 (*.%2)</translation>
     </message>
     <message>
         <source>
 Written: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Escrito: %1
+</translation>
     </message>
     <message>
         <source>In the picture: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>En la imagen: %1
+</translation>
     </message>
     <message>
         <source>%1 was changed. Save it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha cambiado. ¿Guardarlo?</translation>
     </message>
 </context>
 <context>
@@ -6415,63 +6421,80 @@ Written: %1
     <message>
         <source>
 New color &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nuevo color &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Requires a color number or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se requiere un número o nombre de color.</translation>
     </message>
     <message>
         <source>
 Unknown command &quot;%1&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Comando desconocido &quot;%1&quot;.
+</translation>
     </message>
     <message>
         <source>
 Left over from (command): %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sobra de (command): %1
+</translation>
     </message>
     <message>
         <source>
 The dialog file &quot;%1&quot; was not found.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se encuentra el archivo de diálogo &quot;%1&quot;.
+</translation>
     </message>
     <message>
         <source>
 The actions that the file gives to the tiles of &quot;%1&quot; do not run: its folder is not trusted.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Las acciones que el archivo da a los elementos de &quot;%1&quot; no se ejecutan: su carpeta no es de confianza.
+</translation>
     </message>
     <message>
         <source>
 There is no dialog &quot;%1&quot; in what was loaded.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay ningún diálogo &quot;%1&quot; en lo cargado.
+</translation>
     </message>
     <message>
         <source>
 Nobody is there to answer the dialog &quot;%1&quot;: cancelled.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nadie que responda al diálogo &quot;%1&quot;: cancelado.
+</translation>
     </message>
     <message>
         <source>action of &quot;%1&quot; in dialog %2</source>
-        <translation type="unfinished"></translation>
+        <translation>acción de &quot;%1&quot; en el diálogo %2</translation>
     </message>
     <message>
         <source>
 Select object: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe objeto: </translation>
     </message>
     <message>
         <source>
 startapp: %1 is not started: the user&apos;s settings do not let programs start others.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+startapp: %1 no se inicia: la configuración del usuario no permite que los programas inicien otros.
+</translation>
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
@@ -6487,2076 +6510,2078 @@ startapp: %1 is not started: the user&apos;s settings do not let programs start 
     </message>
     <message>
         <source>%1 is one of the drawings that sheets come from</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es uno de los dibujos de los que proceden los planos</translation>
     </message>
     <message>
         <source>the file was not found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encuentra el archivo</translation>
     </message>
     <message>
         <source>
 The slide &quot;%1&quot;: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+La foto &quot;%1&quot;: %2.
+</translation>
     </message>
 </context>
 <context>
     <name>Help</name>
     <message>
         <source>0: heights count</source>
-        <translation type="unfinished"></translation>
+        <translation>0: cuentan las alturas</translation>
     </message>
     <message>
         <source>As -COLOR</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -COLOR</translation>
     </message>
     <message>
         <source>As -COLOR; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -COLOR; no tiene ventana</translation>
     </message>
     <message>
         <source>As -LAYDEL; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -LAYDEL; no tiene ventana</translation>
     </message>
     <message>
         <source>As -LAYER; entered by hand in the window it shows the layer panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -LAYER; escrito a mano en la ventana muestra el panel de capas</translation>
     </message>
     <message>
         <source>As -LAYMRG; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -LAYMRG; no tiene ventana</translation>
     </message>
     <message>
         <source>As -LINETYPE; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -LINETYPE; no tiene ventana</translation>
     </message>
     <message>
         <source>As -LWEIGHT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -LWEIGHT; no tiene ventana</translation>
     </message>
     <message>
         <source>As -PAN; the middle button of the mouse moves the view too</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -PAN; el botón central del ratón también desplaza la vista</translation>
     </message>
     <message>
         <source>As -PURGE; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -PURGE; no tiene ventana</translation>
     </message>
     <message>
         <source>As -RENAME; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -RENAME; no tiene ventana</translation>
     </message>
     <message>
         <source>As -UNITS; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -UNITS; no tiene ventana</translation>
     </message>
     <message>
         <source>As -VIEW; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -VIEW; no tiene ventana</translation>
     </message>
     <message>
         <source>As -VPOINT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -VPOINT; no tiene ventana</translation>
     </message>
     <message>
         <source>As -VPORTS; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -VPORTS; no tiene ventana</translation>
     </message>
     <message>
         <source>As -XREF; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como -XREF; no tiene ventana</translation>
     </message>
     <message>
         <source>As LAYOUT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Como LAYOUT; no tiene ventana</translation>
     </message>
     <message>
         <source>As NEW</source>
-        <translation type="unfinished"></translation>
+        <translation>Como NEW</translation>
     </message>
     <message>
         <source>As QUIT</source>
-        <translation type="unfinished"></translation>
+        <translation>Como QUIT</translation>
     </message>
     <message>
         <source>Attaches drawing files as external references, and changes, binds and detaches these</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlaza archivos de dibujo como referencias externas, y las cambia, une y desenlaza</translation>
     </message>
     <message>
         <source>BOUNDARY makes polylines (1) or regions (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>BOUNDARY crea polilíneas (1) o regiones (0)</translation>
     </message>
     <message>
         <source>Brings back what was erased last</source>
-        <translation type="unfinished"></translation>
+        <translation>Recupera lo último que se borró</translation>
     </message>
     <message>
         <source>Brings entities in front of others or behind them</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone entidades delante o detrás de otras</translation>
     </message>
     <message>
         <source>COPY goes on until an empty answer (0) or makes one copy (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>COPY sigue hasta una respuesta vacía (0) o hace una sola copia (1)</translation>
     </message>
     <message>
         <source>Changes entities by a point, or their properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia entidades por un punto, o sus propiedades</translation>
     </message>
     <message>
         <source>Changes entities by their grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia entidades por sus pinzamientos</translation>
     </message>
     <message>
         <source>Changes layer, color, linetype and weight of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia capa, color, tipo y grosor de línea de entidades</translation>
     </message>
     <message>
         <source>Changes pattern, style and layer of a hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia patrón, estilo y capa de un sombreado</translation>
     </message>
     <message>
         <source>Changes text and extension lines of dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia el texto y las líneas de referencia de las cotas</translation>
     </message>
     <message>
         <source>Changes the values of a block reference&apos;s attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia los valores de los atributos de una referencia de bloque</translation>
     </message>
     <message>
         <source>Changes the values of attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia los valores de atributos</translation>
     </message>
     <message>
         <source>Changes what texts, dimensions and definitions of attributes say</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia lo que dicen textos, cotas y definiciones de atributos</translation>
     </message>
     <message>
         <source>Chooses entities for the next command</source>
-        <translation type="unfinished"></translation>
+        <translation>Designa entidades para el comando siguiente</translation>
     </message>
     <message>
         <source>Chooses entities; they are the previous selection then</source>
-        <translation type="unfinished"></translation>
+        <translation>Designa entidades; pasan a ser la selección previa</translation>
     </message>
     <message>
         <source>Chooses the isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige el plano isométrico</translation>
     </message>
     <message>
         <source>Chooses what is similar to the chosen entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Designa lo que se parece a las entidades elegidas</translation>
     </message>
     <message>
         <source>Closes all drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierra todos los dibujos</translation>
     </message>
     <message>
         <source>Closes the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierra el dibujo</translation>
     </message>
     <message>
         <source>Closes the drawing without saving, and ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierra el dibujo sin guardar y termina el programa</translation>
     </message>
     <message>
         <source>Copies entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entidades</translation>
     </message>
     <message>
         <source>Copies entities into rows and columns or round a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entidades en filas y columnas o alrededor de un punto</translation>
     </message>
     <message>
         <source>Copies entities to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entidades al portapapeles</translation>
     </message>
     <message>
         <source>Copies entities to the clipboard by a base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entidades al portapapeles con un punto base</translation>
     </message>
     <message>
         <source>Cuts block references off at a boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Delimita referencias de bloque con un contorno</translation>
     </message>
     <message>
         <source>Cuts corners off</source>
-        <translation type="unfinished"></translation>
+        <translation>Achaflana esquinas</translation>
     </message>
     <message>
         <source>Defines an attribute of a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Define un atributo de un bloque</translation>
     </message>
     <message>
         <source>Deletes layers with all that is on them</source>
-        <translation type="unfinished"></translation>
+        <translation>Borra capas con todo lo que contienen</translation>
     </message>
     <message>
         <source>Dimensions a distance along itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota una distancia a lo largo de ella</translation>
     </message>
     <message>
         <source>Dimensions a distance along x, y or another direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota una distancia según x, y u otra dirección</translation>
     </message>
     <message>
         <source>Dimensions an angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota un ángulo</translation>
     </message>
     <message>
         <source>Dimensions by subcommands until Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota con subcomandos hasta Exit</translation>
     </message>
     <message>
         <source>Dimensions further points from the same begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota más puntos desde el mismo origen</translation>
     </message>
     <message>
         <source>Dimensions on from the last dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>Continúa acotando desde la última cota</translation>
     </message>
     <message>
         <source>Dimensions the diameter of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota el diámetro de un círculo o arco</translation>
     </message>
     <message>
         <source>Dimensions the length of an arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota la longitud de un arco</translation>
     </message>
     <message>
         <source>Dimensions the radius of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota el radio de un círculo o arco</translation>
     </message>
     <message>
         <source>Dimensions the radius of a circle or arc from a nearer centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota el radio de un círculo o arco desde un centro más cercano</translation>
     </message>
     <message>
         <source>Dimensions the x or y coordinate of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Acota la coordenada x o y de un punto</translation>
     </message>
     <message>
         <source>Divides the screen or makes viewports on a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Divide la pantalla o crea ventanas en una presentación</translation>
     </message>
     <message>
         <source>Does again what was undone last</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehace lo último que se deshizo</translation>
     </message>
     <message>
         <source>Does again what was undone, several steps at once</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehace lo deshecho, varios pasos a la vez</translation>
     </message>
     <message>
         <source>Draws a circle: centre and radius, two or three points, two tangents and radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un círculo: centro y radio, dos o tres puntos, dos tangentes y radio</translation>
     </message>
     <message>
         <source>Draws a cloud of arcs, or makes one of an entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una nube de arcos, o convierte una entidad en una</translation>
     </message>
     <message>
         <source>Draws a line from a feature to a note</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una directriz de una característica a una nota</translation>
     </message>
     <message>
         <source>Draws a line of up to three points with a text</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una directriz de hasta tres puntos con un texto</translation>
     </message>
     <message>
         <source>Draws a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un punto</translation>
     </message>
     <message>
         <source>Draws a polygon with sides of one length</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un polígono regular</translation>
     </message>
     <message>
         <source>Draws a polyline in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una polilínea en el espacio</translation>
     </message>
     <message>
         <source>Draws a polyline of straight segments and arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una polilínea de segmentos rectos y arcos</translation>
     </message>
     <message>
         <source>Draws a rectangle by corners, sides or area</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un rectángulo por esquinas, lados o área</translation>
     </message>
     <message>
         <source>Draws a smooth curve through points or along control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una curva suave por puntos o según puntos de control</translation>
     </message>
     <message>
         <source>Draws an arc: three points, or start, center, end, angle, length, direction, radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un arco: tres puntos, o inicio, centro, fin, ángulo, longitud, dirección, radio</translation>
     </message>
     <message>
         <source>Draws an arrow with a note as one entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una flecha con una nota como una sola entidad</translation>
     </message>
     <message>
         <source>Draws an ellipse or a part of one</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja una elipse o parte de una</translation>
     </message>
     <message>
         <source>Draws faces in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja caras en el espacio</translation>
     </message>
     <message>
         <source>Draws filled areas with three or four corners</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja áreas rellenas de tres o cuatro esquinas</translation>
     </message>
     <message>
         <source>Draws filled rings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja anillos rellenos</translation>
     </message>
     <message>
         <source>Draws lines that end at one side only</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja líneas que terminan solo por un lado</translation>
     </message>
     <message>
         <source>Draws lines without ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja líneas sin fin</translation>
     </message>
     <message>
         <source>Draws parallel curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja curvas paralelas</translation>
     </message>
     <message>
         <source>Draws parallel lines with the current multiline style</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja líneas paralelas con el estilo de línea múltiple actual</translation>
     </message>
     <message>
         <source>Draws straight segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja segmentos rectos</translation>
     </message>
     <message>
         <source>Draws the window anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve a dibujar la ventana</translation>
     </message>
     <message>
         <source>Draws wide lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja líneas gruesas</translation>
     </message>
     <message>
         <source>ELLIPSE makes true ellipses (0) or polylines (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ELLIPSE crea elipses verdaderas (0) o polilíneas (1)</translation>
     </message>
     <message>
         <source>EXPLODE takes blocks of unequal scales</source>
-        <translation type="unfinished"></translation>
+        <translation>EXPLODE admite bloques de escalas desiguales</translation>
     </message>
     <message>
         <source>Edits polylines: closes, joins, widens, smooths, changes vertices</source>
-        <translation type="unfinished"></translation>
+        <translation>Edita polilíneas: cierra, une, ensancha, suaviza, cambia vértices</translation>
     </message>
     <message>
         <source>Evaluates the expressions of texts anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve a evaluar las expresiones de los textos</translation>
     </message>
     <message>
         <source>FILLET and CHAMFER trim what they join</source>
-        <translation type="unfinished"></translation>
+        <translation>FILLET y CHAMFER recortan lo que unen</translation>
     </message>
     <message>
         <source>Freezes and thaws layers in viewports of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutiliza y reutiliza capas en ventanas de presentaciones</translation>
     </message>
     <message>
         <source>Freezes layers of picked objects in all other viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutiliza en las demás ventanas las capas de los objetos designados</translation>
     </message>
     <message>
         <source>Freezes the layers of picked objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutiliza las capas de los objetos designados</translation>
     </message>
     <message>
         <source>Gives a multileader further arrows, or takes some away</source>
-        <translation type="unfinished"></translation>
+        <translation>Da más flechas a una directriz múltiple, o quita algunas</translation>
     </message>
     <message>
         <source>Gives blocks, layers, styles and other named things another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Da otro nombre a bloques, capas, estilos y otros elementos con nombre</translation>
     </message>
     <message>
         <source>Gives entities the properties of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Da a entidades las propiedades de otra</translation>
     </message>
     <message>
         <source>Gives layers what they had before LAYISO</source>
-        <translation type="unfinished"></translation>
+        <translation>Devuelve a las capas lo que tenían antes de LAYISO</translation>
     </message>
     <message>
         <source>Gives references the attributes that their block defines</source>
-        <translation type="unfinished"></translation>
+        <translation>Da a las referencias los atributos que define su bloque</translation>
     </message>
     <message>
         <source>Hatches areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombrea áreas</translation>
     </message>
     <message>
         <source>Hides a command, which a point in front still runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculta un comando, que sigue disponible con un punto delante</translation>
     </message>
     <message>
         <source>INSERT asks for attributes (1) or takes their defaults (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>INSERT pide los atributos (1) o toma sus valores por defecto (0)</translation>
     </message>
     <message>
         <source>INSERT asks for attributes with a dialog (1) or on the command line (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>INSERT pide los atributos con un diálogo (1) o en la línea de comandos (0)</translation>
     </message>
     <message>
         <source>Inserts a block or drawing file, as a reference or in pieces</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserta un bloque o archivo de dibujo, como referencia o descompuesto</translation>
     </message>
     <message>
         <source>Loads a shape file, so that its shapes can be placed</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga un archivo de formas para poder colocarlas</translation>
     </message>
     <message>
         <source>Loads linetypes from a file and chooses the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga tipos de línea de un archivo y elige el actual</translation>
     </message>
     <message>
         <source>Locks or turns off all layers but those of chosen objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquea o desactiva todas las capas menos las de los objetos elegidos</translation>
     </message>
     <message>
         <source>Locks the layer of a picked object</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquea la capa de un objeto designado</translation>
     </message>
     <message>
         <source>Looks for errors in the drawing and mends them</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca errores en el dibujo y los repara</translation>
     </message>
     <message>
         <source>Looks from another direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Mira desde otra dirección</translation>
     </message>
     <message>
         <source>Looks straight at the plane of a coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Mira de frente al plano de un sistema de coordenadas</translation>
     </message>
     <message>
         <source>Makes a block of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un bloque con entidades</translation>
     </message>
     <message>
         <source>Makes a command known again that UNDEFINE hid</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablece un comando que ocultó UNDEFINE</translation>
     </message>
     <message>
         <source>Makes a new drawing, from a template or empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un dibujo nuevo, a partir de una plantilla o vacío</translation>
     </message>
     <message>
         <source>Makes and changes groups of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea y cambia grupos de entidades</translation>
     </message>
     <message>
         <source>Makes and changes text styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea y cambia estilos de texto</translation>
     </message>
     <message>
         <source>Makes entities larger or smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Amplía o reduce entidades</translation>
     </message>
     <message>
         <source>Makes layers and changes their properties and states</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea capas y cambia sus propiedades y estados</translation>
     </message>
     <message>
         <source>Makes one paragraph of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Hace un párrafo de textos</translation>
     </message>
     <message>
         <source>Makes polylines or regions round areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea polilíneas o regiones alrededor de áreas</translation>
     </message>
     <message>
         <source>Makes the layer of a picked object current</source>
-        <translation type="unfinished"></translation>
+        <translation>Hace actual la capa de un objeto designado</translation>
     </message>
     <message>
         <source>Makes viewports on a sheet and switches them</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea ventanas en una presentación y las activa o desactiva</translation>
     </message>
     <message>
         <source>Makes, copies, renames and deletes layouts and chooses the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea, copia, renombra y borra presentaciones y elige la actual</translation>
     </message>
     <message>
         <source>Marks the centre of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca el centro de un círculo o arco</translation>
     </message>
     <message>
         <source>Mirrors entities in a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Refleja entidades respecto a una línea</translation>
     </message>
     <message>
         <source>Mirrors entities in a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Refleja entidades respecto a un plano</translation>
     </message>
     <message>
         <source>Moves entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplaza entidades</translation>
     </message>
     <message>
         <source>Moves entities between the sheet and the model that it shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasa entidades entre la presentación y el modelo que muestra</translation>
     </message>
     <message>
         <source>Moves entities in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplaza entidades en el espacio</translation>
     </message>
     <message>
         <source>Moves entities to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Corta entidades al portapapeles</translation>
     </message>
     <message>
         <source>Moves or turns the text of a dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplaza o gira el texto de una cota</translation>
     </message>
     <message>
         <source>Moves the notes of multileaders onto a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinea las notas de directrices múltiples</translation>
     </message>
     <message>
         <source>Moves what is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplaza lo que se muestra</translation>
     </message>
     <message>
         <source>Moves what lies within a window, and what is tied to it follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplaza lo que está en una ventana, y lo unido a ello lo sigue</translation>
     </message>
     <message>
         <source>Moves, turns and scales entities by pairs of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplaza, gira y escala entidades por parejas de puntos</translation>
     </message>
     <message>
         <source>Opens a drawing, where what is typed next goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre un dibujo, en el que continúa lo que se escriba</translation>
     </message>
     <message>
         <source>PEDIT makes polylines of others without asking</source>
-        <translation type="unfinished"></translation>
+        <translation>PEDIT convierte otras entidades en polilíneas sin preguntar</translation>
     </message>
     <message>
         <source>Places a shape of a loaded shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca una forma de un archivo de formas cargado</translation>
     </message>
     <message>
         <source>Places what is on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca lo que hay en el portapapeles</translation>
     </message>
     <message>
         <source>Places what is on the clipboard as a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca como bloque lo que hay en el portapapeles</translation>
     </message>
     <message>
         <source>Places what is on the clipboard where it was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca lo del portapapeles donde se copió</translation>
     </message>
     <message>
         <source>Plots a layout to a file of PDF, PNG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>Traza una presentación en un archivo PDF, PNG o SVG</translation>
     </message>
     <message>
         <source>Plots a layout to a file; in the window as a dialog with a preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Traza una presentación en un archivo; en la ventana, con un diálogo y vista previa</translation>
     </message>
     <message>
         <source>Puts objects on the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone objetos en la capa actual</translation>
     </message>
     <message>
         <source>Puts objects on the layer of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone objetos en la capa de otro</translation>
     </message>
     <message>
         <source>Puts what is on layers on another one and deletes them</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasa a otra capa lo que hay en unas capas y las borra</translation>
     </message>
     <message>
         <source>Rounds corners with arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>Redondea esquinas con arcos</translation>
     </message>
     <message>
         <source>Runs a command again and again until it is cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecuta un comando una y otra vez hasta cancelarlo</translation>
     </message>
     <message>
         <source>Runs one subcommand of the dimension mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecuta un subcomando del modo de acotación</translation>
     </message>
     <message>
         <source>Saves the drawing under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda el dibujo con un nombre</translation>
     </message>
     <message>
         <source>Saves the drawing under its own name</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda el dibujo con su propio nombre</translation>
     </message>
     <message>
         <source>Saves, restores and deletes named views</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda, restablece y borra vistas guardadas</translation>
     </message>
     <message>
         <source>Saves, restores, lists and applies dimension styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda, restablece, lista y aplica estilos de cota</translation>
     </message>
     <message>
         <source>Says how near the pointer object snap looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica a qué distancia del cursor busca la referencia a objetos</translation>
     </message>
     <message>
         <source>Says which object snaps are always on</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica qué referencias a objetos están siempre activas</translation>
     </message>
     <message>
         <source>Scripts go on by themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Los scripts continúan solos</translation>
     </message>
     <message>
         <source>Sets and checks the drawing&apos;s limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Define y comprueba los límites del dibujo</translation>
     </message>
     <message>
         <source>Sets and switches the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Define y activa la rejilla</translation>
     </message>
     <message>
         <source>Sets and switches the grid that points snap to</source>
-        <translation type="unfinished"></translation>
+        <translation>Define y activa el forzado de cursor</translation>
     </message>
     <message>
         <source>Sets how lengths and angles are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Define cómo se muestran longitudes y ángulos</translation>
     </message>
     <message>
         <source>Sets the color of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Define el color de los objetos nuevos</translation>
     </message>
     <message>
         <source>Sets the elevation and thickness of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Define la elevación y la altura de los objetos nuevos</translation>
     </message>
     <message>
         <source>Sets the lineweight of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Define el grosor de línea de los objetos nuevos</translation>
     </message>
     <message>
         <source>Sets the point that the drawing is inserted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Define el punto por el que se inserta el dibujo</translation>
     </message>
     <message>
         <source>Sets variables of single dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Define variables de cotas sueltas</translation>
     </message>
     <message>
         <source>Sets, saves and restores the user coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Define, guarda y restablece el sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>Shows more or less of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra más o menos del dibujo</translation>
     </message>
     <message>
         <source>Shows the help pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra las páginas de ayuda</translation>
     </message>
     <message>
         <source>Shows the properties panel where it is entered by hand in the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra el panel de propiedades si se escribe a mano en la ventana</translation>
     </message>
     <message>
         <source>Shows, lists or sets a system variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra, lista o define una variable de sistema</translation>
     </message>
     <message>
         <source>Switches whether areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa o desactiva el relleno de áreas</translation>
     </message>
     <message>
         <source>Switches whether lines go along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa o desactiva las líneas según los ejes</translation>
     </message>
     <message>
         <source>Switches whether texts are boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa o desactiva los textos como rectángulos</translation>
     </message>
     <message>
         <source>Switches whether the drawing is made anew by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa o desactiva la regeneración automática del dibujo</translation>
     </message>
     <message>
         <source>TRIM and EXTEND begin with edges (0) or take all (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM y EXTEND empiezan por aristas (0) o toman todas (1)</translation>
     </message>
     <message>
         <source>TRIM and EXTEND take edges as if they went on</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM y EXTEND toman las aristas como si continuaran</translation>
     </message>
     <message>
         <source>Takes a file&apos;s name; programs for other hosts do not run here</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma el nombre de un archivo; aquí no se ejecutan programas para otros entornos</translation>
     </message>
     <message>
         <source>Takes back steps; marks and groups them</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshace pasos; los marca y agrupa</translation>
     </message>
     <message>
         <source>Takes back the last change of layer settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshace el último cambio de capas</translation>
     </message>
     <message>
         <source>Takes back the last step</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshace el último paso</translation>
     </message>
     <message>
         <source>Takes blocks, polylines, texts and dimensions apart</source>
-        <translation type="unfinished"></translation>
+        <translation>Descompone bloques, polilíneas, textos y cotas</translation>
     </message>
     <message>
         <source>Takes entities out of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita entidades del dibujo</translation>
     </message>
     <message>
         <source>Takes out of the drawing what nothing refers to</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita del dibujo aquello a lo que nada se refiere</translation>
     </message>
     <message>
         <source>Takes the name of a menu file; there are none here</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma el nombre de un archivo de menú; aquí no los hay</translation>
     </message>
     <message>
         <source>Takes the name of a menu; there are none here</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma el nombre de un menú; aquí no los hay</translation>
     </message>
     <message>
         <source>Takes what programs ask of it; programs for other hosts do not run here</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma lo que le piden los programas; aquí no se ejecutan programas para otros entornos</translation>
     </message>
     <message>
         <source>Tells the coordinates of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica las coordenadas de un punto</translation>
     </message>
     <message>
         <source>Tells the distance and angle between points</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica la distancia y el ángulo entre puntos</translation>
     </message>
     <message>
         <source>Tells what is in the drawing and what is current</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica qué hay en el dibujo y qué es lo actual</translation>
     </message>
     <message>
         <source>Tells what is known of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica lo que se sabe de entidades</translation>
     </message>
     <message>
         <source>Tells when the drawing was made and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica cuándo se creó y cambió el dibujo</translation>
     </message>
     <message>
         <source>Thaws all layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Reutiliza todas las capas</translation>
     </message>
     <message>
         <source>The command line is always in sight</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea de comandos está siempre a la vista</translation>
     </message>
     <message>
         <source>The drawing is always in sight</source>
-        <translation type="unfinished"></translation>
+        <translation>El dibujo está siempre a la vista</translation>
     </message>
     <message>
         <source>Turns all layers on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa todas las capas</translation>
     </message>
     <message>
         <source>Turns entities round a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Gira entidades alrededor de un punto</translation>
     </message>
     <message>
         <source>Turns entities round an axis in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Gira entidades alrededor de un eje en el espacio</translation>
     </message>
     <message>
         <source>Turns off the layers of picked objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactiva las capas de los objetos designados</translation>
     </message>
     <message>
         <source>Types the last script once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Repite el último script</translation>
     </message>
     <message>
         <source>Types what a script file holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe lo que contiene un archivo de script</translation>
     </message>
     <message>
         <source>Unlocks the layer of a picked object</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquea la capa de un objeto designado</translation>
     </message>
     <message>
         <source>Waits for so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Espera el número de milisegundos indicado</translation>
     </message>
     <message>
         <source>Works on model space through a viewport of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabaja en el espacio modelo a través de una ventana de la presentación</translation>
     </message>
     <message>
         <source>Works on the sheet itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabaja en la propia presentación</translation>
     </message>
     <message>
         <source>Writes a block or entities to a drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe un bloque o entidades en un archivo de dibujo</translation>
     </message>
     <message>
         <source>Writes a paragraph of several lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe un párrafo de varias líneas</translation>
     </message>
     <message>
         <source>Writes one line of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe una línea de texto</translation>
     </message>
     <message>
         <source>&quot;(&quot; and &quot;!&quot; in texts are evaluated</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;(&quot; y &quot;!&quot; en los textos se evalúan</translation>
     </message>
     <message>
         <source>a block is being edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>se está editando un bloque in situ</translation>
     </message>
     <message>
         <source>a double click edits</source>
-        <translation type="unfinished"></translation>
+        <translation>un doble clic edita</translation>
     </message>
     <message>
         <source>a drawing&apos;s sheet set is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>se busca el conjunto de planos de un dibujo</translation>
     </message>
     <message>
         <source>a file&apos;s tab shows its layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>la ficha de un archivo muestra sus presentaciones</translation>
     </message>
     <message>
         <source>a hatch is shown before it is made</source>
-        <translation type="unfinished"></translation>
+        <translation>un sombreado se muestra antes de crearse</translation>
     </message>
     <message>
         <source>a line is drawn inside though the text is outside</source>
-        <translation type="unfinished"></translation>
+        <translation>se dibuja una línea dentro aunque el texto esté fuera</translation>
     </message>
     <message>
         <source>a new annotation scale is given to annotative things</source>
-        <translation type="unfinished"></translation>
+        <translation>una nueva escala de anotación se da a los objetos anotativos</translation>
     </message>
     <message>
         <source>a panel for fingers</source>
-        <translation type="unfinished"></translation>
+        <translation>un panel para dedos</translation>
     </message>
     <message>
         <source>a picture is saved in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>en el archivo se guarda una imagen</translation>
     </message>
     <message>
         <source>a real for programs, kept with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>un real para programas, guardado con el dibujo</translation>
     </message>
     <message>
         <source>a second unit is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra una segunda unidad</translation>
     </message>
     <message>
         <source>a sheet that the printer lacks is told</source>
-        <translation type="unfinished"></translation>
+        <translation>se avisa de un papel que la impresora no tiene</translation>
     </message>
     <message>
         <source>a text for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>un texto para programas</translation>
     </message>
     <message>
         <source>addresses that programs may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>direcciones de las que pueden venir programas</translation>
     </message>
     <message>
         <source>after how long names are completed, in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>tras cuánto tiempo se completan los nombres, en segundos</translation>
     </message>
     <message>
         <source>after how many milliseconds names are offered</source>
-        <translation type="unfinished"></translation>
+        <translation>tras cuántos milisegundos se ofrecen nombres</translation>
     </message>
     <message>
         <source>all grips of clouds are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran todos los pinzamientos de las nubes</translation>
     </message>
     <message>
         <source>an empty place picked begins a window</source>
-        <translation type="unfinished"></translation>
+        <translation>un clic en un sitio vacío empieza una ventana</translation>
     </message>
     <message>
         <source>an expression in the status line</source>
-        <translation type="unfinished"></translation>
+        <translation>una expresión en la línea de estado</translation>
     </message>
     <message>
         <source>an integer for programs, kept with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>un entero para programas, guardado con el dibujo</translation>
     </message>
     <message>
         <source>an orthographic view brings its coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>una vista ortogonal trae su sistema de coordenadas</translation>
     </message>
     <message>
         <source>and a foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>y un primer plano</translation>
     </message>
     <message>
         <source>and opened</source>
-        <translation type="unfinished"></translation>
+        <translation>y se abren</translation>
     </message>
     <message>
         <source>angles count counterclockwise (0) or clockwise (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>los ángulos cuentan en sentido antihorario (0) u horario (1)</translation>
     </message>
     <message>
         <source>annotative things are saved for older programs</source>
-        <translation type="unfinished"></translation>
+        <translation>los objetos anotativos se guardan para programas antiguos</translation>
     </message>
     <message>
         <source>annotative things show at every scale</source>
-        <translation type="unfinished"></translation>
+        <translation>los objetos anotativos se muestran a toda escala</translation>
     </message>
     <message>
         <source>arcs are smooth</source>
-        <translation type="unfinished"></translation>
+        <translation>los arcos son suaves</translation>
     </message>
     <message>
         <source>areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>las áreas se rellenan</translation>
     </message>
     <message>
         <source>areas that are hatched at once become a hatch each</source>
-        <translation type="unfinished"></translation>
+        <translation>las áreas sombreadas a la vez dan un sombreado cada una</translation>
     </message>
     <message>
         <source>arrays stay one thing</source>
-        <translation type="unfinished"></translation>
+        <translation>las matrices siguen siendo un solo objeto</translation>
     </message>
     <message>
         <source>arrows outside are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>se omiten las flechas exteriores</translation>
     </message>
     <message>
         <source>attribute definitions may have several lines</source>
-        <translation type="unfinished"></translation>
+        <translation>las definiciones de atributos pueden tener varias líneas</translation>
     </message>
     <message>
         <source>attributes: none are shown (0), as they say (1), all (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>atributos: no se muestra ninguno (0), según digan (1), todos (2)</translation>
     </message>
     <message>
         <source>blocks cannot be edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>los bloques no se pueden editar in situ</translation>
     </message>
     <message>
         <source>boundaries of hatches are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>se conservan los contornos de sombreados</translation>
     </message>
     <message>
         <source>boxes of the screen menu</source>
-        <translation type="unfinished"></translation>
+        <translation>casillas del menú de pantalla</translation>
     </message>
     <message>
         <source>breaches of standards are told</source>
-        <translation type="unfinished"></translation>
+        <translation>se avisa de incumplimientos de normas</translation>
     </message>
     <message>
         <source>cameras are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran las cámaras</translation>
     </message>
     <message>
         <source>centre marks have lines</source>
-        <translation type="unfinished"></translation>
+        <translation>las marcas de centro tienen líneas</translation>
     </message>
     <message>
         <source>chains take the style of what they go on from (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>las cadenas toman el estilo de aquello que continúan (1)</translation>
     </message>
     <message>
         <source>chamfers by two distances (0) or by length and angle (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>chaflanes por dos distancias (0) o por longitud y ángulo (1)</translation>
     </message>
     <message>
         <source>changed external drawings are told</source>
-        <translation type="unfinished"></translation>
+        <translation>se avisa de dibujos externos cambiados</translation>
     </message>
     <message>
         <source>changes of external drawings&apos; blocks are told</source>
-        <translation type="unfinished"></translation>
+        <translation>se avisa de cambios en los bloques de dibujos externos</translation>
     </message>
     <message>
         <source>changes of variables are told</source>
-        <translation type="unfinished"></translation>
+        <translation>se avisa de cambios de variables</translation>
     </message>
     <message>
         <source>closed splines have no corner</source>
-        <translation type="unfinished"></translation>
+        <translation>las splines cerradas no tienen esquina</translation>
     </message>
     <message>
         <source>colours of external drawings&apos; entities go by layer</source>
-        <translation type="unfinished"></translation>
+        <translation>los colores de entidades de dibujos externos van por capa</translation>
     </message>
     <message>
         <source>columns of new paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>columnas de párrafos nuevos</translation>
     </message>
     <message>
         <source>commands ask for files with a dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>los comandos piden archivos con un diálogo</translation>
     </message>
     <message>
         <source>commands may show dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>los comandos pueden mostrar diálogos</translation>
     </message>
     <message>
         <source>commands of programs are echoed</source>
-        <translation type="unfinished"></translation>
+        <translation>los comandos de programas se muestran</translation>
     </message>
     <message>
         <source>crashes are reported</source>
-        <translation type="unfinished"></translation>
+        <translation>se informa de las interrupciones del programa</translation>
     </message>
     <message>
         <source>cuts curves off at others</source>
-        <translation type="unfinished"></translation>
+        <translation>corta curvas en otras</translation>
     </message>
     <message>
         <source>dark (0) or light (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>oscuro (0) o claro (1)</translation>
     </message>
     <message>
         <source>date and time as a number: YYYYMMDD.HHMMSS</source>
-        <translation type="unfinished"></translation>
+        <translation>fecha y hora como número: AAAAMMDD.HHMMSS</translation>
     </message>
     <message>
         <source>date and time as days of the Julian calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>fecha y hora como días del calendario juliano</translation>
     </message>
     <message>
         <source>decimals of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de ángulos</translation>
     </message>
     <message>
         <source>decimals of angles; -1 as DIMDEC</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de ángulos; -1 como DIMDEC</translation>
     </message>
     <message>
         <source>decimals of dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de cotas</translation>
     </message>
     <message>
         <source>decimals of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de longitudes</translation>
     </message>
     <message>
         <source>decimals of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de la segunda unidad</translation>
     </message>
     <message>
         <source>decimals of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de tolerancias</translation>
     </message>
     <message>
         <source>decimals of tolerances in the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>decimales de tolerancias en la segunda unidad</translation>
     </message>
     <message>
         <source>density of surfaces one way</source>
-        <translation type="unfinished"></translation>
+        <translation>densidad de superficies en un sentido</translation>
     </message>
     <message>
         <source>density of surfaces the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>densidad de superficies en el otro sentido</translation>
     </message>
     <message>
         <source>depth of the spatial index</source>
-        <translation type="unfinished"></translation>
+        <translation>profundidad del índice espacial</translation>
     </message>
     <message>
         <source>dialogs begin in the folder used last</source>
-        <translation type="unfinished"></translation>
+        <translation>los diálogos empiezan en la última carpeta usada</translation>
     </message>
     <message>
         <source>dimensions are exploded (0), one thing (1), or follow what they measure (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>las cotas se descomponen (0), son un objeto (1) o siguen lo que miden (2)</translation>
     </message>
     <message>
         <source>dimensions are one thing (1) or exploded (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>las cotas son un objeto (1) o se descomponen (0)</translation>
     </message>
     <message>
         <source>dimensions change while they are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>las cotas cambian mientras se arrastran</translation>
     </message>
     <message>
         <source>drawings are checked when opened</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos se comprueban al abrirlos</translation>
     </message>
     <message>
         <source>drawings have tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos tienen fichas</translation>
     </message>
     <message>
         <source>drawings may be opened in part</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos se pueden abrir en parte</translation>
     </message>
     <message>
         <source>entities are shown while they are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>las entidades se muestran mientras se arrastran</translation>
     </message>
     <message>
         <source>entities have handles: always 1</source>
-        <translation type="unfinished"></translation>
+        <translation>las entidades tienen identificadores: siempre 1</translation>
     </message>
     <message>
         <source>entities may be chosen before a command</source>
-        <translation type="unfinished"></translation>
+        <translation>las entidades se pueden designar antes de un comando</translation>
     </message>
     <message>
         <source>entities that are chosen show grips</source>
-        <translation type="unfinished"></translation>
+        <translation>las entidades designadas muestran pinzamientos</translation>
     </message>
     <message>
         <source>erases what is there twice and makes one of lines and arcs that overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>borra lo que está repetido y une líneas y arcos que se solapan</translation>
     </message>
     <message>
         <source>everything but the drawing is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>se oculta todo menos el dibujo</translation>
     </message>
     <message>
         <source>extension lines have a fixed length</source>
-        <translation type="unfinished"></translation>
+        <translation>las líneas de referencia tienen longitud fija</translation>
     </message>
     <message>
         <source>external drawings are read in part</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos externos se leen en parte</translation>
     </message>
     <message>
         <source>fields have a ground</source>
-        <translation type="unfinished"></translation>
+        <translation>los campos tienen fondo</translation>
     </message>
     <message>
         <source>folders that drawings may name files of</source>
-        <translation type="unfinished"></translation>
+        <translation>carpetas cuyos archivos pueden nombrar los dibujos</translation>
     </message>
     <message>
         <source>folders that programs may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>carpetas de las que pueden venir programas</translation>
     </message>
     <message>
         <source>frames of clipped blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>marcos de bloques delimitados</translation>
     </message>
     <message>
         <source>frames of masks</source>
-        <translation type="unfinished"></translation>
+        <translation>marcos de máscaras</translation>
     </message>
     <message>
         <source>frames of objects of other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>marcos de objetos de otros programas</translation>
     </message>
     <message>
         <source>frames of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>marcos de imágenes</translation>
     </message>
     <message>
         <source>frames of splines and hidden edges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran marcos de splines y aristas ocultas</translation>
     </message>
     <message>
         <source>frames of underlays</source>
-        <translation type="unfinished"></translation>
+        <translation>marcos de calcos subyacentes</translation>
     </message>
     <message>
         <source>functions and variables are the drawing&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>funciones y variables son propias del dibujo</translation>
     </message>
     <message>
         <source>further angles of polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>otros ángulos de rastreo polar</translation>
     </message>
     <message>
         <source>gaps of boundaries that are taken as closed</source>
-        <translation type="unfinished"></translation>
+        <translation>huecos de contornos que se toman por cerrados</translation>
     </message>
     <message>
         <source>gaps where things cross others that are in front</source>
-        <translation type="unfinished"></translation>
+        <translation>huecos donde los objetos cruzan otros que están delante</translation>
     </message>
     <message>
         <source>gradients have one colour (1) or two (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>los degradados tienen un color (1) o dos (0)</translation>
     </message>
     <message>
         <source>gradients lie in the middle (0) or beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>los degradados están centrados (0) o al lado</translation>
     </message>
     <message>
         <source>grips have tips</source>
-        <translation type="unfinished"></translation>
+        <translation>los pinzamientos tienen sugerencias</translation>
     </message>
     <message>
         <source>grips within blocks are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran pinzamientos dentro de bloques</translation>
     </message>
     <message>
         <source>groups and hatches with their boundary are chosen as one</source>
-        <translation type="unfinished"></translation>
+        <translation>los grupos y los sombreados con su contorno se designan juntos</translation>
     </message>
     <message>
         <source>half the size of the box of object snap, in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>medio tamaño de la caja de referencia a objetos, en píxeles</translation>
     </message>
     <message>
         <source>half the size of the box that picks, in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>medio tamaño de la caja de selección, en píxeles</translation>
     </message>
     <message>
         <source>hatches follow their boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>los sombreados siguen su contorno</translation>
     </message>
     <message>
         <source>hatches may have linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>los sombreados pueden tener tipos de línea</translation>
     </message>
     <message>
         <source>hatches of the user&apos;s lines cross</source>
-        <translation type="unfinished"></translation>
+        <translation>los sombreados de líneas del usuario se cruzan</translation>
     </message>
     <message>
         <source>how angles are shown: degrees, minutes, gradians, radians, surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestran los ángulos: grados, minutos, centesimales, radianes, geodésicas</translation>
     </message>
     <message>
         <source>how areas are picked</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se designan áreas</translation>
     </message>
     <message>
         <source>how closely splines follow sketches</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué exactitud siguen las splines los bocetos</translation>
     </message>
     <message>
         <source>how clouds are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se dibujan las nubes</translation>
     </message>
     <message>
         <source>how edges meet</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se unen las aristas</translation>
     </message>
     <message>
         <source>how exactly hidden lines are found</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué exactitud se hallan líneas ocultas</translation>
     </message>
     <message>
         <source>how external drawings&apos; names are bound: with $ (0) or as if inserted (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se unen los nombres de dibujos externos: con $ (0) o como insertados (1)</translation>
     </message>
     <message>
         <source>how faces and edges are shaded</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se sombrean caras y aristas</translation>
     </message>
     <message>
         <source>how far TRIM and EXTEND of hatches go</source>
-        <translation type="unfinished"></translation>
+        <translation>hasta dónde llegan TRIM y EXTEND de sombreados</translation>
     </message>
     <message>
         <source>how far apart ends may be that JOIN puts together</source>
-        <translation type="unfinished"></translation>
+        <translation>a qué distancia pueden estar los extremos que une JOIN</translation>
     </message>
     <message>
         <source>how far centre lines go beyond</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto sobresalen las líneas de centro</translation>
     </message>
     <message>
         <source>how far extension lines go beyond the line</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto sobresalen las líneas de referencia de la línea</translation>
     </message>
     <message>
         <source>how far extension lines stay from what is measured</source>
-        <translation type="unfinished"></translation>
+        <translation>a qué distancia de lo medido quedan las líneas de referencia</translation>
     </message>
     <message>
         <source>how far new entities rise above their plane</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto se elevan las entidades nuevas sobre su plano</translation>
     </message>
     <message>
         <source>how far the line goes beyond extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto sobresale la línea de las líneas de referencia</translation>
     </message>
     <message>
         <source>how far the text stands from the line</source>
-        <translation type="unfinished"></translation>
+        <translation>a qué distancia de la línea está el texto</translation>
     </message>
     <message>
         <source>how far tracking lines go</source>
-        <translation type="unfinished"></translation>
+        <translation>hasta dónde llegan las líneas de rastreo</translation>
     </message>
     <message>
         <source>how fit points share the knots</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo reparten los nudos los puntos de ajuste</translation>
     </message>
     <message>
         <source>how fractions are written</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se escriben las fracciones</translation>
     </message>
     <message>
         <source>how grips offer more than one thing</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo ofrecen los pinzamientos más de una opción</translation>
     </message>
     <message>
         <source>how large points look</source>
-        <translation type="unfinished"></translation>
+        <translation>qué tamaño tienen los puntos</translation>
     </message>
     <message>
         <source>how lengths are shown: scientific, decimal, engineering, architectural, fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestran las longitudes: científico, decimal, ingeniería, arquitectura, fraccionario</translation>
     </message>
     <message>
         <source>how lofted surfaces are shaped, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>qué forma tienen las superficies solevadas, en bits</translation>
     </message>
     <message>
         <source>how lofted surfaces leave their sections</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo salen las superficies solevadas de sus secciones</translation>
     </message>
     <message>
         <source>how long</source>
-        <translation type="unfinished"></translation>
+        <translation>qué largo</translation>
     </message>
     <message>
         <source>how long smooth changes of the view take, in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto duran los cambios suaves de vista, en milisegundos</translation>
     </message>
     <message>
         <source>how long the drawing was worked on</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto tiempo se ha trabajado en el dibujo</translation>
     </message>
     <message>
         <source>how long the right button is held for a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto se mantiene el botón derecho para un menú</translation>
     </message>
     <message>
         <source>how many corners a face may have</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas esquinas puede tener una cara</translation>
     </message>
     <message>
         <source>how many dimensions are shown while a grip is pulled</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas cotas se muestran al tirar de un pinzamiento</translation>
     </message>
     <message>
         <source>how many entities the panel of properties takes</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas entidades toma el panel de propiedades</translation>
     </message>
     <message>
         <source>how many lines a hatch may have</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas líneas puede tener un sombreado</translation>
     </message>
     <message>
         <source>how many lines of input are remembered</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas líneas de entrada se recuerdan</translation>
     </message>
     <message>
         <source>how many lines of the grid lie between two stronger ones</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas líneas de rejilla hay entre dos más marcadas</translation>
     </message>
     <message>
         <source>how many names are listed in order</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántos nombres se listan en orden</translation>
     </message>
     <message>
         <source>how many sides POLYGON proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántos lados propone POLYGON</translation>
     </message>
     <message>
         <source>how many turns HELIX proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas vueltas propone HELIX</translation>
     </message>
     <message>
         <source>how many viewports may show something</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántas ventanas pueden mostrar algo</translation>
     </message>
     <message>
         <source>how much</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto</translation>
     </message>
     <message>
         <source>how much external drawings fade</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto se difuminan los dibujos externos</translation>
     </message>
     <message>
         <source>how much light is scattered</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánta luz se dispersa</translation>
     </message>
     <message>
         <source>how much locked layers fade</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto se difuminan las capas bloqueadas</translation>
     </message>
     <message>
         <source>how much of a file may be waste before it is saved whole</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto de un archivo puede sobrar antes de guardarlo entero</translation>
     </message>
     <message>
         <source>how much the wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto amplía la rueda</translation>
     </message>
     <message>
         <source>how much what is not edited fades</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto se difumina lo que no se edita</translation>
     </message>
     <message>
         <source>how names are completed, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se completan los nombres, en bits</translation>
     </message>
     <message>
         <source>how often dragging is drawn again with regeneration</source>
-        <translation type="unfinished"></translation>
+        <translation>cada cuánto se redibuja el arrastre con regeneración</translation>
     </message>
     <message>
         <source>how often dragging is drawn again without</source>
-        <translation type="unfinished"></translation>
+        <translation>cada cuánto se redibuja el arrastre sin ella</translation>
     </message>
     <message>
         <source>how paragraphs are shown while edited</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestran los párrafos al editarlos</translation>
     </message>
     <message>
         <source>how places on earth are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestran los lugares de la tierra</translation>
     </message>
     <message>
         <source>how points look</source>
-        <translation type="unfinished"></translation>
+        <translation>qué aspecto tienen los puntos</translation>
     </message>
     <message>
         <source>how polar and object tracking work, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo funcionan el rastreo polar y el de objetos, en bits</translation>
     </message>
     <message>
         <source>how programs are tested, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se prueban los programas, en bits</translation>
     </message>
     <message>
         <source>how sheets are turned</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se giran las hojas</translation>
     </message>
     <message>
         <source>how smooth letters are plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué suavidad se trazan las letras</translation>
     </message>
     <message>
         <source>how smooth round things are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué suavidad se muestra lo redondo</translation>
     </message>
     <message>
         <source>how stacked texts are aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se alinean los textos apilados</translation>
     </message>
     <message>
         <source>how surfaces are smoothed</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se suavizan las superficies</translation>
     </message>
     <message>
         <source>how text and arrows share the room, in the old form</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se reparten el sitio texto y flechas, en la forma antigua</translation>
     </message>
     <message>
         <source>how texts are aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se alinean los textos</translation>
     </message>
     <message>
         <source>how texts are edited</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se editan los textos</translation>
     </message>
     <message>
         <source>how the dialog of hatches is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestra el diálogo de sombreados</translation>
     </message>
     <message>
         <source>how the grid is shown, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestra la rejilla, en bits</translation>
     </message>
     <message>
         <source>how the status line shows the pointer&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo muestra la línea de estado el lugar del cursor</translation>
     </message>
     <message>
         <source>how undo works, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo funciona deshacer, en bits</translation>
     </message>
     <message>
         <source>how unknown entities are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestran entidades desconocidas</translation>
     </message>
     <message>
         <source>how well objects of other programs are plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué calidad se trazan objetos de otros programas</translation>
     </message>
     <message>
         <source>how well pictures are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué calidad se muestran las imágenes</translation>
     </message>
     <message>
         <source>how what is under the pointer is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se muestra lo que está bajo el cursor</translation>
     </message>
     <message>
         <source>how wide lines end</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo terminan las líneas gruesas</translation>
     </message>
     <message>
         <source>how wide lines meet</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo se unen las líneas gruesas</translation>
     </message>
     <message>
         <source>indices of layers and places are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>se guardan índices de capas y lugares</translation>
     </message>
     <message>
         <source>islands are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>se buscan islas</translation>
     </message>
     <message>
         <source>its colour</source>
-        <translation type="unfinished"></translation>
+        <translation>su color</translation>
     </message>
     <message>
         <source>kept as it is set, for programs: nothing here depends on it</source>
-        <translation type="unfinished"></translation>
+        <translation>se conserva tal como se define, para programas: nada depende aquí de ello</translation>
     </message>
     <message>
         <source>kept for programs that ask for it</source>
-        <translation type="unfinished"></translation>
+        <translation>se conserva para los programas que lo pidan</translation>
     </message>
     <message>
         <source>keys that override a mode for a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>teclas que sustituyen un modo por un momento</translation>
     </message>
     <message>
         <source>layers of external drawings keep what is set here</source>
-        <translation type="unfinished"></translation>
+        <translation>las capas de dibujos externos conservan lo definido aquí</translation>
     </message>
     <message>
         <source>layers without entities are shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>las capas sin entidades se muestran como tales</translation>
     </message>
     <message>
         <source>layouts have tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>las presentaciones tienen fichas</translation>
     </message>
     <message>
         <source>lengthens curves up to others</source>
-        <translation type="unfinished"></translation>
+        <translation>alarga curvas hasta otras</translation>
     </message>
     <message>
         <source>lengths are shown as they are typed</source>
-        <translation type="unfinished"></translation>
+        <translation>las longitudes se muestran como se escriben</translation>
     </message>
     <message>
         <source>letters are filled when plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>las letras se rellenan al trazar</translation>
     </message>
     <message>
         <source>limits are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran los límites</translation>
     </message>
     <message>
         <source>line spacing at least (1) or exactly (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>interlineado mínimo (1) o exacto (2)</translation>
     </message>
     <message>
         <source>lines are drawn smoothly</source>
-        <translation type="unfinished"></translation>
+        <translation>las líneas se dibujan suavizadas</translation>
     </message>
     <message>
         <source>lines between two corners of a spline-fitted polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>líneas entre dos esquinas de una polilínea suavizada como spline</translation>
     </message>
     <message>
         <source>lines of history that the command line shows</source>
-        <translation type="unfinished"></translation>
+        <translation>líneas de historial que muestra la línea de comandos</translation>
     </message>
     <message>
         <source>lines of surfaces one way</source>
-        <translation type="unfinished"></translation>
+        <translation>líneas de superficies en un sentido</translation>
     </message>
     <message>
         <source>lines of surfaces the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>líneas de superficies en el otro sentido</translation>
     </message>
     <message>
         <source>lines on round solids</source>
-        <translation type="unfinished"></translation>
+        <translation>líneas en sólidos redondos</translation>
     </message>
     <message>
         <source>lines where solids meet are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran líneas donde se encuentran sólidos</translation>
     </message>
     <message>
         <source>linetypes in model space take the annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>los tipos de línea del espacio modelo toman la escala de anotación</translation>
     </message>
     <message>
         <source>linetypes in viewports take the scale of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>los tipos de línea en ventanas toman la escala de la presentación</translation>
     </message>
     <message>
         <source>linetypes run through the corners of polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>los tipos de línea atraviesan las esquinas de polilíneas</translation>
     </message>
     <message>
         <source>lineweights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran los grosores de línea</translation>
     </message>
     <message>
         <source>lineweights are shown in inches (0) or millimetres (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>los grosores de línea se muestran en pulgadas (0) o milímetros (1)</translation>
     </message>
     <message>
         <source>makes one curve of several that meet or lie on one line or circle</source>
-        <translation type="unfinished"></translation>
+        <translation>hace una curva de varias que se tocan o están en una línea o círculo</translation>
     </message>
     <message>
         <source>makes regions of closed loops</source>
-        <translation type="unfinished"></translation>
+        <translation>crea regiones de bucles cerrados</translation>
     </message>
     <message>
         <source>marks and tips of object snap, polar and object tracking, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>marcas y sugerencias de referencia a objetos y de rastreo polar y de objetos, en bits</translation>
     </message>
     <message>
         <source>marks of centres: their size, negative with lines, 0 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>marcas de centro: su tamaño, negativo con líneas, 0 para ninguna</translation>
     </message>
     <message>
         <source>marks where points were picked</source>
-        <translation type="unfinished"></translation>
+        <translation>marcas donde se designaron puntos</translation>
     </message>
     <message>
         <source>measures areas and perimeters of corners and curves</source>
-        <translation type="unfinished"></translation>
+        <translation>mide áreas y perímetros de esquinas y curvas</translation>
     </message>
     <message>
         <source>measures curves and makes them longer or shorter</source>
-        <translation type="unfinished"></translation>
+        <translation>mide curvas y las alarga o acorta</translation>
     </message>
     <message>
         <source>menus follow the command</source>
-        <translation type="unfinished"></translation>
+        <translation>los menús siguen al comando</translation>
     </message>
     <message>
         <source>menus of the right button, as bits: at rest, for what is chosen, at prompts, with options, held</source>
-        <translation type="unfinished"></translation>
+        <translation>menús del botón derecho, en bits: en reposo, para lo designado, en solicitudes, con opciones, al mantener pulsado</translation>
     </message>
     <message>
         <source>milliseconds since the machine was started</source>
-        <translation type="unfinished"></translation>
+        <translation>milisegundos desde que arrancó la máquina</translation>
     </message>
     <message>
         <source>minutes between automatic saves</source>
-        <translation type="unfinished"></translation>
+        <translation>minutos entre guardados automáticos</translation>
     </message>
     <message>
         <source>model space is shown (1) or a layout (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra el espacio modelo (1) o una presentación (0)</translation>
     </message>
     <message>
         <source>names may be long and have blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>los nombres pueden ser largos y llevar espacios</translation>
     </message>
     <message>
         <source>names of applications come with external drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>los nombres de aplicaciones vienen con dibujos externos</translation>
     </message>
     <message>
         <source>new drawings are imperial (0) or metric (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos nuevos son imperiales (0) o métricos (1)</translation>
     </message>
     <message>
         <source>new external drawings are attached (0) or overlaid (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos externos nuevos se enlazan (0) o se superponen (1)</translation>
     </message>
     <message>
         <source>new external drawings have no path (0), a relative (1) or a full one (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>los dibujos externos nuevos no tienen ruta (0), una relativa (1) o una completa (2)</translation>
     </message>
     <message>
         <source>new hatches are annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>los sombreados nuevos son anotativos</translation>
     </message>
     <message>
         <source>new layers are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>se buscan capas nuevas</translation>
     </message>
     <message>
         <source>new layouts get a viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>las presentaciones nuevas reciben una ventana</translation>
     </message>
     <message>
         <source>new texts are in capitals</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos nuevos van en mayúsculas</translation>
     </message>
     <message>
         <source>notes are shown in the status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>las notas se muestran en la barra de estado</translation>
     </message>
     <message>
         <source>object snap finds hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>la referencia a objetos halla sombreados</translation>
     </message>
     <message>
         <source>object snap finds underlays</source>
-        <translation type="unfinished"></translation>
+        <translation>la referencia a objetos halla calcos subyacentes</translation>
     </message>
     <message>
         <source>object snap takes the height of the user&apos;s plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la referencia a objetos toma la altura del plano del usuario</translation>
     </message>
     <message>
         <source>object snaps in space, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>referencias a objetos en el espacio, en bits</translation>
     </message>
     <message>
         <source>objects of other programs are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>los objetos de otros programas se ocultan</translation>
     </message>
     <message>
         <source>one drawing at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo a la vez</translation>
     </message>
     <message>
         <source>one text is edited (1) or several (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>se edita un texto (1) o varios (0)</translation>
     </message>
     <message>
         <source>patterns are mirrored with hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>los patrones se reflejan con los sombreados</translation>
     </message>
     <message>
         <source>pictures are shown whole when chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>las imágenes se muestran enteras al designarlas</translation>
     </message>
     <message>
         <source>pictures have a ground</source>
-        <translation type="unfinished"></translation>
+        <translation>las imágenes tienen fondo</translation>
     </message>
     <message>
         <source>pictures of unknown entities are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>se guardan imágenes de entidades desconocidas</translation>
     </message>
     <message>
         <source>plot styles go by colour (1) or name (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>los estilos de trazado van por color (1) o por nombre (0)</translation>
     </message>
     <message>
         <source>points must be within the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>los puntos deben estar dentro de los límites</translation>
     </message>
     <message>
         <source>points typed beside the pointer are polar (0) or cartesian (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>los puntos escritos junto al cursor son polares (0) o cartesianos (1)</translation>
     </message>
     <message>
         <source>points typed beside the pointer are relative (0) or absolute (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>los puntos escritos junto al cursor son relativos (0) o absolutos (1)</translation>
     </message>
     <message>
         <source>polylines are made light: never (0), new ones (1), old ones too (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>las polilíneas se aligeran: nunca (0), las nuevas (1), también las antiguas (2)</translation>
     </message>
     <message>
         <source>programs from elsewhere: loaded (0), asked for (1), refused (2); trusted folders decide here</source>
-        <translation type="unfinished"></translation>
+        <translation>programas de otro lugar: se cargan (0), se pregunta (1), se rechazan (2); aquí deciden las carpetas de confianza</translation>
     </message>
     <message>
         <source>prompts are not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>los mensajes de solicitud no se imprimen</translation>
     </message>
     <message>
         <source>prompts are shown beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>los mensajes de solicitud se muestran junto al cursor</translation>
     </message>
     <message>
         <source>prompts beside the pointer, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>mensajes de solicitud junto al cursor, en bits</translation>
     </message>
     <message>
         <source>puts points or blocks at steps along a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>pone puntos o bloques a intervalos a lo largo de una curva</translation>
     </message>
     <message>
         <source>puts points or blocks that cut a curve into equal parts</source>
-        <translation type="unfinished"></translation>
+        <translation>pone puntos o bloques que dividen una curva en partes iguales</translation>
     </message>
     <message>
         <source>quick properties are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran las propiedades rápidas</translation>
     </message>
     <message>
         <source>regeneration on several processors</source>
-        <translation type="unfinished"></translation>
+        <translation>regeneración en varios procesadores</translation>
     </message>
     <message>
         <source>reversing a polyline swaps its widths</source>
-        <translation type="unfinished"></translation>
+        <translation>invertir una polilínea intercambia sus grosores</translation>
     </message>
     <message>
         <source>saving keeps a backup</source>
-        <translation type="unfinished"></translation>
+        <translation>al guardar se conserva una copia de seguridad</translation>
     </message>
     <message>
         <source>scripts plot without questions</source>
-        <translation type="unfinished"></translation>
+        <translation>los scripts trazan sin preguntas</translation>
     </message>
     <message>
         <source>silhouettes of solids are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>se dibujan siluetas de sólidos</translation>
     </message>
     <message>
         <source>sketches become lines (0), polylines (1), splines (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>los bocetos dan líneas (0), polilíneas (1), splines (2)</translation>
     </message>
     <message>
         <source>snap goes by the grid (0) or by polar tracking (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>el forzado va por rejilla (0) o por rastreo polar (1)</translation>
     </message>
     <message>
         <source>snap is square (0) or isometric (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>el forzado es rectangular (0) o isométrico (1)</translation>
     </message>
     <message>
         <source>solids are checked</source>
-        <translation type="unfinished"></translation>
+        <translation>se comprueban los sólidos</translation>
     </message>
     <message>
         <source>solids keep their history</source>
-        <translation type="unfinished"></translation>
+        <translation>los sólidos guardan su historial</translation>
     </message>
     <message>
         <source>spline-fitted polylines are quadratic (5) or cubic (6)</source>
-        <translation type="unfinished"></translation>
+        <translation>las polilíneas suavizadas como spline son cuadráticas (5) o cúbicas (6)</translation>
     </message>
     <message>
         <source>splines become polylines of lines (0) or arcs (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>las splines dan polilíneas de líneas (0) o arcos (1)</translation>
     </message>
     <message>
         <source>splines go by fit points (0) or control points (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>las splines van por puntos de ajuste (0) o de control (1)</translation>
     </message>
     <message>
         <source>start-up programs are loaded into every drawing (1) or the first (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>los programas de inicio se cargan en cada dibujo (1) o en el primero (0)</translation>
     </message>
     <message>
         <source>steps of a walk in a second</source>
-        <translation type="unfinished"></translation>
+        <translation>pasos de un paseo por segundo</translation>
     </message>
     <message>
         <source>such settings are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>esos parámetros se muestran</translation>
     </message>
     <message>
         <source>symbols are shown in the status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran símbolos en la barra de estado</translation>
     </message>
     <message>
         <source>takes a part out of a curve, or cuts it in two</source>
-        <translation type="unfinished"></translation>
+        <translation>quita una parte de una curva, o la corta en dos</translation>
     </message>
     <message>
         <source>texts are kept inside</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos se mantienen dentro</translation>
     </message>
     <message>
         <source>texts are mirrored with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos se reflejan con el dibujo</translation>
     </message>
     <message>
         <source>texts are read the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos se leen al revés</translation>
     </message>
     <message>
         <source>texts are shown as boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos se muestran como rectángulos</translation>
     </message>
     <message>
         <source>texts hide and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos ocultan y se ocultan</translation>
     </message>
     <message>
         <source>texts inside are level</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos de dentro son horizontales</translation>
     </message>
     <message>
         <source>texts outside are level</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos de fuera son horizontales</translation>
     </message>
     <message>
         <source>the address of the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>la dirección del navegador</translation>
     </message>
     <message>
         <source>the angle of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>el ángulo de los degradados</translation>
     </message>
     <message>
         <source>the angle of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>el ángulo de los sombreados</translation>
     </message>
     <message>
         <source>the angle of the jog of large radii</source>
-        <translation type="unfinished"></translation>
+        <translation>el ángulo del recodo de radios grandes</translation>
     </message>
     <message>
         <source>the angle that ROTATE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>el ángulo que propone ROTATE</translation>
     </message>
     <message>
         <source>the angle that UCS proposes for a turn</source>
-        <translation type="unfinished"></translation>
+        <translation>el ángulo que propone UCS para un giro</translation>
     </message>
     <message>
         <source>the arcs of clouds differ</source>
-        <translation type="unfinished"></translation>
+        <translation>los arcos de las nubes son distintos</translation>
     </message>
     <message>
         <source>the area that was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>el área que se midió por última vez</translation>
     </message>
     <message>
         <source>the arrow at both ends</source>
-        <translation type="unfinished"></translation>
+        <translation>la flecha en ambos extremos</translation>
     </message>
     <message>
         <source>the arrow at the first end</source>
-        <translation type="unfinished"></translation>
+        <translation>la flecha en el primer extremo</translation>
     </message>
     <message>
         <source>the arrow at the second end</source>
-        <translation type="unfinished"></translation>
+        <translation>la flecha en el segundo extremo</translation>
     </message>
     <message>
         <source>the arrow of leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>la flecha de las directrices</translation>
     </message>
     <message>
         <source>the bar of navigation is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la barra de navegación</translation>
     </message>
     <message>
         <source>the base point of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el punto base del dibujo</translation>
     </message>
     <message>
         <source>the blank key ends a line of a list</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra espaciadora termina una línea de una lista</translation>
     </message>
     <message>
         <source>the block that INSERT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>el bloque que propone INSERT</translation>
     </message>
     <message>
         <source>the block that is edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>el bloque que se edita in situ</translation>
     </message>
     <message>
         <source>the blocks inserted last</source>
-        <translation type="unfinished"></translation>
+        <translation>los últimos bloques insertados</translation>
     </message>
     <message>
         <source>the box of object snap is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la caja de referencia a objetos</translation>
     </message>
     <message>
         <source>the chamfer angle</source>
-        <translation type="unfinished"></translation>
+        <translation>el ángulo de chaflán</translation>
     </message>
     <message>
         <source>the chamfer length</source>
-        <translation type="unfinished"></translation>
+        <translation>la longitud de chaflán</translation>
     </message>
     <message>
         <source>the code page of the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la página de códigos de la máquina</translation>
     </message>
     <message>
         <source>the colour of crossing windows</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las ventanas de captura</translation>
     </message>
     <message>
         <source>the colour of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las líneas de cota</translation>
     </message>
     <message>
         <source>the colour of extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las líneas de referencia</translation>
     </message>
     <message>
         <source>the colour of grips</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de los pinzamientos</translation>
     </message>
     <message>
         <source>the colour of hidden lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las líneas ocultas</translation>
     </message>
     <message>
         <source>the colour of lines where solids meet</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las líneas donde se encuentran sólidos</translation>
     </message>
     <message>
         <source>the colour of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las entidades nuevas</translation>
     </message>
     <message>
         <source>the colour of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de los sombreados nuevos; &quot;.&quot; es el actual</translation>
     </message>
     <message>
         <source>the colour of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de los textos</translation>
     </message>
     <message>
         <source>the colour of the grip that is pulled</source>
-        <translation type="unfinished"></translation>
+        <translation>el color del pinzamiento del que se tira</translation>
     </message>
     <message>
         <source>the colour of the grip under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>el color del pinzamiento bajo el cursor</translation>
     </message>
     <message>
         <source>the colour of the grips of dynamic blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de los pinzamientos de bloques dinámicos</translation>
     </message>
     <message>
         <source>the colour of windows of selections</source>
-        <translation type="unfinished"></translation>
+        <translation>el color de las ventanas de selección</translation>
     </message>
     <message>
         <source>the command line is written to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea de comandos se escribe en un archivo</translation>
     </message>
     <message>
         <source>the commands that are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>los comandos en curso</translation>
     </message>
     <message>
         <source>the control key goes through what lies above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>la tecla Control recorre lo que está uno encima de otro</translation>
     </message>
     <message>
         <source>the cube of views is shown</source>
@@ -12958,7 +12983,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Save &amp;as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;como...</translation>
     </message>
     <message>
         <source>Saves the drawing</source>
@@ -13002,7 +13027,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Shows the help pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra las páginas de ayuda</translation>
     </message>
     <message>
         <source>Shows what is in a box</source>

@@ -4335,7 +4335,7 @@ Tempi per questo disegno:</translation>
     </message>
     <message>
         <source>Insertion base is</source>
-        <translation type="unfinished"></translation>
+        <translation>La base di inserimento è</translation>
     </message>
     <message>
         <source>Current space:</source>
@@ -6337,42 +6337,45 @@ Layer congelati nella finestra %1:</translation>
     <name>FileActions</name>
     <message>
         <source>Open drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri disegni</translation>
     </message>
     <message>
         <source>Drawings (*.dxf *.dwg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegni (*.dxf *.dwg);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>%1
 What is saved here replaces what is saved there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Ciò che si salva qui sostituisce ciò che si salva là.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri in sola &amp;lettura</translation>
     </message>
     <message>
         <source>Open &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri comunque</translation>
     </message>
     <message>
         <source>Save under another &amp;name...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva con altro &amp;nome...</translation>
     </message>
     <message>
         <source>Save &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva comunque</translation>
     </message>
     <message>
         <source>%1
 
 The drawing stays open.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+Il disegno resta aperto.</translation>
     </message>
     <message>
         <source>Save &amp;as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva co&amp;n nome...</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
@@ -6380,34 +6383,37 @@ The drawing stays open.</source>
     </message>
     <message>
         <source>Save drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva disegno</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegni DXF (*.dxf)</translation>
     </message>
     <message>
         <source>Export picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta immagine</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini %1 (*.%2)</translation>
     </message>
     <message>
         <source>
 Written: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Scritto: %1
+</translation>
     </message>
     <message>
         <source>In the picture: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Nell&apos;immagine: %1
+</translation>
     </message>
     <message>
         <source>%1 was changed. Save it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato modificato. Salvarlo?</translation>
     </message>
 </context>
 <context>
@@ -6415,63 +6421,80 @@ Written: %1
     <message>
         <source>
 New color &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nuovo colore &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Requires a color number or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Occorre un numero o nome di colore.</translation>
     </message>
     <message>
         <source>
 Unknown command &quot;%1&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Comando sconosciuto &quot;%1&quot;.
+</translation>
     </message>
     <message>
         <source>
 Left over from (command): %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rimasto da (command): %1
+</translation>
     </message>
     <message>
         <source>
 The dialog file &quot;%1&quot; was not found.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il file di dialogo &quot;%1&quot; non è stato trovato.
+</translation>
     </message>
     <message>
         <source>
 The actions that the file gives to the tiles of &quot;%1&quot; do not run: its folder is not trusted.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le azioni che il file assegna agli elementi di &quot;%1&quot; non vengono eseguite: la sua cartella non è attendibile.
+</translation>
     </message>
     <message>
         <source>
 There is no dialog &quot;%1&quot; in what was loaded.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non c&apos;è nessun dialogo &quot;%1&quot; in ciò che è stato caricato.
+</translation>
     </message>
     <message>
         <source>
 Nobody is there to answer the dialog &quot;%1&quot;: cancelled.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuno può rispondere al dialogo &quot;%1&quot;: annullato.
+</translation>
     </message>
     <message>
         <source>action of &quot;%1&quot; in dialog %2</source>
-        <translation type="unfinished"></translation>
+        <translation>azione di &quot;%1&quot; nel dialogo %2</translation>
     </message>
     <message>
         <source>
 Select object: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare oggetto: </translation>
     </message>
     <message>
         <source>
 startapp: %1 is not started: the user&apos;s settings do not let programs start others.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+startapp: %1 non viene avviato: le impostazioni dell&apos;utente non consentono ai programmi di avviarne altri.
+</translation>
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
@@ -6487,2076 +6510,2078 @@ startapp: %1 is not started: the user&apos;s settings do not let programs start 
     </message>
     <message>
         <source>%1 is one of the drawings that sheets come from</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è uno dei disegni da cui provengono i fogli</translation>
     </message>
     <message>
         <source>the file was not found</source>
-        <translation type="unfinished"></translation>
+        <translation>il file non è stato trovato</translation>
     </message>
     <message>
         <source>
 The slide &quot;%1&quot;: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+La diapositiva &quot;%1&quot;: %2.
+</translation>
     </message>
 </context>
 <context>
     <name>Help</name>
     <message>
         <source>0: heights count</source>
-        <translation type="unfinished"></translation>
+        <translation>0: le altezze contano</translation>
     </message>
     <message>
         <source>As -COLOR</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -COLOR</translation>
     </message>
     <message>
         <source>As -COLOR; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -COLOR; non ha una finestra</translation>
     </message>
     <message>
         <source>As -LAYDEL; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -LAYDEL; non ha una finestra</translation>
     </message>
     <message>
         <source>As -LAYER; entered by hand in the window it shows the layer panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -LAYER; digitato nella finestra mostra il pannello dei layer</translation>
     </message>
     <message>
         <source>As -LAYMRG; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -LAYMRG; non ha una finestra</translation>
     </message>
     <message>
         <source>As -LINETYPE; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -LINETYPE; non ha una finestra</translation>
     </message>
     <message>
         <source>As -LWEIGHT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -LWEIGHT; non ha una finestra</translation>
     </message>
     <message>
         <source>As -PAN; the middle button of the mouse moves the view too</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -PAN; anche il tasto centrale del mouse sposta la vista</translation>
     </message>
     <message>
         <source>As -PURGE; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -PURGE; non ha una finestra</translation>
     </message>
     <message>
         <source>As -RENAME; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -RENAME; non ha una finestra</translation>
     </message>
     <message>
         <source>As -UNITS; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -UNITS; non ha una finestra</translation>
     </message>
     <message>
         <source>As -VIEW; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -VIEW; non ha una finestra</translation>
     </message>
     <message>
         <source>As -VPOINT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -VPOINT; non ha una finestra</translation>
     </message>
     <message>
         <source>As -VPORTS; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -VPORTS; non ha una finestra</translation>
     </message>
     <message>
         <source>As -XREF; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come -XREF; non ha una finestra</translation>
     </message>
     <message>
         <source>As LAYOUT; there is no window for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come LAYOUT; non ha una finestra</translation>
     </message>
     <message>
         <source>As NEW</source>
-        <translation type="unfinished"></translation>
+        <translation>Come NEW</translation>
     </message>
     <message>
         <source>As QUIT</source>
-        <translation type="unfinished"></translation>
+        <translation>Come QUIT</translation>
     </message>
     <message>
         <source>Attaches drawing files as external references, and changes, binds and detaches these</source>
-        <translation type="unfinished"></translation>
+        <translation>Attacca file di disegno come riferimenti esterni, e li modifica, unisce e stacca</translation>
     </message>
     <message>
         <source>BOUNDARY makes polylines (1) or regions (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>BOUNDARY crea polilinee (1) o regioni (0)</translation>
     </message>
     <message>
         <source>Brings back what was erased last</source>
-        <translation type="unfinished"></translation>
+        <translation>Recupera ciò che è stato cancellato per ultimo</translation>
     </message>
     <message>
         <source>Brings entities in front of others or behind them</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta entità davanti o dietro ad altre</translation>
     </message>
     <message>
         <source>COPY goes on until an empty answer (0) or makes one copy (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>COPY continua fino a una risposta vuota (0) o fa una sola copia (1)</translation>
     </message>
     <message>
         <source>Changes entities by a point, or their properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica entità con un punto, o le loro proprietà</translation>
     </message>
     <message>
         <source>Changes entities by their grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica entità con i loro grip</translation>
     </message>
     <message>
         <source>Changes layer, color, linetype and weight of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia layer, colore, tipo e spessore di linea di entità</translation>
     </message>
     <message>
         <source>Changes pattern, style and layer of a hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia modello, stile e layer di un tratteggio</translation>
     </message>
     <message>
         <source>Changes text and extension lines of dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia testo e linee di estensione delle quote</translation>
     </message>
     <message>
         <source>Changes the values of a block reference&apos;s attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia i valori degli attributi di un riferimento di blocco</translation>
     </message>
     <message>
         <source>Changes the values of attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia i valori di attributi</translation>
     </message>
     <message>
         <source>Changes what texts, dimensions and definitions of attributes say</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia ciò che dicono testi, quote e definizioni di attributi</translation>
     </message>
     <message>
         <source>Chooses entities for the next command</source>
-        <translation type="unfinished"></translation>
+        <translation>Sceglie entità per il comando successivo</translation>
     </message>
     <message>
         <source>Chooses entities; they are the previous selection then</source>
-        <translation type="unfinished"></translation>
+        <translation>Sceglie entità; diventano la selezione precedente</translation>
     </message>
     <message>
         <source>Chooses the isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Sceglie il piano isometrico</translation>
     </message>
     <message>
         <source>Chooses what is similar to the chosen entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Sceglie ciò che è simile alle entità scelte</translation>
     </message>
     <message>
         <source>Closes all drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude tutti i disegni</translation>
     </message>
     <message>
         <source>Closes the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude il disegno</translation>
     </message>
     <message>
         <source>Closes the drawing without saving, and ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude il disegno senza salvare e termina il programma</translation>
     </message>
     <message>
         <source>Copies entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entità</translation>
     </message>
     <message>
         <source>Copies entities into rows and columns or round a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entità in righe e colonne o attorno a un punto</translation>
     </message>
     <message>
         <source>Copies entities to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entità negli Appunti</translation>
     </message>
     <message>
         <source>Copies entities to the clipboard by a base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia entità negli Appunti con un punto base</translation>
     </message>
     <message>
         <source>Cuts block references off at a boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritaglia riferimenti di blocco lungo un contorno</translation>
     </message>
     <message>
         <source>Cuts corners off</source>
-        <translation type="unfinished"></translation>
+        <translation>Cima gli angoli</translation>
     </message>
     <message>
         <source>Defines an attribute of a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Definisce un attributo di un blocco</translation>
     </message>
     <message>
         <source>Deletes layers with all that is on them</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina layer con tutto ciò che contengono</translation>
     </message>
     <message>
         <source>Dimensions a distance along itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota una distanza lungo se stessa</translation>
     </message>
     <message>
         <source>Dimensions a distance along x, y or another direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota una distanza lungo x, y o un&apos;altra direzione</translation>
     </message>
     <message>
         <source>Dimensions an angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota un angolo</translation>
     </message>
     <message>
         <source>Dimensions by subcommands until Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota con sottocomandi fino a Exit</translation>
     </message>
     <message>
         <source>Dimensions further points from the same begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota altri punti dalla stessa origine</translation>
     </message>
     <message>
         <source>Dimensions on from the last dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>Continua a quotare dall&apos;ultima quota</translation>
     </message>
     <message>
         <source>Dimensions the diameter of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota il diametro di un cerchio o arco</translation>
     </message>
     <message>
         <source>Dimensions the length of an arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota la lunghezza di un arco</translation>
     </message>
     <message>
         <source>Dimensions the radius of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota il raggio di un cerchio o arco</translation>
     </message>
     <message>
         <source>Dimensions the radius of a circle or arc from a nearer centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota il raggio di un cerchio o arco da un centro più vicino</translation>
     </message>
     <message>
         <source>Dimensions the x or y coordinate of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Quota la coordinata x o y di un punto</translation>
     </message>
     <message>
         <source>Divides the screen or makes viewports on a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Divide lo schermo o crea finestre in un layout</translation>
     </message>
     <message>
         <source>Does again what was undone last</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina l&apos;ultima operazione annullata</translation>
     </message>
     <message>
         <source>Does again what was undone, several steps at once</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina ciò che è stato annullato, più passi alla volta</translation>
     </message>
     <message>
         <source>Draws a circle: centre and radius, two or three points, two tangents and radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna un cerchio: centro e raggio, due o tre punti, due tangenti e raggio</translation>
     </message>
     <message>
         <source>Draws a cloud of arcs, or makes one of an entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una nuvola di archi, o trasforma in una un&apos;entità</translation>
     </message>
     <message>
         <source>Draws a line from a feature to a note</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una direttrice da una parte a una nota</translation>
     </message>
     <message>
         <source>Draws a line of up to three points with a text</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una direttrice di al massimo tre punti con un testo</translation>
     </message>
     <message>
         <source>Draws a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna un punto</translation>
     </message>
     <message>
         <source>Draws a polygon with sides of one length</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna un poligono regolare</translation>
     </message>
     <message>
         <source>Draws a polyline in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una polilinea nello spazio</translation>
     </message>
     <message>
         <source>Draws a polyline of straight segments and arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una polilinea di segmenti retti e archi</translation>
     </message>
     <message>
         <source>Draws a rectangle by corners, sides or area</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna un rettangolo con vertici, lati o area</translation>
     </message>
     <message>
         <source>Draws a smooth curve through points or along control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una curva liscia per punti o lungo punti di controllo</translation>
     </message>
     <message>
         <source>Draws an arc: three points, or start, center, end, angle, length, direction, radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna un arco: tre punti, o inizio, centro, fine, angolo, lunghezza, direzione, raggio</translation>
     </message>
     <message>
         <source>Draws an arrow with a note as one entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una freccia con una nota come unica entità</translation>
     </message>
     <message>
         <source>Draws an ellipse or a part of one</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna un&apos;ellisse o una sua parte</translation>
     </message>
     <message>
         <source>Draws faces in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna facce nello spazio</translation>
     </message>
     <message>
         <source>Draws filled areas with three or four corners</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna aree piene con tre o quattro vertici</translation>
     </message>
     <message>
         <source>Draws filled rings</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna anelli pieni</translation>
     </message>
     <message>
         <source>Draws lines that end at one side only</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna linee che finiscono da un solo lato</translation>
     </message>
     <message>
         <source>Draws lines without ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna linee senza fine</translation>
     </message>
     <message>
         <source>Draws parallel curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna curve parallele</translation>
     </message>
     <message>
         <source>Draws parallel lines with the current multiline style</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna linee parallele con lo stile multilinea corrente</translation>
     </message>
     <message>
         <source>Draws straight segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna segmenti retti</translation>
     </message>
     <message>
         <source>Draws the window anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Ridisegna la finestra</translation>
     </message>
     <message>
         <source>Draws wide lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna linee larghe</translation>
     </message>
     <message>
         <source>ELLIPSE makes true ellipses (0) or polylines (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ELLIPSE crea ellissi vere (0) o polilinee (1)</translation>
     </message>
     <message>
         <source>EXPLODE takes blocks of unequal scales</source>
-        <translation type="unfinished"></translation>
+        <translation>EXPLODE accetta blocchi con scale diverse</translation>
     </message>
     <message>
         <source>Edits polylines: closes, joins, widens, smooths, changes vertices</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica polilinee: chiude, unisce, allarga, smussa, cambia vertici</translation>
     </message>
     <message>
         <source>Evaluates the expressions of texts anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Rivaluta le espressioni dei testi</translation>
     </message>
     <message>
         <source>FILLET and CHAMFER trim what they join</source>
-        <translation type="unfinished"></translation>
+        <translation>FILLET e CHAMFER tagliano ciò che uniscono</translation>
     </message>
     <message>
         <source>Freezes and thaws layers in viewports of sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Congela e scongela layer nelle finestre dei layout</translation>
     </message>
     <message>
         <source>Freezes layers of picked objects in all other viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Congela i layer degli oggetti scelti in tutte le altre finestre</translation>
     </message>
     <message>
         <source>Freezes the layers of picked objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Congela i layer degli oggetti scelti</translation>
     </message>
     <message>
         <source>Gives a multileader further arrows, or takes some away</source>
-        <translation type="unfinished"></translation>
+        <translation>Dà altre frecce a una multidirettrice, o ne toglie alcune</translation>
     </message>
     <message>
         <source>Gives blocks, layers, styles and other named things another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dà un altro nome a blocchi, layer, stili e altri elementi con nome</translation>
     </message>
     <message>
         <source>Gives entities the properties of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Dà a entità le proprietà di un&apos;altra</translation>
     </message>
     <message>
         <source>Gives layers what they had before LAYISO</source>
-        <translation type="unfinished"></translation>
+        <translation>Ridà ai layer ciò che avevano prima di LAYISO</translation>
     </message>
     <message>
         <source>Gives references the attributes that their block defines</source>
-        <translation type="unfinished"></translation>
+        <translation>Dà ai riferimenti gli attributi definiti dal loro blocco</translation>
     </message>
     <message>
         <source>Hatches areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Tratteggia aree</translation>
     </message>
     <message>
         <source>Hides a command, which a point in front still runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Nasconde un comando, che resta eseguibile con un punto davanti</translation>
     </message>
     <message>
         <source>INSERT asks for attributes (1) or takes their defaults (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>INSERT chiede gli attributi (1) o prende i loro default (0)</translation>
     </message>
     <message>
         <source>INSERT asks for attributes with a dialog (1) or on the command line (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>INSERT chiede gli attributi con un dialogo (1) o sulla riga di comando (0)</translation>
     </message>
     <message>
         <source>Inserts a block or drawing file, as a reference or in pieces</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisce un blocco o file di disegno, come riferimento o esploso</translation>
     </message>
     <message>
         <source>Loads a shape file, so that its shapes can be placed</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica un file di forme, per poterle collocare</translation>
     </message>
     <message>
         <source>Loads linetypes from a file and chooses the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica tipi di linea da un file e sceglie quello corrente</translation>
     </message>
     <message>
         <source>Locks or turns off all layers but those of chosen objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca o disattiva tutti i layer tranne quelli degli oggetti scelti</translation>
     </message>
     <message>
         <source>Locks the layer of a picked object</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca il layer di un oggetto scelto</translation>
     </message>
     <message>
         <source>Looks for errors in the drawing and mends them</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca errori nel disegno e li ripara</translation>
     </message>
     <message>
         <source>Looks from another direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda da un&apos;altra direzione</translation>
     </message>
     <message>
         <source>Looks straight at the plane of a coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda perpendicolarmente il piano di un sistema di coordinate</translation>
     </message>
     <message>
         <source>Makes a block of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un blocco di entità</translation>
     </message>
     <message>
         <source>Makes a command known again that UNDEFINE hid</source>
-        <translation type="unfinished"></translation>
+        <translation>Rende di nuovo noto un comando nascosto da UNDEFINE</translation>
     </message>
     <message>
         <source>Makes a new drawing, from a template or empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un nuovo disegno, da un modello o vuoto</translation>
     </message>
     <message>
         <source>Makes and changes groups of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea e modifica gruppi di entità</translation>
     </message>
     <message>
         <source>Makes and changes text styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea e modifica stili di testo</translation>
     </message>
     <message>
         <source>Makes entities larger or smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingrandisce o riduce entità</translation>
     </message>
     <message>
         <source>Makes layers and changes their properties and states</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea layer e ne cambia proprietà e stati</translation>
     </message>
     <message>
         <source>Makes one paragraph of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Fa un paragrafo di testi</translation>
     </message>
     <message>
         <source>Makes polylines or regions round areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea polilinee o regioni attorno ad aree</translation>
     </message>
     <message>
         <source>Makes the layer of a picked object current</source>
-        <translation type="unfinished"></translation>
+        <translation>Rende corrente il layer di un oggetto scelto</translation>
     </message>
     <message>
         <source>Makes viewports on a sheet and switches them</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea finestre in un layout e le attiva o disattiva</translation>
     </message>
     <message>
         <source>Makes, copies, renames and deletes layouts and chooses the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea, copia, rinomina ed elimina layout e sceglie quello corrente</translation>
     </message>
     <message>
         <source>Marks the centre of a circle or arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrassegna il centro di un cerchio o arco</translation>
     </message>
     <message>
         <source>Mirrors entities in a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Specchia entità rispetto a una linea</translation>
     </message>
     <message>
         <source>Mirrors entities in a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Specchia entità rispetto a un piano</translation>
     </message>
     <message>
         <source>Moves entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta entità</translation>
     </message>
     <message>
         <source>Moves entities between the sheet and the model that it shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Passa entità fra il layout e il modello che mostra</translation>
     </message>
     <message>
         <source>Moves entities in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta entità nello spazio</translation>
     </message>
     <message>
         <source>Moves entities to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta entità negli Appunti</translation>
     </message>
     <message>
         <source>Moves or turns the text of a dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta o ruota il testo di una quota</translation>
     </message>
     <message>
         <source>Moves the notes of multileaders onto a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Allinea le note delle multidirettrici su una linea</translation>
     </message>
     <message>
         <source>Moves what is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta ciò che è mostrato</translation>
     </message>
     <message>
         <source>Moves what lies within a window, and what is tied to it follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta ciò che è in una finestra, e ciò che vi è legato lo segue</translation>
     </message>
     <message>
         <source>Moves, turns and scales entities by pairs of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta, ruota e scala entità con coppie di punti</translation>
     </message>
     <message>
         <source>Opens a drawing, where what is typed next goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre un disegno, in cui prosegue ciò che si digita</translation>
     </message>
     <message>
         <source>PEDIT makes polylines of others without asking</source>
-        <translation type="unfinished"></translation>
+        <translation>PEDIT trasforma altre entità in polilinee senza chiedere</translation>
     </message>
     <message>
         <source>Places a shape of a loaded shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>Colloca una forma di un file di forme caricato</translation>
     </message>
     <message>
         <source>Places what is on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Colloca ciò che è negli Appunti</translation>
     </message>
     <message>
         <source>Places what is on the clipboard as a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Colloca come blocco ciò che è negli Appunti</translation>
     </message>
     <message>
         <source>Places what is on the clipboard where it was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Colloca ciò che è negli Appunti dove è stato copiato</translation>
     </message>
     <message>
         <source>Plots a layout to a file of PDF, PNG or SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa un layout su un file PDF, PNG o SVG</translation>
     </message>
     <message>
         <source>Plots a layout to a file; in the window as a dialog with a preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa un layout su file; nella finestra con un dialogo e anteprima</translation>
     </message>
     <message>
         <source>Puts objects on the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mette oggetti sul layer corrente</translation>
     </message>
     <message>
         <source>Puts objects on the layer of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Mette oggetti sul layer di un altro</translation>
     </message>
     <message>
         <source>Puts what is on layers on another one and deletes them</source>
-        <translation type="unfinished"></translation>
+        <translation>Mette su un altro layer ciò che è su dei layer e li elimina</translation>
     </message>
     <message>
         <source>Rounds corners with arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrotonda angoli con archi</translation>
     </message>
     <message>
         <source>Runs a command again and again until it is cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegue un comando più volte finché viene annullato</translation>
     </message>
     <message>
         <source>Runs one subcommand of the dimension mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegue un sottocomando del modo di quotatura</translation>
     </message>
     <message>
         <source>Saves the drawing under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il disegno con un nome</translation>
     </message>
     <message>
         <source>Saves the drawing under its own name</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il disegno con il suo nome</translation>
     </message>
     <message>
         <source>Saves, restores and deletes named views</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva, ripristina ed elimina viste con nome</translation>
     </message>
     <message>
         <source>Saves, restores, lists and applies dimension styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva, ripristina, elenca e applica stili di quota</translation>
     </message>
     <message>
         <source>Says how near the pointer object snap looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica quanto vicino al puntatore cerca lo snap ad oggetto</translation>
     </message>
     <message>
         <source>Says which object snaps are always on</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica quali snap ad oggetto sono sempre attivi</translation>
     </message>
     <message>
         <source>Scripts go on by themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli script proseguono da soli</translation>
     </message>
     <message>
         <source>Sets and checks the drawing&apos;s limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta e controlla i limiti del disegno</translation>
     </message>
     <message>
         <source>Sets and switches the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta e attiva la griglia</translation>
     </message>
     <message>
         <source>Sets and switches the grid that points snap to</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta e attiva la griglia di snap</translation>
     </message>
     <message>
         <source>Sets how lengths and angles are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta come vengono mostrati lunghezze e angoli</translation>
     </message>
     <message>
         <source>Sets the color of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta il colore dei nuovi oggetti</translation>
     </message>
     <message>
         <source>Sets the elevation and thickness of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta elevazione e spessore dei nuovi oggetti</translation>
     </message>
     <message>
         <source>Sets the lineweight of new objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta lo spessore di linea dei nuovi oggetti</translation>
     </message>
     <message>
         <source>Sets the point that the drawing is inserted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta il punto con cui si inserisce il disegno</translation>
     </message>
     <message>
         <source>Sets variables of single dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta variabili di singole quote</translation>
     </message>
     <message>
         <source>Sets, saves and restores the user coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta, salva e ripristina il sistema di coordinate utente</translation>
     </message>
     <message>
         <source>Shows more or less of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra di più o di meno del disegno</translation>
     </message>
     <message>
         <source>Shows the help pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le pagine della guida</translation>
     </message>
     <message>
         <source>Shows the properties panel where it is entered by hand in the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il pannello delle proprietà se digitato nella finestra</translation>
     </message>
     <message>
         <source>Shows, lists or sets a system variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra, elenca o imposta una variabile di sistema</translation>
     </message>
     <message>
         <source>Switches whether areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva o disattiva il riempimento delle aree</translation>
     </message>
     <message>
         <source>Switches whether lines go along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva o disattiva le linee lungo gli assi</translation>
     </message>
     <message>
         <source>Switches whether texts are boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva o disattiva i testi come riquadri</translation>
     </message>
     <message>
         <source>Switches whether the drawing is made anew by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva o disattiva la rigenerazione automatica del disegno</translation>
     </message>
     <message>
         <source>TRIM and EXTEND begin with edges (0) or take all (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM ed EXTEND cominciano dagli spigoli (0) o li prendono tutti (1)</translation>
     </message>
     <message>
         <source>TRIM and EXTEND take edges as if they went on</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM ed EXTEND prendono gli spigoli come se proseguissero</translation>
     </message>
     <message>
         <source>Takes a file&apos;s name; programs for other hosts do not run here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prende il nome di un file; i programmi per altri host non funzionano qui</translation>
     </message>
     <message>
         <source>Takes back steps; marks and groups them</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla passi; li contrassegna e li raggruppa</translation>
     </message>
     <message>
         <source>Takes back the last change of layer settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla l&apos;ultima modifica delle impostazioni dei layer</translation>
     </message>
     <message>
         <source>Takes back the last step</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla l&apos;ultimo passo</translation>
     </message>
     <message>
         <source>Takes blocks, polylines, texts and dimensions apart</source>
-        <translation type="unfinished"></translation>
+        <translation>Scompone blocchi, polilinee, testi e quote</translation>
     </message>
     <message>
         <source>Takes entities out of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Toglie entità dal disegno</translation>
     </message>
     <message>
         <source>Takes out of the drawing what nothing refers to</source>
-        <translation type="unfinished"></translation>
+        <translation>Toglie dal disegno ciò a cui nulla fa riferimento</translation>
     </message>
     <message>
         <source>Takes the name of a menu file; there are none here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prende il nome di un file di menu; qui non ce ne sono</translation>
     </message>
     <message>
         <source>Takes the name of a menu; there are none here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prende il nome di un menu; qui non ce ne sono</translation>
     </message>
     <message>
         <source>Takes what programs ask of it; programs for other hosts do not run here</source>
-        <translation type="unfinished"></translation>
+        <translation>Prende ciò che i programmi gli chiedono; i programmi per altri host non funzionano qui</translation>
     </message>
     <message>
         <source>Tells the coordinates of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica le coordinate di un punto</translation>
     </message>
     <message>
         <source>Tells the distance and angle between points</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica distanza e angolo fra punti</translation>
     </message>
     <message>
         <source>Tells what is in the drawing and what is current</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica che cosa c&apos;è nel disegno e che cosa è corrente</translation>
     </message>
     <message>
         <source>Tells what is known of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica ciò che si sa di entità</translation>
     </message>
     <message>
         <source>Tells when the drawing was made and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica quando il disegno è stato creato e modificato</translation>
     </message>
     <message>
         <source>Thaws all layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Scongela tutti i layer</translation>
     </message>
     <message>
         <source>The command line is always in sight</source>
-        <translation type="unfinished"></translation>
+        <translation>La riga di comando è sempre visibile</translation>
     </message>
     <message>
         <source>The drawing is always in sight</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disegno è sempre visibile</translation>
     </message>
     <message>
         <source>Turns all layers on</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva tutti i layer</translation>
     </message>
     <message>
         <source>Turns entities round a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota entità attorno a un punto</translation>
     </message>
     <message>
         <source>Turns entities round an axis in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota entità attorno a un asse nello spazio</translation>
     </message>
     <message>
         <source>Turns off the layers of picked objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattiva i layer degli oggetti scelti</translation>
     </message>
     <message>
         <source>Types the last script once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripete l&apos;ultimo script</translation>
     </message>
     <message>
         <source>Types what a script file holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Digita ciò che contiene un file di script</translation>
     </message>
     <message>
         <source>Unlocks the layer of a picked object</source>
-        <translation type="unfinished"></translation>
+        <translation>Sblocca il layer di un oggetto scelto</translation>
     </message>
     <message>
         <source>Waits for so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Attende il numero di millisecondi indicato</translation>
     </message>
     <message>
         <source>Works on model space through a viewport of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavora nello spazio modello attraverso una finestra del layout</translation>
     </message>
     <message>
         <source>Works on the sheet itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavora sul layout stesso</translation>
     </message>
     <message>
         <source>Writes a block or entities to a drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive un blocco o entità in un file di disegno</translation>
     </message>
     <message>
         <source>Writes a paragraph of several lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive un paragrafo di più righe</translation>
     </message>
     <message>
         <source>Writes one line of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive una riga di testo</translation>
     </message>
     <message>
         <source>&quot;(&quot; and &quot;!&quot; in texts are evaluated</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;(&quot; e &quot;!&quot; nei testi vengono valutati</translation>
     </message>
     <message>
         <source>a block is being edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>un blocco viene modificato sul posto</translation>
     </message>
     <message>
         <source>a double click edits</source>
-        <translation type="unfinished"></translation>
+        <translation>un doppio clic modifica</translation>
     </message>
     <message>
         <source>a drawing&apos;s sheet set is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>viene cercato il gruppo di fogli di un disegno</translation>
     </message>
     <message>
         <source>a file&apos;s tab shows its layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>la scheda di un file mostra i suoi layout</translation>
     </message>
     <message>
         <source>a hatch is shown before it is made</source>
-        <translation type="unfinished"></translation>
+        <translation>un tratteggio viene mostrato prima di essere creato</translation>
     </message>
     <message>
         <source>a line is drawn inside though the text is outside</source>
-        <translation type="unfinished"></translation>
+        <translation>una linea viene disegnata dentro anche se il testo è fuori</translation>
     </message>
     <message>
         <source>a new annotation scale is given to annotative things</source>
-        <translation type="unfinished"></translation>
+        <translation>una nuova scala di annotazione viene data agli oggetti annotativi</translation>
     </message>
     <message>
         <source>a panel for fingers</source>
-        <translation type="unfinished"></translation>
+        <translation>un pannello per le dita</translation>
     </message>
     <message>
         <source>a picture is saved in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>nel file viene salvata un&apos;immagine</translation>
     </message>
     <message>
         <source>a real for programs, kept with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>un reale per i programmi, conservato con il disegno</translation>
     </message>
     <message>
         <source>a second unit is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>viene mostrata una seconda unità</translation>
     </message>
     <message>
         <source>a sheet that the printer lacks is told</source>
-        <translation type="unfinished"></translation>
+        <translation>viene segnalato un foglio che la stampante non ha</translation>
     </message>
     <message>
         <source>a text for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>un testo per i programmi</translation>
     </message>
     <message>
         <source>addresses that programs may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzi da cui possono venire programmi</translation>
     </message>
     <message>
         <source>after how long names are completed, in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>dopo quanto tempo i nomi vengono completati, in secondi</translation>
     </message>
     <message>
         <source>after how many milliseconds names are offered</source>
-        <translation type="unfinished"></translation>
+        <translation>dopo quanti millisecondi vengono proposti nomi</translation>
     </message>
     <message>
         <source>all grips of clouds are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrati tutti i grip delle nuvole</translation>
     </message>
     <message>
         <source>an empty place picked begins a window</source>
-        <translation type="unfinished"></translation>
+        <translation>un clic in un punto vuoto comincia una finestra</translation>
     </message>
     <message>
         <source>an expression in the status line</source>
-        <translation type="unfinished"></translation>
+        <translation>un&apos;espressione nella riga di stato</translation>
     </message>
     <message>
         <source>an integer for programs, kept with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>un intero per i programmi, conservato con il disegno</translation>
     </message>
     <message>
         <source>an orthographic view brings its coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>una vista ortogonale porta il suo sistema di coordinate</translation>
     </message>
     <message>
         <source>and a foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>e un primo piano</translation>
     </message>
     <message>
         <source>and opened</source>
-        <translation type="unfinished"></translation>
+        <translation>e aperti</translation>
     </message>
     <message>
         <source>angles count counterclockwise (0) or clockwise (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>gli angoli contano in senso antiorario (0) o orario (1)</translation>
     </message>
     <message>
         <source>annotative things are saved for older programs</source>
-        <translation type="unfinished"></translation>
+        <translation>gli oggetti annotativi vengono salvati per programmi più vecchi</translation>
     </message>
     <message>
         <source>annotative things show at every scale</source>
-        <translation type="unfinished"></translation>
+        <translation>gli oggetti annotativi vengono mostrati a ogni scala</translation>
     </message>
     <message>
         <source>arcs are smooth</source>
-        <translation type="unfinished"></translation>
+        <translation>gli archi sono lisci</translation>
     </message>
     <message>
         <source>areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>le aree vengono riempite</translation>
     </message>
     <message>
         <source>areas that are hatched at once become a hatch each</source>
-        <translation type="unfinished"></translation>
+        <translation>le aree tratteggiate insieme danno un tratteggio ciascuna</translation>
     </message>
     <message>
         <source>arrays stay one thing</source>
-        <translation type="unfinished"></translation>
+        <translation>le serie restano un unico oggetto</translation>
     </message>
     <message>
         <source>arrows outside are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>le frecce esterne vengono omesse</translation>
     </message>
     <message>
         <source>attribute definitions may have several lines</source>
-        <translation type="unfinished"></translation>
+        <translation>le definizioni di attributi possono avere più righe</translation>
     </message>
     <message>
         <source>attributes: none are shown (0), as they say (1), all (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>attributi: non mostrati (0), come indicano (1), tutti (2)</translation>
     </message>
     <message>
         <source>blocks cannot be edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>i blocchi non possono essere modificati sul posto</translation>
     </message>
     <message>
         <source>boundaries of hatches are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>i contorni dei tratteggi vengono conservati</translation>
     </message>
     <message>
         <source>boxes of the screen menu</source>
-        <translation type="unfinished"></translation>
+        <translation>caselle del menu di schermo</translation>
     </message>
     <message>
         <source>breaches of standards are told</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono segnalate violazioni degli standard</translation>
     </message>
     <message>
         <source>cameras are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le telecamere vengono mostrate</translation>
     </message>
     <message>
         <source>centre marks have lines</source>
-        <translation type="unfinished"></translation>
+        <translation>i contrassegni del centro hanno linee</translation>
     </message>
     <message>
         <source>chains take the style of what they go on from (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>le catene prendono lo stile di ciò che proseguono (1)</translation>
     </message>
     <message>
         <source>chamfers by two distances (0) or by length and angle (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>cimature con due distanze (0) o con lunghezza e angolo (1)</translation>
     </message>
     <message>
         <source>changed external drawings are told</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono segnalati i disegni esterni modificati</translation>
     </message>
     <message>
         <source>changes of external drawings&apos; blocks are told</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono segnalate le modifiche ai blocchi dei disegni esterni</translation>
     </message>
     <message>
         <source>changes of variables are told</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono segnalate le modifiche di variabili</translation>
     </message>
     <message>
         <source>closed splines have no corner</source>
-        <translation type="unfinished"></translation>
+        <translation>le spline chiuse non hanno angolo</translation>
     </message>
     <message>
         <source>colours of external drawings&apos; entities go by layer</source>
-        <translation type="unfinished"></translation>
+        <translation>i colori delle entità dei disegni esterni vanno per layer</translation>
     </message>
     <message>
         <source>columns of new paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>colonne dei nuovi paragrafi</translation>
     </message>
     <message>
         <source>commands ask for files with a dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>i comandi chiedono i file con un dialogo</translation>
     </message>
     <message>
         <source>commands may show dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>i comandi possono mostrare dialoghi</translation>
     </message>
     <message>
         <source>commands of programs are echoed</source>
-        <translation type="unfinished"></translation>
+        <translation>i comandi dei programmi vengono visualizzati</translation>
     </message>
     <message>
         <source>crashes are reported</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono segnalati gli arresti anomali</translation>
     </message>
     <message>
         <source>cuts curves off at others</source>
-        <translation type="unfinished"></translation>
+        <translation>taglia curve su altre</translation>
     </message>
     <message>
         <source>dark (0) or light (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>scuro (0) o chiaro (1)</translation>
     </message>
     <message>
         <source>date and time as a number: YYYYMMDD.HHMMSS</source>
-        <translation type="unfinished"></translation>
+        <translation>data e ora come numero: AAAAMMGG.HHMMSS</translation>
     </message>
     <message>
         <source>date and time as days of the Julian calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>data e ora come giorni del calendario giuliano</translation>
     </message>
     <message>
         <source>decimals of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali degli angoli</translation>
     </message>
     <message>
         <source>decimals of angles; -1 as DIMDEC</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali degli angoli; -1 come DIMDEC</translation>
     </message>
     <message>
         <source>decimals of dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali delle quote</translation>
     </message>
     <message>
         <source>decimals of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali delle lunghezze</translation>
     </message>
     <message>
         <source>decimals of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali della seconda unità</translation>
     </message>
     <message>
         <source>decimals of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali delle tolleranze</translation>
     </message>
     <message>
         <source>decimals of tolerances in the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>decimali delle tolleranze nella seconda unità</translation>
     </message>
     <message>
         <source>density of surfaces one way</source>
-        <translation type="unfinished"></translation>
+        <translation>densità delle superfici in un senso</translation>
     </message>
     <message>
         <source>density of surfaces the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>densità delle superfici nell&apos;altro senso</translation>
     </message>
     <message>
         <source>depth of the spatial index</source>
-        <translation type="unfinished"></translation>
+        <translation>profondità dell&apos;indice spaziale</translation>
     </message>
     <message>
         <source>dialogs begin in the folder used last</source>
-        <translation type="unfinished"></translation>
+        <translation>i dialoghi cominciano nell&apos;ultima cartella usata</translation>
     </message>
     <message>
         <source>dimensions are exploded (0), one thing (1), or follow what they measure (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>le quote sono esplose (0), un unico oggetto (1) o seguono ciò che misurano (2)</translation>
     </message>
     <message>
         <source>dimensions are one thing (1) or exploded (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>le quote sono un unico oggetto (1) o esplose (0)</translation>
     </message>
     <message>
         <source>dimensions change while they are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>le quote cambiano mentre vengono trascinate</translation>
     </message>
     <message>
         <source>drawings are checked when opened</source>
-        <translation type="unfinished"></translation>
+        <translation>i disegni vengono controllati all&apos;apertura</translation>
     </message>
     <message>
         <source>drawings have tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>i disegni hanno schede</translation>
     </message>
     <message>
         <source>drawings may be opened in part</source>
-        <translation type="unfinished"></translation>
+        <translation>i disegni possono essere aperti in parte</translation>
     </message>
     <message>
         <source>entities are shown while they are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>le entità vengono mostrate mentre sono trascinate</translation>
     </message>
     <message>
         <source>entities have handles: always 1</source>
-        <translation type="unfinished"></translation>
+        <translation>le entità hanno handle: sempre 1</translation>
     </message>
     <message>
         <source>entities may be chosen before a command</source>
-        <translation type="unfinished"></translation>
+        <translation>le entità possono essere scelte prima di un comando</translation>
     </message>
     <message>
         <source>entities that are chosen show grips</source>
-        <translation type="unfinished"></translation>
+        <translation>le entità scelte mostrano i grip</translation>
     </message>
     <message>
         <source>erases what is there twice and makes one of lines and arcs that overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>cancella i doppioni e fa di linee e archi sovrapposti uno solo</translation>
     </message>
     <message>
         <source>everything but the drawing is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>tutto tranne il disegno viene nascosto</translation>
     </message>
     <message>
         <source>extension lines have a fixed length</source>
-        <translation type="unfinished"></translation>
+        <translation>le linee di estensione hanno lunghezza fissa</translation>
     </message>
     <message>
         <source>external drawings are read in part</source>
-        <translation type="unfinished"></translation>
+        <translation>i disegni esterni vengono letti in parte</translation>
     </message>
     <message>
         <source>fields have a ground</source>
-        <translation type="unfinished"></translation>
+        <translation>i campi hanno uno sfondo</translation>
     </message>
     <message>
         <source>folders that drawings may name files of</source>
-        <translation type="unfinished"></translation>
+        <translation>cartelle i cui file possono essere nominati dai disegni</translation>
     </message>
     <message>
         <source>folders that programs may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>cartelle da cui possono venire programmi</translation>
     </message>
     <message>
         <source>frames of clipped blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>cornici di blocchi ritagliati</translation>
     </message>
     <message>
         <source>frames of masks</source>
-        <translation type="unfinished"></translation>
+        <translation>cornici di maschere</translation>
     </message>
     <message>
         <source>frames of objects of other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>cornici di oggetti di altri programmi</translation>
     </message>
     <message>
         <source>frames of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>cornici di immagini</translation>
     </message>
     <message>
         <source>frames of splines and hidden edges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrati cornici di spline e spigoli nascosti</translation>
     </message>
     <message>
         <source>frames of underlays</source>
-        <translation type="unfinished"></translation>
+        <translation>cornici di sottofondi</translation>
     </message>
     <message>
         <source>functions and variables are the drawing&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>funzioni e variabili sono proprie del disegno</translation>
     </message>
     <message>
         <source>further angles of polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>altri angoli del puntamento polare</translation>
     </message>
     <message>
         <source>gaps of boundaries that are taken as closed</source>
-        <translation type="unfinished"></translation>
+        <translation>aperture dei contorni considerate chiuse</translation>
     </message>
     <message>
         <source>gaps where things cross others that are in front</source>
-        <translation type="unfinished"></translation>
+        <translation>interruzioni dove oggetti ne incrociano altri che stanno davanti</translation>
     </message>
     <message>
         <source>gradients have one colour (1) or two (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>le sfumature hanno un colore (1) o due (0)</translation>
     </message>
     <message>
         <source>gradients lie in the middle (0) or beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>le sfumature sono centrate (0) o a lato</translation>
     </message>
     <message>
         <source>grips have tips</source>
-        <translation type="unfinished"></translation>
+        <translation>i grip hanno suggerimenti</translation>
     </message>
     <message>
         <source>grips within blocks are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrati i grip entro i blocchi</translation>
     </message>
     <message>
         <source>groups and hatches with their boundary are chosen as one</source>
-        <translation type="unfinished"></translation>
+        <translation>gruppi e tratteggi con il contorno vengono scelti insieme</translation>
     </message>
     <message>
         <source>half the size of the box of object snap, in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>metà della dimensione della casella di snap ad oggetto, in pixel</translation>
     </message>
     <message>
         <source>half the size of the box that picks, in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>metà della dimensione della casella di selezione, in pixel</translation>
     </message>
     <message>
         <source>hatches follow their boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>i tratteggi seguono il contorno</translation>
     </message>
     <message>
         <source>hatches may have linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>i tratteggi possono avere tipi di linea</translation>
     </message>
     <message>
         <source>hatches of the user&apos;s lines cross</source>
-        <translation type="unfinished"></translation>
+        <translation>i tratteggi di linee dell&apos;utente si incrociano</translation>
     </message>
     <message>
         <source>how angles are shown: degrees, minutes, gradians, radians, surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono mostrati gli angoli: gradi, primi, centesimali, radianti, topografiche</translation>
     </message>
     <message>
         <source>how areas are picked</source>
-        <translation type="unfinished"></translation>
+        <translation>come si scelgono le aree</translation>
     </message>
     <message>
         <source>how closely splines follow sketches</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto fedelmente le spline seguono gli schizzi</translation>
     </message>
     <message>
         <source>how clouds are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono disegnate le nuvole</translation>
     </message>
     <message>
         <source>how edges meet</source>
-        <translation type="unfinished"></translation>
+        <translation>come si incontrano gli spigoli</translation>
     </message>
     <message>
         <source>how exactly hidden lines are found</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto esattamente vengono trovate le linee nascoste</translation>
     </message>
     <message>
         <source>how external drawings&apos; names are bound: with $ (0) or as if inserted (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono uniti i nomi dei disegni esterni: con $ (0) o come inseriti (1)</translation>
     </message>
     <message>
         <source>how faces and edges are shaded</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono ombreggiati facce e spigoli</translation>
     </message>
     <message>
         <source>how far TRIM and EXTEND of hatches go</source>
-        <translation type="unfinished"></translation>
+        <translation>fin dove vanno TRIM ed EXTEND dei tratteggi</translation>
     </message>
     <message>
         <source>how far apart ends may be that JOIN puts together</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto possono distare gli estremi che JOIN unisce</translation>
     </message>
     <message>
         <source>how far centre lines go beyond</source>
-        <translation type="unfinished"></translation>
+        <translation>di quanto sporgono le linee d&apos;asse</translation>
     </message>
     <message>
         <source>how far extension lines go beyond the line</source>
-        <translation type="unfinished"></translation>
+        <translation>di quanto le linee di estensione superano la linea</translation>
     </message>
     <message>
         <source>how far extension lines stay from what is measured</source>
-        <translation type="unfinished"></translation>
+        <translation>a che distanza dal misurato stanno le linee di estensione</translation>
     </message>
     <message>
         <source>how far new entities rise above their plane</source>
-        <translation type="unfinished"></translation>
+        <translation>di quanto le nuove entità si alzano sopra il loro piano</translation>
     </message>
     <message>
         <source>how far the line goes beyond extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>di quanto la linea supera le linee di estensione</translation>
     </message>
     <message>
         <source>how far the text stands from the line</source>
-        <translation type="unfinished"></translation>
+        <translation>a che distanza dalla linea sta il testo</translation>
     </message>
     <message>
         <source>how far tracking lines go</source>
-        <translation type="unfinished"></translation>
+        <translation>fin dove vanno le linee di puntamento</translation>
     </message>
     <message>
         <source>how fit points share the knots</source>
-        <translation type="unfinished"></translation>
+        <translation>come i punti di adattamento ripartiscono i nodi</translation>
     </message>
     <message>
         <source>how fractions are written</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono scritte le frazioni</translation>
     </message>
     <message>
         <source>how grips offer more than one thing</source>
-        <translation type="unfinished"></translation>
+        <translation>come i grip offrono più di una possibilità</translation>
     </message>
     <message>
         <source>how large points look</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto grandi appaiono i punti</translation>
     </message>
     <message>
         <source>how lengths are shown: scientific, decimal, engineering, architectural, fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono mostrate le lunghezze: scientifico, decimale, ingegneria, architettonico, frazionario</translation>
     </message>
     <message>
         <source>how lofted surfaces are shaped, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>come sono formate le superfici di loft, in bit</translation>
     </message>
     <message>
         <source>how lofted surfaces leave their sections</source>
-        <translation type="unfinished"></translation>
+        <translation>come le superfici di loft lasciano le loro sezioni</translation>
     </message>
     <message>
         <source>how long</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto lungo</translation>
     </message>
     <message>
         <source>how long smooth changes of the view take, in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto durano i cambi graduali di vista, in millisecondi</translation>
     </message>
     <message>
         <source>how long the drawing was worked on</source>
-        <translation type="unfinished"></translation>
+        <translation>per quanto tempo si è lavorato al disegno</translation>
     </message>
     <message>
         <source>how long the right button is held for a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto si tiene premuto il tasto destro per un menu</translation>
     </message>
     <message>
         <source>how many corners a face may have</source>
-        <translation type="unfinished"></translation>
+        <translation>quanti vertici può avere una faccia</translation>
     </message>
     <message>
         <source>how many dimensions are shown while a grip is pulled</source>
-        <translation type="unfinished"></translation>
+        <translation>quante quote vengono mostrate mentre si tira un grip</translation>
     </message>
     <message>
         <source>how many entities the panel of properties takes</source>
-        <translation type="unfinished"></translation>
+        <translation>quante entità prende il pannello delle proprietà</translation>
     </message>
     <message>
         <source>how many lines a hatch may have</source>
-        <translation type="unfinished"></translation>
+        <translation>quante linee può avere un tratteggio</translation>
     </message>
     <message>
         <source>how many lines of input are remembered</source>
-        <translation type="unfinished"></translation>
+        <translation>quante righe di input vengono ricordate</translation>
     </message>
     <message>
         <source>how many lines of the grid lie between two stronger ones</source>
-        <translation type="unfinished"></translation>
+        <translation>quante linee della griglia stanno fra due più marcate</translation>
     </message>
     <message>
         <source>how many names are listed in order</source>
-        <translation type="unfinished"></translation>
+        <translation>quanti nomi vengono elencati in ordine</translation>
     </message>
     <message>
         <source>how many sides POLYGON proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>quanti lati propone POLYGON</translation>
     </message>
     <message>
         <source>how many turns HELIX proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>quanti giri propone HELIX</translation>
     </message>
     <message>
         <source>how many viewports may show something</source>
-        <translation type="unfinished"></translation>
+        <translation>quante finestre possono mostrare qualcosa</translation>
     </message>
     <message>
         <source>how much</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto</translation>
     </message>
     <message>
         <source>how much external drawings fade</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto sfumano i disegni esterni</translation>
     </message>
     <message>
         <source>how much light is scattered</source>
-        <translation type="unfinished"></translation>
+        <translation>quanta luce viene diffusa</translation>
     </message>
     <message>
         <source>how much locked layers fade</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto sfumano i layer bloccati</translation>
     </message>
     <message>
         <source>how much of a file may be waste before it is saved whole</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto di un file può essere sprecato prima che sia salvato intero</translation>
     </message>
     <message>
         <source>how much the wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto ingrandisce la rotella</translation>
     </message>
     <message>
         <source>how much what is not edited fades</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto sfuma ciò che non viene modificato</translation>
     </message>
     <message>
         <source>how names are completed, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono completati i nomi, in bit</translation>
     </message>
     <message>
         <source>how often dragging is drawn again with regeneration</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto spesso il trascinamento viene ridisegnato con rigenerazione</translation>
     </message>
     <message>
         <source>how often dragging is drawn again without</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto spesso il trascinamento viene ridisegnato senza</translation>
     </message>
     <message>
         <source>how paragraphs are shown while edited</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono mostrati i paragrafi durante la modifica</translation>
     </message>
     <message>
         <source>how places on earth are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono mostrati i luoghi sulla terra</translation>
     </message>
     <message>
         <source>how points look</source>
-        <translation type="unfinished"></translation>
+        <translation>come appaiono i punti</translation>
     </message>
     <message>
         <source>how polar and object tracking work, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>come funzionano il puntamento polare e ad oggetto, in bit</translation>
     </message>
     <message>
         <source>how programs are tested, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono provati i programmi, in bit</translation>
     </message>
     <message>
         <source>how sheets are turned</source>
-        <translation type="unfinished"></translation>
+        <translation>come sono girati i fogli</translation>
     </message>
     <message>
         <source>how smooth letters are plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto lisce vengono stampate le lettere</translation>
     </message>
     <message>
         <source>how smooth round things are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto lisce vengono mostrate le forme rotonde</translation>
     </message>
     <message>
         <source>how stacked texts are aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>come sono allineati i testi in pila</translation>
     </message>
     <message>
         <source>how surfaces are smoothed</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono smussate le superfici</translation>
     </message>
     <message>
         <source>how text and arrows share the room, in the old form</source>
-        <translation type="unfinished"></translation>
+        <translation>come testo e frecce si dividono lo spazio, nella vecchia forma</translation>
     </message>
     <message>
         <source>how texts are aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>come sono allineati i testi</translation>
     </message>
     <message>
         <source>how texts are edited</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono modificati i testi</translation>
     </message>
     <message>
         <source>how the dialog of hatches is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>come viene mostrato il dialogo dei tratteggi</translation>
     </message>
     <message>
         <source>how the grid is shown, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>come viene mostrata la griglia, in bit</translation>
     </message>
     <message>
         <source>how the status line shows the pointer&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>come la riga di stato mostra la posizione del puntatore</translation>
     </message>
     <message>
         <source>how undo works, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>come funziona l&apos;annullamento, in bit</translation>
     </message>
     <message>
         <source>how unknown entities are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>come vengono mostrate entità sconosciute</translation>
     </message>
     <message>
         <source>how well objects of other programs are plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>con che qualità vengono stampati oggetti di altri programmi</translation>
     </message>
     <message>
         <source>how well pictures are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>con che qualità vengono mostrate le immagini</translation>
     </message>
     <message>
         <source>how what is under the pointer is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>come viene mostrato ciò che è sotto il puntatore</translation>
     </message>
     <message>
         <source>how wide lines end</source>
-        <translation type="unfinished"></translation>
+        <translation>come finiscono le linee larghe</translation>
     </message>
     <message>
         <source>how wide lines meet</source>
-        <translation type="unfinished"></translation>
+        <translation>come si incontrano le linee larghe</translation>
     </message>
     <message>
         <source>indices of layers and places are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono conservati indici di layer e posizioni</translation>
     </message>
     <message>
         <source>islands are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono cercate le isole</translation>
     </message>
     <message>
         <source>its colour</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo colore</translation>
     </message>
     <message>
         <source>kept as it is set, for programs: nothing here depends on it</source>
-        <translation type="unfinished"></translation>
+        <translation>conservato com&apos;è impostato, per i programmi: qui nulla ne dipende</translation>
     </message>
     <message>
         <source>kept for programs that ask for it</source>
-        <translation type="unfinished"></translation>
+        <translation>conservato per i programmi che lo chiedono</translation>
     </message>
     <message>
         <source>keys that override a mode for a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>tasti che sostituiscono un modo per un momento</translation>
     </message>
     <message>
         <source>layers of external drawings keep what is set here</source>
-        <translation type="unfinished"></translation>
+        <translation>i layer dei disegni esterni conservano ciò che è impostato qui</translation>
     </message>
     <message>
         <source>layers without entities are shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>i layer senza entità vengono mostrati come tali</translation>
     </message>
     <message>
         <source>layouts have tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>i layout hanno schede</translation>
     </message>
     <message>
         <source>lengthens curves up to others</source>
-        <translation type="unfinished"></translation>
+        <translation>estende curve fino ad altre</translation>
     </message>
     <message>
         <source>lengths are shown as they are typed</source>
-        <translation type="unfinished"></translation>
+        <translation>le lunghezze vengono mostrate come si digitano</translation>
     </message>
     <message>
         <source>letters are filled when plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>le lettere vengono riempite in stampa</translation>
     </message>
     <message>
         <source>limits are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>i limiti vengono mostrati</translation>
     </message>
     <message>
         <source>line spacing at least (1) or exactly (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>interlinea minima (1) o esatta (2)</translation>
     </message>
     <message>
         <source>lines are drawn smoothly</source>
-        <translation type="unfinished"></translation>
+        <translation>le linee vengono disegnate smussate</translation>
     </message>
     <message>
         <source>lines between two corners of a spline-fitted polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>linee fra due vertici di una polilinea adattata a spline</translation>
     </message>
     <message>
         <source>lines of history that the command line shows</source>
-        <translation type="unfinished"></translation>
+        <translation>righe di cronologia mostrate dalla riga di comando</translation>
     </message>
     <message>
         <source>lines of surfaces one way</source>
-        <translation type="unfinished"></translation>
+        <translation>linee delle superfici in un senso</translation>
     </message>
     <message>
         <source>lines of surfaces the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>linee delle superfici nell&apos;altro senso</translation>
     </message>
     <message>
         <source>lines on round solids</source>
-        <translation type="unfinished"></translation>
+        <translation>linee sui solidi rotondi</translation>
     </message>
     <message>
         <source>lines where solids meet are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrate le linee dove i solidi si incontrano</translation>
     </message>
     <message>
         <source>linetypes in model space take the annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>i tipi di linea nello spazio modello prendono la scala di annotazione</translation>
     </message>
     <message>
         <source>linetypes in viewports take the scale of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>i tipi di linea nelle finestre prendono la scala del layout</translation>
     </message>
     <message>
         <source>linetypes run through the corners of polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>i tipi di linea attraversano i vertici delle polilinee</translation>
     </message>
     <message>
         <source>lineweights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>gli spessori di linea vengono mostrati</translation>
     </message>
     <message>
         <source>lineweights are shown in inches (0) or millimetres (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>gli spessori di linea vengono mostrati in pollici (0) o millimetri (1)</translation>
     </message>
     <message>
         <source>makes one curve of several that meet or lie on one line or circle</source>
-        <translation type="unfinished"></translation>
+        <translation>fa una curva di più curve che si toccano o giacciono su una linea o un cerchio</translation>
     </message>
     <message>
         <source>makes regions of closed loops</source>
-        <translation type="unfinished"></translation>
+        <translation>crea regioni da anelli chiusi</translation>
     </message>
     <message>
         <source>marks and tips of object snap, polar and object tracking, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>contrassegni e suggerimenti di snap ad oggetto e puntamento polare e ad oggetto, in bit</translation>
     </message>
     <message>
         <source>marks of centres: their size, negative with lines, 0 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>contrassegni del centro: dimensione, negativa con linee, 0 per nessuno</translation>
     </message>
     <message>
         <source>marks where points were picked</source>
-        <translation type="unfinished"></translation>
+        <translation>contrassegni dove sono stati scelti punti</translation>
     </message>
     <message>
         <source>measures areas and perimeters of corners and curves</source>
-        <translation type="unfinished"></translation>
+        <translation>misura aree e perimetri di vertici e curve</translation>
     </message>
     <message>
         <source>measures curves and makes them longer or shorter</source>
-        <translation type="unfinished"></translation>
+        <translation>misura curve e le allunga o accorcia</translation>
     </message>
     <message>
         <source>menus follow the command</source>
-        <translation type="unfinished"></translation>
+        <translation>i menu seguono il comando</translation>
     </message>
     <message>
         <source>menus of the right button, as bits: at rest, for what is chosen, at prompts, with options, held</source>
-        <translation type="unfinished"></translation>
+        <translation>menu del tasto destro, in bit: a riposo, per ciò che è scelto, alle richieste, con opzioni, tenuto premuto</translation>
     </message>
     <message>
         <source>milliseconds since the machine was started</source>
-        <translation type="unfinished"></translation>
+        <translation>millisecondi dall&apos;avvio della macchina</translation>
     </message>
     <message>
         <source>minutes between automatic saves</source>
-        <translation type="unfinished"></translation>
+        <translation>minuti fra i salvataggi automatici</translation>
     </message>
     <message>
         <source>model space is shown (1) or a layout (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>viene mostrato lo spazio modello (1) o un layout (0)</translation>
     </message>
     <message>
         <source>names may be long and have blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>i nomi possono essere lunghi e avere spazi</translation>
     </message>
     <message>
         <source>names of applications come with external drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>i nomi di applicazioni vengono con i disegni esterni</translation>
     </message>
     <message>
         <source>new drawings are imperial (0) or metric (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi disegni sono imperiali (0) o metrici (1)</translation>
     </message>
     <message>
         <source>new external drawings are attached (0) or overlaid (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi disegni esterni vengono attaccati (0) o sovrapposti (1)</translation>
     </message>
     <message>
         <source>new external drawings have no path (0), a relative (1) or a full one (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi disegni esterni non hanno percorso (0), uno relativo (1) o uno completo (2)</translation>
     </message>
     <message>
         <source>new hatches are annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi tratteggi sono annotativi</translation>
     </message>
     <message>
         <source>new layers are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono cercati nuovi layer</translation>
     </message>
     <message>
         <source>new layouts get a viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi layout ricevono una finestra</translation>
     </message>
     <message>
         <source>new texts are in capitals</source>
-        <translation type="unfinished"></translation>
+        <translation>i nuovi testi sono in maiuscole</translation>
     </message>
     <message>
         <source>notes are shown in the status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>le note vengono mostrate nella barra di stato</translation>
     </message>
     <message>
         <source>object snap finds hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>lo snap ad oggetto trova i tratteggi</translation>
     </message>
     <message>
         <source>object snap finds underlays</source>
-        <translation type="unfinished"></translation>
+        <translation>lo snap ad oggetto trova i sottofondi</translation>
     </message>
     <message>
         <source>object snap takes the height of the user&apos;s plane</source>
-        <translation type="unfinished"></translation>
+        <translation>lo snap ad oggetto prende l&apos;altezza del piano dell&apos;utente</translation>
     </message>
     <message>
         <source>object snaps in space, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>snap ad oggetto nello spazio, in bit</translation>
     </message>
     <message>
         <source>objects of other programs are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>gli oggetti di altri programmi vengono nascosti</translation>
     </message>
     <message>
         <source>one drawing at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno alla volta</translation>
     </message>
     <message>
         <source>one text is edited (1) or several (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>viene modificato un testo (1) o più (0)</translation>
     </message>
     <message>
         <source>patterns are mirrored with hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>i modelli vengono specchiati con i tratteggi</translation>
     </message>
     <message>
         <source>pictures are shown whole when chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>le immagini vengono mostrate intere quando scelte</translation>
     </message>
     <message>
         <source>pictures have a ground</source>
-        <translation type="unfinished"></translation>
+        <translation>le immagini hanno uno sfondo</translation>
     </message>
     <message>
         <source>pictures of unknown entities are saved</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono salvate immagini di entità sconosciute</translation>
     </message>
     <message>
         <source>plot styles go by colour (1) or name (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>gli stili di stampa vanno per colore (1) o per nome (0)</translation>
     </message>
     <message>
         <source>points must be within the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>i punti devono stare entro i limiti</translation>
     </message>
     <message>
         <source>points typed beside the pointer are polar (0) or cartesian (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>i punti digitati accanto al puntatore sono polari (0) o cartesiani (1)</translation>
     </message>
     <message>
         <source>points typed beside the pointer are relative (0) or absolute (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>i punti digitati accanto al puntatore sono relativi (0) o assoluti (1)</translation>
     </message>
     <message>
         <source>polylines are made light: never (0), new ones (1), old ones too (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>le polilinee vengono alleggerite: mai (0), le nuove (1), anche le vecchie (2)</translation>
     </message>
     <message>
         <source>programs from elsewhere: loaded (0), asked for (1), refused (2); trusted folders decide here</source>
-        <translation type="unfinished"></translation>
+        <translation>programmi da altrove: caricati (0), chiesti (1), rifiutati (2); qui decidono le cartelle attendibili</translation>
     </message>
     <message>
         <source>prompts are not printed</source>
-        <translation type="unfinished"></translation>
+        <translation>le richieste non vengono stampate</translation>
     </message>
     <message>
         <source>prompts are shown beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>le richieste vengono mostrate accanto al puntatore</translation>
     </message>
     <message>
         <source>prompts beside the pointer, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>richieste accanto al puntatore, in bit</translation>
     </message>
     <message>
         <source>puts points or blocks at steps along a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>mette punti o blocchi a intervalli lungo una curva</translation>
     </message>
     <message>
         <source>puts points or blocks that cut a curve into equal parts</source>
-        <translation type="unfinished"></translation>
+        <translation>mette punti o blocchi che dividono una curva in parti uguali</translation>
     </message>
     <message>
         <source>quick properties are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le proprietà rapide vengono mostrate</translation>
     </message>
     <message>
         <source>regeneration on several processors</source>
-        <translation type="unfinished"></translation>
+        <translation>rigenerazione su più processori</translation>
     </message>
     <message>
         <source>reversing a polyline swaps its widths</source>
-        <translation type="unfinished"></translation>
+        <translation>invertire una polilinea scambia le sue larghezze</translation>
     </message>
     <message>
         <source>saving keeps a backup</source>
-        <translation type="unfinished"></translation>
+        <translation>il salvataggio conserva una copia di backup</translation>
     </message>
     <message>
         <source>scripts plot without questions</source>
-        <translation type="unfinished"></translation>
+        <translation>gli script stampano senza domande</translation>
     </message>
     <message>
         <source>silhouettes of solids are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono disegnati i profili dei solidi</translation>
     </message>
     <message>
         <source>sketches become lines (0), polylines (1), splines (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>gli schizzi diventano linee (0), polilinee (1), spline (2)</translation>
     </message>
     <message>
         <source>snap goes by the grid (0) or by polar tracking (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>lo snap va per griglia (0) o per puntamento polare (1)</translation>
     </message>
     <message>
         <source>snap is square (0) or isometric (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>lo snap è rettangolare (0) o isometrico (1)</translation>
     </message>
     <message>
         <source>solids are checked</source>
-        <translation type="unfinished"></translation>
+        <translation>i solidi vengono controllati</translation>
     </message>
     <message>
         <source>solids keep their history</source>
-        <translation type="unfinished"></translation>
+        <translation>i solidi conservano la loro cronologia</translation>
     </message>
     <message>
         <source>spline-fitted polylines are quadratic (5) or cubic (6)</source>
-        <translation type="unfinished"></translation>
+        <translation>le polilinee adattate a spline sono quadratiche (5) o cubiche (6)</translation>
     </message>
     <message>
         <source>splines become polylines of lines (0) or arcs (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>le spline diventano polilinee di linee (0) o archi (1)</translation>
     </message>
     <message>
         <source>splines go by fit points (0) or control points (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>le spline vanno per punti di adattamento (0) o di controllo (1)</translation>
     </message>
     <message>
         <source>start-up programs are loaded into every drawing (1) or the first (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>i programmi di avvio vengono caricati in ogni disegno (1) o nel primo (0)</translation>
     </message>
     <message>
         <source>steps of a walk in a second</source>
-        <translation type="unfinished"></translation>
+        <translation>passi di una camminata al secondo</translation>
     </message>
     <message>
         <source>such settings are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>tali impostazioni vengono mostrate</translation>
     </message>
     <message>
         <source>symbols are shown in the status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrati simboli nella barra di stato</translation>
     </message>
     <message>
         <source>takes a part out of a curve, or cuts it in two</source>
-        <translation type="unfinished"></translation>
+        <translation>toglie una parte di una curva, o la taglia in due</translation>
     </message>
     <message>
         <source>texts are kept inside</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi restano dentro</translation>
     </message>
     <message>
         <source>texts are mirrored with the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi vengono specchiati con il disegno</translation>
     </message>
     <message>
         <source>texts are read the other way</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi si leggono nell&apos;altro senso</translation>
     </message>
     <message>
         <source>texts are shown as boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi vengono mostrati come riquadri</translation>
     </message>
     <message>
         <source>texts hide and are hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi nascondono e vengono nascosti</translation>
     </message>
     <message>
         <source>texts inside are level</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi interni sono orizzontali</translation>
     </message>
     <message>
         <source>texts outside are level</source>
-        <translation type="unfinished"></translation>
+        <translation>i testi esterni sono orizzontali</translation>
     </message>
     <message>
         <source>the address of the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;indirizzo del browser</translation>
     </message>
     <message>
         <source>the angle of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo delle sfumature</translation>
     </message>
     <message>
         <source>the angle of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo dei tratteggi</translation>
     </message>
     <message>
         <source>the angle of the jog of large radii</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo dello spezzamento di raggi grandi</translation>
     </message>
     <message>
         <source>the angle that ROTATE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo che ROTATE propone</translation>
     </message>
     <message>
         <source>the angle that UCS proposes for a turn</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo che UCS propone per una rotazione</translation>
     </message>
     <message>
         <source>the arcs of clouds differ</source>
-        <translation type="unfinished"></translation>
+        <translation>gli archi delle nuvole sono diversi</translation>
     </message>
     <message>
         <source>the area that was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;area misurata per ultima</translation>
     </message>
     <message>
         <source>the arrow at both ends</source>
-        <translation type="unfinished"></translation>
+        <translation>la freccia a entrambi gli estremi</translation>
     </message>
     <message>
         <source>the arrow at the first end</source>
-        <translation type="unfinished"></translation>
+        <translation>la freccia al primo estremo</translation>
     </message>
     <message>
         <source>the arrow at the second end</source>
-        <translation type="unfinished"></translation>
+        <translation>la freccia al secondo estremo</translation>
     </message>
     <message>
         <source>the arrow of leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>la freccia delle direttrici</translation>
     </message>
     <message>
         <source>the bar of navigation is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra di navigazione viene mostrata</translation>
     </message>
     <message>
         <source>the base point of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il punto base del disegno</translation>
     </message>
     <message>
         <source>the blank key ends a line of a list</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra spaziatrice termina una riga di un elenco</translation>
     </message>
     <message>
         <source>the block that INSERT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>il blocco che INSERT propone</translation>
     </message>
     <message>
         <source>the block that is edited in place</source>
-        <translation type="unfinished"></translation>
+        <translation>il blocco modificato sul posto</translation>
     </message>
     <message>
         <source>the blocks inserted last</source>
-        <translation type="unfinished"></translation>
+        <translation>gli ultimi blocchi inseriti</translation>
     </message>
     <message>
         <source>the box of object snap is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la casella di snap ad oggetto viene mostrata</translation>
     </message>
     <message>
         <source>the chamfer angle</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo di cimatura</translation>
     </message>
     <message>
         <source>the chamfer length</source>
-        <translation type="unfinished"></translation>
+        <translation>la lunghezza di cimatura</translation>
     </message>
     <message>
         <source>the code page of the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la tabella codici della macchina</translation>
     </message>
     <message>
         <source>the colour of crossing windows</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle finestre di intersezione</translation>
     </message>
     <message>
         <source>the colour of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle linee di quota</translation>
     </message>
     <message>
         <source>the colour of extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle linee di estensione</translation>
     </message>
     <message>
         <source>the colour of grips</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore dei grip</translation>
     </message>
     <message>
         <source>the colour of hidden lines</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle linee nascoste</translation>
     </message>
     <message>
         <source>the colour of lines where solids meet</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle linee dove i solidi si incontrano</translation>
     </message>
     <message>
         <source>the colour of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle nuove entità</translation>
     </message>
     <message>
         <source>the colour of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore dei nuovi tratteggi; &quot;.&quot; è quello corrente</translation>
     </message>
     <message>
         <source>the colour of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore dei testi</translation>
     </message>
     <message>
         <source>the colour of the grip that is pulled</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore del grip che viene tirato</translation>
     </message>
     <message>
         <source>the colour of the grip under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore del grip sotto il puntatore</translation>
     </message>
     <message>
         <source>the colour of the grips of dynamic blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore dei grip dei blocchi dinamici</translation>
     </message>
     <message>
         <source>the colour of windows of selections</source>
-        <translation type="unfinished"></translation>
+        <translation>il colore delle finestre di selezione</translation>
     </message>
     <message>
         <source>the command line is written to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga di comando viene scritta in un file</translation>
     </message>
     <message>
         <source>the commands that are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>i comandi in corso</translation>
     </message>
     <message>
         <source>the control key goes through what lies above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>il tasto Ctrl scorre ciò che sta uno sopra l&apos;altro</translation>
     </message>
     <message>
         <source>the cube of views is shown</source>
@@ -12958,7 +12983,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Save &amp;as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva co&amp;n nome...</translation>
     </message>
     <message>
         <source>Saves the drawing</source>
@@ -13002,7 +13027,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Shows the help pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le pagine della guida</translation>
     </message>
     <message>
         <source>Shows what is in a box</source>
