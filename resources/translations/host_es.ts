@@ -8585,1344 +8585,1350 @@ La foto &quot;%1&quot;: %2.
     </message>
     <message>
         <source>the cube of views is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra el cubo de vistas</translation>
     </message>
     <message>
         <source>the cube of views is shown in flat views</source>
-        <translation type="unfinished"></translation>
+        <translation>el cubo de vistas se muestra en vistas planas</translation>
     </message>
     <message>
         <source>the current dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de cota actual</translation>
     </message>
     <message>
         <source>the current dimension style is annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de cota actual es anotativo</translation>
     </message>
     <message>
         <source>the decimal separator</source>
-        <translation type="unfinished"></translation>
+        <translation>el separador decimal</translation>
     </message>
     <message>
         <source>the default lineweight, in hundredths of a millimetre</source>
-        <translation type="unfinished"></translation>
+        <translation>el grosor de línea por defecto, en centésimas de milímetro</translation>
     </message>
     <message>
         <source>the degree of new splines</source>
-        <translation type="unfinished"></translation>
+        <translation>el grado de las splines nuevas</translation>
     </message>
     <message>
         <source>the dictionary of spelling</source>
-        <translation type="unfinished"></translation>
+        <translation>el diccionario ortográfico</translation>
     </message>
     <message>
         <source>the distance of dimension lines above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>la distancia entre líneas de cota superpuestas</translation>
     </message>
     <message>
         <source>the distance of the back clipping plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la distancia del plano delimitador posterior</translation>
     </message>
     <message>
         <source>the distance of the front clipping plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la distancia del plano delimitador frontal</translation>
     </message>
     <message>
         <source>the distance of the user&apos;s lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la distancia de las líneas del usuario</translation>
     </message>
     <message>
         <source>the distance that OFFSET proposes; negative for through a point</source>
-        <translation type="unfinished"></translation>
+        <translation>la distancia que propone OFFSET; negativa para pasar por un punto</translation>
     </message>
     <message>
         <source>the distance that was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>la última distancia medida</translation>
     </message>
     <message>
         <source>the distances of the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>las distancias de la rejilla</translation>
     </message>
     <message>
         <source>the drawing behaves as annotative when inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo se comporta como anotativo al insertarlo</translation>
     </message>
     <message>
         <source>the drawing has a name</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo tiene un nombre</translation>
     </message>
     <message>
         <source>the drawing may be edited in place by others</source>
-        <translation type="unfinished"></translation>
+        <translation>otros pueden editar in situ el dibujo</translation>
     </message>
     <message>
         <source>the drawing may be written</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo se puede escribir</translation>
     </message>
     <message>
         <source>the drawing takes imperial (0) or metric (1) patterns</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo toma patrones imperiales (0) o métricos (1)</translation>
     </message>
     <message>
         <source>the drawing was opened whole</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo se abrió entero</translation>
     </message>
     <message>
         <source>the drawing&apos;s code page</source>
-        <translation type="unfinished"></translation>
+        <translation>la página de códigos del dibujo</translation>
     </message>
     <message>
         <source>the drawing&apos;s file name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre de archivo del dibujo</translation>
     </message>
     <message>
         <source>the drawing&apos;s folder</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta del dibujo</translation>
     </message>
     <message>
         <source>the drawing&apos;s unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>la unidad de longitud del dibujo</translation>
     </message>
     <message>
         <source>the editor of paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>el editor de párrafos</translation>
     </message>
     <message>
         <source>the encoding of text files</source>
-        <translation type="unfinished"></translation>
+        <translation>la codificación de los archivos de texto</translation>
     </message>
     <message>
         <source>the end direction of the arc drawn last</source>
-        <translation type="unfinished"></translation>
+        <translation>la dirección final del último arco dibujado</translation>
     </message>
     <message>
         <source>the ends have arrows of their own</source>
-        <translation type="unfinished"></translation>
+        <translation>los extremos tienen flechas propias</translation>
     </message>
     <message>
         <source>the factor of a unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>el factor de las partes de una unidad</translation>
     </message>
     <message>
         <source>the factor of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>el factor de las longitudes</translation>
     </message>
     <message>
         <source>the factor of the line spacing of paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>el factor de interlineado de los párrafos</translation>
     </message>
     <message>
         <source>the factor of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>el factor de la segunda unidad</translation>
     </message>
     <message>
         <source>the factor of the second unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>el factor de las partes de la segunda unidad</translation>
     </message>
     <message>
         <source>the factor that SCALE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>el factor que propone SCALE</translation>
     </message>
     <message>
         <source>the far corner of the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>la esquina lejana de los límites</translation>
     </message>
     <message>
         <source>the far corner of the virtual screen</source>
-        <translation type="unfinished"></translation>
+        <translation>la esquina lejana de la pantalla virtual</translation>
     </message>
     <message>
         <source>the far corner of what the space shows</source>
-        <translation type="unfinished"></translation>
+        <translation>la esquina lejana de lo que muestra el espacio</translation>
     </message>
     <message>
         <source>the file of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo de la línea de comandos</translation>
     </message>
     <message>
         <source>the file of the last automatic save</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo del último guardado automático</translation>
     </message>
     <message>
         <source>the file of the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo del menú</translation>
     </message>
     <message>
         <source>the file that says which font replaces which</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo que indica qué fuente sustituye a cuál</translation>
     </message>
     <message>
         <source>the file that was saved last</source>
-        <translation type="unfinished"></translation>
+        <translation>el último archivo guardado</translation>
     </message>
     <message>
         <source>the first chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la primera distancia de chaflán</translation>
     </message>
     <message>
         <source>the first colour of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>el primer color de los degradados</translation>
     </message>
     <message>
         <source>the first extension line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>se omite la primera línea de referencia</translation>
     </message>
     <message>
         <source>the first half of the line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>se omite la primera mitad de la línea</translation>
     </message>
     <message>
         <source>the focal length of perspective views</source>
-        <translation type="unfinished"></translation>
+        <translation>la distancia focal de las vistas en perspectiva</translation>
     </message>
     <message>
         <source>the folder of automatic saves</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de los guardados automáticos</translation>
     </message>
     <message>
         <source>the folder of such files</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de esos archivos</translation>
     </message>
     <message>
         <source>the folder of temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de archivos temporales</translation>
     </message>
     <message>
         <source>the folder of the user&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de datos del usuario</translation>
     </message>
     <message>
         <source>the folder of the user&apos;s documents</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de documentos del usuario</translation>
     </message>
     <message>
         <source>the folder of what stays on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de lo que se queda en esta máquina</translation>
     </message>
     <message>
         <source>the folder that the program was started in</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta en la que se inició el programa</translation>
     </message>
     <message>
         <source>the folders that files are looked for in</source>
-        <translation type="unfinished"></translation>
+        <translation>las carpetas en las que se buscan archivos</translation>
     </message>
     <message>
         <source>the font for those that are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la fuente para las que faltan</translation>
     </message>
     <message>
         <source>the format of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>el formato de los ángulos</translation>
     </message>
     <message>
         <source>the format of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>el formato de las longitudes</translation>
     </message>
     <message>
         <source>the format of lengths, in the old form</source>
-        <translation type="unfinished"></translation>
+        <translation>el formato de las longitudes, en la forma antigua</translation>
     </message>
     <message>
         <source>the format of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>el formato de la segunda unidad</translation>
     </message>
     <message>
         <source>the frames of pictures, underlays and clips</source>
-        <translation type="unfinished"></translation>
+        <translation>los marcos de imágenes, calcos subyacentes y delimitaciones</translation>
     </message>
     <message>
         <source>the gap between a multileader&apos;s landing and its text</source>
-        <translation type="unfinished"></translation>
+        <translation>el hueco entre la línea de conexión de una directriz múltiple y su texto</translation>
     </message>
     <message>
         <source>the gap of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>el hueco de las marcas de centro</translation>
     </message>
     <message>
         <source>the grid is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la rejilla</translation>
     </message>
     <message>
         <source>the ground of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>el fondo de los sombreados</translation>
     </message>
     <message>
         <source>the ground of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>el fondo de los textos</translation>
     </message>
     <message>
         <source>the handle that comes next</source>
-        <translation type="unfinished"></translation>
+        <translation>el identificador siguiente</translation>
     </message>
     <message>
         <source>the height of POLYSOLID</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura de POLYSOLID</translation>
     </message>
     <message>
         <source>the height of new cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura de las cámaras nuevas</translation>
     </message>
     <message>
         <source>the height of new entities above the user&apos;s plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura de las entidades nuevas sobre el plano del usuario</translation>
     </message>
     <message>
         <source>the height of new entities on sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura de las entidades nuevas en presentaciones</translation>
     </message>
     <message>
         <source>the height of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura de los textos</translation>
     </message>
     <message>
         <source>the height of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura de la vista</translation>
     </message>
     <message>
         <source>the height that shadows fall on</source>
-        <translation type="unfinished"></translation>
+        <translation>la altura en la que caen las sombras</translation>
     </message>
     <message>
         <source>the history of solids is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra el historial de los sólidos</translation>
     </message>
     <message>
         <source>the inner diameter that DONUT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>el diámetro interior que propone DONUT</translation>
     </message>
     <message>
         <source>the isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>el plano isométrico</translation>
     </message>
     <message>
         <source>the kind of array that is proposed</source>
-        <translation type="unfinished"></translation>
+        <translation>la clase de matriz que se propone</translation>
     </message>
     <message>
         <source>the kind of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>la clase de degradados</translation>
     </message>
     <message>
         <source>the language of the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>el idioma de la máquina</translation>
     </message>
     <message>
         <source>the last dialog ended with OK</source>
-        <translation type="unfinished"></translation>
+        <translation>el último diálogo terminó con Aceptar</translation>
     </message>
     <message>
         <source>the last line of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>la última línea de la línea de comandos</translation>
     </message>
     <message>
         <source>the layer of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>la capa de las marcas de centro</translation>
     </message>
     <message>
         <source>the layer of new dimensions; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la capa de las cotas nuevas; &quot;.&quot; es la actual</translation>
     </message>
     <message>
         <source>the layer of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la capa de las entidades nuevas</translation>
     </message>
     <message>
         <source>the layer of new external drawings; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la capa de los dibujos externos nuevos; &quot;.&quot; es la actual</translation>
     </message>
     <message>
         <source>the layer of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la capa de los sombreados nuevos; &quot;.&quot; es la actual</translation>
     </message>
     <message>
         <source>the least speed of smooth changes of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la velocidad mínima de los cambios suaves de vista</translation>
     </message>
     <message>
         <source>the length of extension lines, where fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>la longitud de las líneas de referencia, si es fija</translation>
     </message>
     <message>
         <source>the length of the arcs of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>la longitud de los arcos de las nubes</translation>
     </message>
     <message>
         <source>the length round what was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>el contorno de lo último que se midió</translation>
     </message>
     <message>
         <source>the linetype of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea de las marcas de centro</translation>
     </message>
     <message>
         <source>the linetype of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea de las líneas de cota</translation>
     </message>
     <message>
         <source>the linetype of hidden lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea de las líneas ocultas</translation>
     </message>
     <message>
         <source>the linetype of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea de las entidades nuevas</translation>
     </message>
     <message>
         <source>the linetype of the first extension line</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea de la primera línea de referencia</translation>
     </message>
     <message>
         <source>the linetype of the second extension line</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea de la segunda línea de referencia</translation>
     </message>
     <message>
         <source>the linetype scale of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de tipo de línea de las marcas de centro</translation>
     </message>
     <message>
         <source>the linetype scale of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de tipo de línea de las entidades nuevas</translation>
     </message>
     <message>
         <source>the lineweight of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el grosor de las líneas de cota</translation>
     </message>
     <message>
         <source>the lineweight of extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>el grosor de las líneas de referencia</translation>
     </message>
     <message>
         <source>the lineweight of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>el grosor de línea de las entidades nuevas</translation>
     </message>
     <message>
         <source>the longest arc of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>el arco más largo de las nubes</translation>
     </message>
     <message>
         <source>the lower tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>la tolerancia inferior</translation>
     </message>
     <message>
         <source>the maintenance version of the drawing&apos;s format</source>
-        <translation type="unfinished"></translation>
+        <translation>la versión de mantenimiento del formato del dibujo</translation>
     </message>
     <message>
         <source>the material of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>el material de las entidades nuevas</translation>
     </message>
     <message>
         <source>the menu bar is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la barra de menús</translation>
     </message>
     <message>
         <source>the menus of viewports are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran los menús de las ventanas gráficas</translation>
     </message>
     <message>
         <source>the middle of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>el centro de la vista</translation>
     </message>
     <message>
         <source>the most memory that Lisp may take, in megabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>la memoria máxima que puede tomar Lisp, en megabytes</translation>
     </message>
     <message>
         <source>the most nodes of the spatial index</source>
-        <translation type="unfinished"></translation>
+        <translation>el número máximo de nodos del índice espacial</translation>
     </message>
     <message>
         <source>the name of the current annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre de la escala de anotación actual</translation>
     </message>
     <message>
         <source>the name of the layout that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre de la presentación que se muestra</translation>
     </message>
     <message>
         <source>the name of the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del menú</translation>
     </message>
     <message>
         <source>the name of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del programa</translation>
     </message>
     <message>
         <source>the name of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del proyecto</translation>
     </message>
     <message>
         <source>the name of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>the name of the user&apos;s profile</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del perfil del usuario</translation>
     </message>
     <message>
         <source>the near corner of the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>la esquina cercana de los límites</translation>
     </message>
     <message>
         <source>the near corner of the virtual screen</source>
-        <translation type="unfinished"></translation>
+        <translation>la esquina cercana de la pantalla virtual</translation>
     </message>
     <message>
         <source>the near corner of what the space shows</source>
-        <translation type="unfinished"></translation>
+        <translation>la esquina cercana de lo que muestra el espacio</translation>
     </message>
     <message>
         <source>the number of the current viewport; 1 is the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>el número de la ventana actual; 1 es la presentación</translation>
     </message>
     <message>
         <source>the offset of plots counts from the margin (0) or the edge (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>el desfase de los trazados cuenta desde el margen (0) o el borde (1)</translation>
     </message>
     <message>
         <source>the operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>el sistema operativo</translation>
     </message>
     <message>
         <source>the origin of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>el origen de los sombreados</translation>
     </message>
     <message>
         <source>the origin of snap and grid</source>
-        <translation type="unfinished"></translation>
+        <translation>el origen del forzado y de la rejilla</translation>
     </message>
     <message>
         <source>the origin of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>el origen del sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>the outer diameter that DONUT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>el diámetro exterior que propone DONUT</translation>
     </message>
     <message>
         <source>the panel of databases is open</source>
-        <translation type="unfinished"></translation>
+        <translation>el panel de bases de datos está abierto</translation>
     </message>
     <message>
         <source>the panel of external drawings is open</source>
-        <translation type="unfinished"></translation>
+        <translation>el panel de dibujos externos está abierto</translation>
     </message>
     <message>
         <source>the panel of layers is open</source>
-        <translation type="unfinished"></translation>
+        <translation>el panel de capas está abierto</translation>
     </message>
     <message>
         <source>the panel of other drawings&apos; contents is open</source>
-        <translation type="unfinished"></translation>
+        <translation>el panel de contenido de otros dibujos está abierto</translation>
     </message>
     <message>
         <source>the panel of properties is open</source>
-        <translation type="unfinished"></translation>
+        <translation>el panel de propiedades está abierto</translation>
     </message>
     <message>
         <source>the pattern of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>el patrón de los sombreados</translation>
     </message>
     <message>
         <source>the plan view follows the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>la vista en planta sigue al sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>the plane follows faces</source>
-        <translation type="unfinished"></translation>
+        <translation>el plano sigue a las caras</translation>
     </message>
     <message>
         <source>the plot style of layer 0 in new drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de trazado de la capa 0 en dibujos nuevos</translation>
     </message>
     <message>
         <source>the plot style of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de trazado de las entidades nuevas</translation>
     </message>
     <message>
         <source>the plot style of new entities in new drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de trazado de las entidades nuevas en dibujos nuevos</translation>
     </message>
     <message>
         <source>the point given last</source>
-        <translation type="unfinished"></translation>
+        <translation>el último punto indicado</translation>
     </message>
     <message>
         <source>the pointer moves along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>el cursor se mueve según los ejes</translation>
     </message>
     <message>
         <source>the pointer moves in steps</source>
-        <translation type="unfinished"></translation>
+        <translation>el cursor se mueve por pasos</translation>
     </message>
     <message>
         <source>the program of such an object is started for a plot</source>
-        <translation type="unfinished"></translation>
+        <translation>el programa de un objeto así se inicia para trazar</translation>
     </message>
     <message>
         <source>the radius that CIRCLE proposes; 0 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>el radio que propone CIRCLE; 0 para ninguno</translation>
     </message>
     <message>
         <source>the radius that FILLET takes</source>
-        <translation type="unfinished"></translation>
+        <translation>el radio que toma FILLET</translation>
     </message>
     <message>
         <source>the release of the dialect, beginning with its number</source>
-        <translation type="unfinished"></translation>
+        <translation>la edición del dialecto, que empieza por su número</translation>
     </message>
     <message>
         <source>the ribbon is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la cinta de opciones</translation>
     </message>
     <message>
         <source>the room round the text; negative with a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>el espacio alrededor del texto; negativo con marco</translation>
     </message>
     <message>
         <source>the running object snaps, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>las referencias a objetos activas, en bits</translation>
     </message>
     <message>
         <source>the scale of all linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de todos los tipos de línea</translation>
     </message>
     <message>
         <source>the scale of everything in dimensions; 0 by the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de todo en las cotas; 0 según la presentación</translation>
     </message>
     <message>
         <source>the scale of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de los sombreados</translation>
     </message>
     <message>
         <source>the scale of multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de las directrices múltiples</translation>
     </message>
     <message>
         <source>the scale of multilines</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de las líneas múltiples</translation>
     </message>
     <message>
         <source>the scale of new viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de las ventanas nuevas</translation>
     </message>
     <message>
         <source>the scale of objects of other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>la escala de los objetos de otros programas</translation>
     </message>
     <message>
         <source>the scales of chosen annotative things are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran las escalas de los objetos anotativos elegidos</translation>
     </message>
     <message>
         <source>the second chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la segunda distancia de chaflán</translation>
     </message>
     <message>
         <source>the second colour of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>el segundo color de los degradados</translation>
     </message>
     <message>
         <source>the second extension line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>se omite la segunda línea de referencia</translation>
     </message>
     <message>
         <source>the second half of the line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>se omite la segunda mitad de la línea</translation>
     </message>
     <message>
         <source>the shadow of an entity</source>
-        <translation type="unfinished"></translation>
+        <translation>la sombra de una entidad</translation>
     </message>
     <message>
         <source>the shape that SHAPE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>la forma que propone SHAPE</translation>
     </message>
     <message>
         <source>the sheet set of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el conjunto de planos del dibujo</translation>
     </message>
     <message>
         <source>the shortest arc of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>el arco más corto de las nubes</translation>
     </message>
     <message>
         <source>the size of a step in a walk</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de un paso en un paseo</translation>
     </message>
     <message>
         <source>the size of arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de las flechas</translation>
     </message>
     <message>
         <source>the size of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de las marcas de centro</translation>
     </message>
     <message>
         <source>the size of grips in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de los pinzamientos en píxeles</translation>
     </message>
     <message>
         <source>the size of stacked texts, as per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de los textos apilados, en tanto por ciento</translation>
     </message>
     <message>
         <source>the size of the box that picks dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de la caja que designa cotas</translation>
     </message>
     <message>
         <source>the size of the cross hairs, as per cent of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño del cursor en cruz, en tanto por ciento de la ventana</translation>
     </message>
     <message>
         <source>the size of the drawing&apos;s window in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de la ventana del dibujo en píxeles</translation>
     </message>
     <message>
         <source>the size of ticks; 0 for arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de los trazos oblicuos; 0 para flechas</translation>
     </message>
     <message>
         <source>the size of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>el tamaño de las tolerancias</translation>
     </message>
     <message>
         <source>the start page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la página de inicio</translation>
     </message>
     <message>
         <source>the status bar is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestra la barra de estado</translation>
     </message>
     <message>
         <source>the status bar may have two lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra de estado puede tener dos líneas</translation>
     </message>
     <message>
         <source>the step along polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>el paso a lo largo del rastreo polar</translation>
     </message>
     <message>
         <source>the step of polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>el paso del rastreo polar</translation>
     </message>
     <message>
         <source>the step of sketches</source>
-        <translation type="unfinished"></translation>
+        <translation>el paso de los bocetos</translation>
     </message>
     <message>
         <source>the steps of snap</source>
-        <translation type="unfinished"></translation>
+        <translation>los pasos del forzado de cursor</translation>
     </message>
     <message>
         <source>the style of details</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de los detalles</translation>
     </message>
     <message>
         <source>the style of multilines</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de las líneas múltiples</translation>
     </message>
     <message>
         <source>the style of new multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de las directrices múltiples nuevas</translation>
     </message>
     <message>
         <source>the style of new tables</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de las tablas nuevas</translation>
     </message>
     <message>
         <source>the style of sections</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de las secciones</translation>
     </message>
     <message>
         <source>the style of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de los textos</translation>
     </message>
     <message>
         <source>the symbol of the axes, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>el símbolo de los ejes, en bits</translation>
     </message>
     <message>
         <source>the text around the number</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto alrededor del número</translation>
     </message>
     <message>
         <source>the text around the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto alrededor de la segunda unidad</translation>
     </message>
     <message>
         <source>the text of a unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto de las partes de una unidad</translation>
     </message>
     <message>
         <source>the text of the second unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto de las partes de la segunda unidad</translation>
     </message>
     <message>
         <source>the text stands above the line</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto está encima de la línea</translation>
     </message>
     <message>
         <source>the text that hangs at the pointer where MTEXT asks</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto que cuelga del cursor cuando pregunta MTEXT</translation>
     </message>
     <message>
         <source>the tint of gradients of one colour</source>
-        <translation type="unfinished"></translation>
+        <translation>el tono de los degradados de un color</translation>
     </message>
     <message>
         <source>the tool palettes are open</source>
-        <translation type="unfinished"></translation>
+        <translation>las paletas de herramientas están abiertas</translation>
     </message>
     <message>
         <source>the transparency of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparencia de las entidades nuevas</translation>
     </message>
     <message>
         <source>the transparency of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparencia de los sombreados nuevos; &quot;.&quot; es la actual</translation>
     </message>
     <message>
         <source>the turn of snap and grid</source>
-        <translation type="unfinished"></translation>
+        <translation>el giro del forzado y de la rejilla</translation>
     </message>
     <message>
         <source>the turn of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>el giro de la vista</translation>
     </message>
     <message>
         <source>the unit of drawings that say none, when inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>la unidad de dibujos que no indican ninguna, al insertarlos</translation>
     </message>
     <message>
         <source>the unit of the drawing that says none</source>
-        <translation type="unfinished"></translation>
+        <translation>la unidad del dibujo que no indica ninguna</translation>
     </message>
     <message>
         <source>the upper tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>la tolerancia superior</translation>
     </message>
     <message>
         <source>the user places the text</source>
-        <translation type="unfinished"></translation>
+        <translation>el usuario coloca el texto</translation>
     </message>
     <message>
         <source>the user&apos;s coordinate system is the world&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>el sistema de coordenadas personales es el universal</translation>
     </message>
     <message>
         <source>the user&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del usuario</translation>
     </message>
     <message>
         <source>the user&apos;s own dictionary of spelling</source>
-        <translation type="unfinished"></translation>
+        <translation>el diccionario ortográfico propio del usuario</translation>
     </message>
     <message>
         <source>the user&apos;s timer</source>
-        <translation type="unfinished"></translation>
+        <translation>el cronómetro del usuario</translation>
     </message>
     <message>
         <source>the user&apos;s timer is on</source>
-        <translation type="unfinished"></translation>
+        <translation>el cronómetro del usuario está en marcha</translation>
     </message>
     <message>
         <source>the value of the current annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>el valor de la escala de anotación actual</translation>
     </message>
     <message>
         <source>the version of bodies that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>la versión de los cuerpos que se escriben</translation>
     </message>
     <message>
         <source>the version of the drawing&apos;s file, as &quot;AC1032&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la versión del archivo del dibujo, como &quot;AC1032&quot;</translation>
     </message>
     <message>
         <source>the view is a perspective</source>
-        <translation type="unfinished"></translation>
+        <translation>la vista es una perspectiva</translation>
     </message>
     <message>
         <source>the viewport has layers with settings of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>la ventana tiene capas con parámetros propios</translation>
     </message>
     <message>
         <source>the wheel button pans</source>
-        <translation type="unfinished"></translation>
+        <translation>el botón de la rueda encuadra</translation>
     </message>
     <message>
         <source>the width of POLYSOLID</source>
-        <translation type="unfinished"></translation>
+        <translation>la anchura de POLYSOLID</translation>
     </message>
     <message>
         <source>the width of polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>el grosor de las polilíneas</translation>
     </message>
     <message>
         <source>the width of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>el grosor de los trazos</translation>
     </message>
     <message>
         <source>the workspace</source>
-        <translation type="unfinished"></translation>
+        <translation>el espacio de trabajo</translation>
     </message>
     <message>
         <source>the x axis of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>el eje x del sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>the y axis of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>el eje y del sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>the zone of the drawing&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>la zona del lugar del dibujo</translation>
     </message>
     <message>
         <source>their distance</source>
-        <translation type="unfinished"></translation>
+        <translation>su distancia</translation>
     </message>
     <message>
         <source>their distances</source>
-        <translation type="unfinished"></translation>
+        <translation>sus distancias</translation>
     </message>
     <message>
         <source>there are menus</source>
-        <translation type="unfinished"></translation>
+        <translation>hay menús</translation>
     </message>
     <message>
         <source>ticks along the axes, in early programs</source>
-        <translation type="unfinished"></translation>
+        <translation>marcas a lo largo de los ejes, en programas antiguos</translation>
     </message>
     <message>
         <source>ticks of the clock, for measuring</source>
-        <translation type="unfinished"></translation>
+        <translation>pulsos del reloj, para medir</translation>
     </message>
     <message>
         <source>tips are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran sugerencias</translation>
     </message>
     <message>
         <source>tips on the keys beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>sugerencias sobre las teclas junto al cursor</translation>
     </message>
     <message>
         <source>tips on what is under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>sugerencias sobre lo que está bajo el cursor</translation>
     </message>
     <message>
         <source>tolerances are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran las tolerancias</translation>
     </message>
     <message>
         <source>transparency is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparencia se traza</translation>
     </message>
     <message>
         <source>transparency is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la transparencia se muestra</translation>
     </message>
     <message>
         <source>typed coordinates go before object snap: never (0), always (1), not in scripts (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>las coordenadas escritas prevalecen sobre la referencia a objetos: nunca (0), siempre (1), no en scripts (2)</translation>
     </message>
     <message>
         <source>units of light</source>
-        <translation type="unfinished"></translation>
+        <translation>unidades de luz</translation>
     </message>
     <message>
         <source>unknown entities are told</source>
-        <translation type="unfinished"></translation>
+        <translation>se avisa de entidades desconocidas</translation>
     </message>
     <message>
         <source>viewports keep their coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>las ventanas conservan su sistema de coordenadas</translation>
     </message>
     <message>
         <source>views are made anew when needed</source>
-        <translation type="unfinished"></translation>
+        <translation>las vistas se regeneran cuando hace falta</translation>
     </message>
     <message>
         <source>views count from the world (1) or the user&apos;s system (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>las vistas cuentan desde el sistema universal (1) o el personal (0)</translation>
     </message>
     <message>
         <source>views keep their coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>las vistas conservan su sistema de coordenadas</translation>
     </message>
     <message>
         <source>what TRIM and EXTEND project on</source>
-        <translation type="unfinished"></translation>
+        <translation>sobre qué proyectan TRIM y EXTEND</translation>
     </message>
     <message>
         <source>what a file&apos;s tab shows</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que muestra la ficha de un archivo</translation>
     </message>
     <message>
         <source>what commands make others of is erased</source>
-        <translation type="unfinished"></translation>
+        <translation>se borra aquello a partir de lo cual los comandos crean otras cosas</translation>
     </message>
     <message>
         <source>what fills the gaps of offset polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que rellena los huecos de polilíneas desfasadas</translation>
     </message>
     <message>
         <source>what goes out first where there is no room</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que sale primero cuando no hay sitio</translation>
     </message>
     <message>
         <source>what happens to external drawings is logged</source>
-        <translation type="unfinished"></translation>
+        <translation>se registra lo que ocurre con los dibujos externos</translation>
     </message>
     <message>
         <source>what has changed since the drawing was saved, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que ha cambiado desde que se guardó el dibujo, en bits</translation>
     </message>
     <message>
         <source>what is asked when a block is defined again</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se pregunta al redefinir un bloque</translation>
     </message>
     <message>
         <source>what is chosen is added to what was</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se designa se añade a lo ya designado</translation>
     </message>
     <message>
         <source>what is chosen is drawn smoothly</source>
-        <translation type="unfinished"></translation>
+        <translation>lo designado se dibuja suavizado</translation>
     </message>
     <message>
         <source>what is chosen is shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>lo designado se muestra como tal</translation>
     </message>
     <message>
         <source>what is chosen of things that hide each other</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se designa de objetos que se tapan</translation>
     </message>
     <message>
         <source>what is cut off near the eye, as per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se corta cerca del ojo, en tanto por ciento</translation>
     </message>
     <message>
         <source>what is done after a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se hace tras una interrupción</translation>
     </message>
     <message>
         <source>what is not shown under the pointer, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que no se muestra bajo el cursor, en bits</translation>
     </message>
     <message>
         <source>what is offered while one types</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se ofrece mientras se escribe</translation>
     </message>
     <message>
         <source>what is plotted in the background, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se traza en segundo plano, en bits</translation>
     </message>
     <message>
         <source>what is shown while a grip is pulled, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se muestra al tirar de un pinzamiento, en bits</translation>
     </message>
     <message>
         <source>what is shown while attributes are edited</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se muestra al editar atributos</translation>
     </message>
     <message>
         <source>what is under the pointer is shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que está bajo el cursor se muestra como tal</translation>
     </message>
     <message>
         <source>what is under way: a command (1), transparent one (2), script (4), dialog (8), Lisp (32)</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que está en curso: un comando (1), uno transparente (2), script (4), diálogo (8), Lisp (32)</translation>
     </message>
     <message>
         <source>what keeps to the drawing order</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que respeta el orden de dibujo</translation>
     </message>
     <message>
         <source>what keeps to the order of the file, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que respeta el orden del archivo, en bits</translation>
     </message>
     <message>
         <source>what layouts keep ready</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que las presentaciones tienen preparado</translation>
     </message>
     <message>
         <source>what lengths are rounded to</source>
-        <translation type="unfinished"></translation>
+        <translation>a qué se redondean las longitudes</translation>
     </message>
     <message>
         <source>what lies above each other is offered</source>
-        <translation type="unfinished"></translation>
+        <translation>se ofrece lo que está uno encima de otro</translation>
     </message>
     <message>
         <source>what menus echo, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que muestran los menús, en bits</translation>
     </message>
     <message>
         <source>what moves with the text</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se desplaza con el texto</translation>
     </message>
     <message>
         <source>what new drawings do</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que hacen los dibujos nuevos</translation>
     </message>
     <message>
         <source>what object snap leaves out, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que omite la referencia a objetos, en bits</translation>
     </message>
     <message>
         <source>what orthographic settings count from</source>
-        <translation type="unfinished"></translation>
+        <translation>desde qué cuentan los parámetros ortogonales</translation>
     </message>
     <message>
         <source>what relative links start from</source>
-        <translation type="unfinished"></translation>
+        <translation>desde dónde parten los vínculos relativos</translation>
     </message>
     <message>
         <source>what similar means, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que significa similar, en bits</translation>
     </message>
     <message>
         <source>what the picture in the file shows</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que muestra la imagen del archivo</translation>
     </message>
     <message>
         <source>what the program shows at its start</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que muestra el programa al iniciarse</translation>
     </message>
     <message>
         <source>what the screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que muestra la pantalla</translation>
     </message>
     <message>
         <source>what the second unit is rounded to</source>
-        <translation type="unfinished"></translation>
+        <translation>a qué se redondea la segunda unidad</translation>
     </message>
     <message>
         <source>what the view is: perspective, clipped, ..., as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que es la vista: perspectiva, delimitada, ..., en bits</translation>
     </message>
     <message>
         <source>what the view looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que mira la vista</translation>
     </message>
     <message>
         <source>when coordinates are shown beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se muestran coordenadas junto al cursor</translation>
     </message>
     <message>
         <source>when fields are evaluated, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se evalúan los campos, en bits</translation>
     </message>
     <message>
         <source>when it was made, in world time</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se creó, en hora universal</translation>
     </message>
     <message>
         <source>when it was saved last</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se guardó por última vez</translation>
     </message>
     <message>
         <source>when it was saved last, in world time</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se guardó por última vez, en hora universal</translation>
     </message>
     <message>
         <source>when links to tables are checked</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se comprueban los vínculos a tablas</translation>
     </message>
     <message>
         <source>when modules of other makers are loaded, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se cargan módulos de otros fabricantes, en bits</translation>
     </message>
     <message>
         <source>when new layers are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se buscan capas nuevas</translation>
     </message>
     <message>
         <source>when new layers are told, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se avisa de capas nuevas, en bits</translation>
     </message>
     <message>
         <source>when the drawing was made</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se creó el dibujo</translation>
     </message>
     <message>
         <source>when the pointer snaps to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>cuándo se ajusta el cursor a la rejilla</translation>
     </message>
     <message>
         <source>where a hatch like another has its origin</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde tiene su origen un sombreado igual a otro</translation>
     </message>
     <message>
         <source>where angles count from, from the x axis</source>
-        <translation type="unfinished"></translation>
+        <translation>desde dónde cuentan los ángulos, a partir del eje x</translation>
     </message>
     <message>
         <source>where earlier input is offered, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde se ofrece la entrada anterior, en bits</translation>
     </message>
     <message>
         <source>where multilines lie on their points: top, middle, bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>cómo están las líneas múltiples sobre sus puntos: arriba, centro, abajo</translation>
     </message>
     <message>
         <source>where new hatches lie in the drawing order</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde están los sombreados nuevos en el orden de dibujo</translation>
     </message>
     <message>
         <source>where north is, from the y axis</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde está el norte, a partir del eje y</translation>
     </message>
     <message>
         <source>where on earth the drawing is</source>
-        <translation type="unfinished"></translation>
+        <translation>en qué lugar de la tierra está el dibujo</translation>
     </message>
     <message>
         <source>where quick properties are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde se muestran las propiedades rápidas</translation>
     </message>
     <message>
         <source>where the grid is of dots, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde es de puntos la rejilla, en bits</translation>
     </message>
     <message>
         <source>where the origin of hatches lies</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde está el origen de los sombreados</translation>
     </message>
     <message>
         <source>where the sign of an arc&apos;s length stands</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde está el signo de la longitud de un arco</translation>
     </message>
     <message>
         <source>where the text stands along the line</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde está el texto a lo largo de la línea</translation>
     </message>
     <message>
         <source>where the view is seen from</source>
-        <translation type="unfinished"></translation>
+        <translation>desde dónde se ve la vista</translation>
     </message>
     <message>
         <source>where to look for what knows them</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde buscar lo que las conoce</translation>
     </message>
     <message>
         <source>where tolerances stand beside the number</source>
-        <translation type="unfinished"></translation>
+        <translation>dónde están las tolerancias junto al número</translation>
     </message>
     <message>
         <source>which changes of the view are smooth</source>
-        <translation type="unfinished"></translation>
+        <translation>qué cambios de la vista son suaves</translation>
     </message>
     <message>
         <source>which extents count</source>
-        <translation type="unfinished"></translation>
+        <translation>qué extensión cuenta</translation>
     </message>
     <message>
         <source>which islands a hatch leaves out</source>
-        <translation type="unfinished"></translation>
+        <translation>qué islas omite un sombreado</translation>
     </message>
     <message>
         <source>which parts of solids are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>qué partes de sólidos se designan</translation>
     </message>
     <message>
         <source>which pictures in the file are kept up</source>
-        <translation type="unfinished"></translation>
+        <translation>qué imágenes del archivo se mantienen al día</translation>
     </message>
     <message>
         <source>which questions commands leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>qué preguntas omiten los comandos</translation>
     </message>
     <message>
         <source>which tips beside the pointer take its settings</source>
-        <translation type="unfinished"></translation>
+        <translation>qué sugerencias junto al cursor toman sus parámetros</translation>
     </message>
     <message>
         <source>which tool bars and panels are fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>qué barras y paneles están fijos</translation>
     </message>
     <message>
         <source>which way the wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>en qué sentido amplía la rueda</translation>
     </message>
     <message>
         <source>why a function of Lisp failed, as a number</source>
-        <translation type="unfinished"></translation>
+        <translation>por qué falló una función de Lisp, como número</translation>
     </message>
     <message>
         <source>windows are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>las ventanas se arrastran</translation>
     </message>
     <message>
         <source>windows of selections are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>las ventanas de selección se rellenan</translation>
     </message>
     <message>
         <source>with more boundaries than this HATCH warns</source>
-        <translation type="unfinished"></translation>
+        <translation>con más contornos que estos advierte HATCH</translation>
     </message>
     <message>
         <source>with more entities than this no grips are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>con más entidades que estas no se muestran pinzamientos</translation>
     </message>
     <message>
         <source>words of object snap replace the running modes</source>
-        <translation type="unfinished"></translation>
+        <translation>las palabras de referencia a objetos sustituyen a los modos activos</translation>
     </message>
     <message>
         <source>zeros of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>ceros de los ángulos</translation>
     </message>
     <message>
         <source>zeros of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>ceros de las longitudes</translation>
     </message>
     <message>
         <source>zeros of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>ceros de la segunda unidad</translation>
     </message>
     <message>
         <source>zeros of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>ceros de las tolerancias</translation>
     </message>
     <message>
         <source>zeros of tolerances in the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>ceros de las tolerancias en la segunda unidad</translation>
     </message>
 </context>
 <context>
     <name>Kernel</name>
     <message>
         <source>%1 has no file yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aún no tiene archivo.</translation>
     </message>
     <message>
         <source>
 More files that the drawing names were not read.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han leído otros archivos que nombra el dibujo.
+</translation>
     </message>
     <message>
         <source>
 %1 was not read: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se ha leído: %2.
+</translation>
     </message>
     <message>
         <source>%1 (recovered)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (recuperado)</translation>
     </message>
     <message>
         <source>
 Saving this drawing was broken off once. What was to be saved is in %1; the drawing&apos;s own file may have only a part of it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Una vez se interrumpió el guardado de este dibujo. Lo que se iba a guardar está en %1; el archivo del propio dibujo puede contener solo una parte.
+</translation>
     </message>
     <message>
         <source>The document has no Lisp engine.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento no tiene motor Lisp.</translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
@@ -9930,197 +9936,211 @@ Saving this drawing was broken off once. What was to be saved is in %1; the draw
     </message>
     <message>
         <source>%1 was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se ha cancelado.</translation>
     </message>
     <message>
         <source>%1: %2; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2; no se ha cambiado nada.</translation>
     </message>
     <message>
         <source>%1 stays open while a session is played on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sigue abierto mientras se reproduce en él una sesión.</translation>
     </message>
     <message>
         <source>%1 was not closed: it was changed since.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se ha cerrado: ha cambiado desde entonces.</translation>
     </message>
     <message>
         <source>%1 was not closed: a program of it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se ha cerrado: se ejecuta un programa suyo.</translation>
     </message>
     <message>
         <source>%1: %2 done, %3 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 hechos, %3 omitidos</translation>
     </message>
     <message>
         <source>and %1 more
 </source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 más
+</translation>
     </message>
     <message>
         <source>
 *Cancel*
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+*Cancelar*
+</translation>
     </message>
     <message>
         <source>This cannot be allowed here: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no se puede permitir aquí: %1.</translation>
     </message>
     <message>
         <source>The folder cannot be trusted: everyone may write to it, or its name has a &quot;;&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede confiar en la carpeta: todos pueden escribir en ella, o su nombre lleva un &quot;;&quot;.</translation>
     </message>
     <message>
         <source>The list cannot be kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista no se puede guardar en %1.</translation>
     </message>
     <message>
         <source>its folder is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>su carpeta no es de confianza</translation>
     </message>
     <message>
         <source>everyone may write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>todos pueden escribir en %1</translation>
     </message>
     <message>
         <source>
 TRUSTEDPATHS cannot be kept in %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+TRUSTEDPATHS no se puede guardar en %1.
+</translation>
     </message>
     <message>
         <source>
 %1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se ha cargado: %2. TRUSTEDPATHS, o la opción --trust, nombra carpetas cuyos programas pueden ejecutarse.
+</translation>
     </message>
     <message>
         <source>%1 was opened for reading only; save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se abrió solo para lectura; guárdelo con otro nombre.</translation>
     </message>
     <message>
         <source>%1 was changed by another program since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado %1 desde que se abrió o guardó aquí.</translation>
     </message>
     <message>
         <source>%1 is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya no está.</translation>
     </message>
     <message>
         <source>%1 is the damaged file that this drawing was recovered from; save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es el archivo dañado del que se recuperó este dibujo; guárdelo con otro nombre.</translation>
     </message>
     <message>
         <source>%1 leads to another file than when it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 conduce a otro archivo que cuando se abrió o guardó aquí.</translation>
     </message>
     <message>
         <source>%1 is open in this program; close it first, or give another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto en este programa; ciérrelo antes o indique otro nombre.</translation>
     </message>
     <message>
         <source>%1 is open in another program (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto en otro programa (%2).</translation>
     </message>
     <message>
         <source> of </source>
-        <translation type="unfinished"></translation>
+        <translation> de </translation>
     </message>
     <message>
         <source> (need %1): </source>
-        <translation type="unfinished"></translation>
+        <translation> (se necesita %1): </translation>
     </message>
     <message>
         <source>
 Second point of mid: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Segundo punto del medio: </translation>
     </message>
     <message>
         <source>
 First point of mid: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Primer punto del medio: </translation>
     </message>
     <message>
         <source>&lt;Offset&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Desfase&gt;: </translation>
     </message>
     <message>
         <source>
 Base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Punto base: </translation>
     </message>
     <message>
         <source>
 Next point (Press ENTER to end tracking): </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Punto siguiente (pulse INTRO para terminar el rastreo): </translation>
     </message>
     <message>
         <source>
 First tracking point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Primer punto de rastreo: </translation>
     </message>
     <message>
         <source>
 Specify point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise punto: </translation>
     </message>
     <message>
         <source>
 Specify temporary tracking point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise punto de rastreo temporal: </translation>
     </message>
     <message>
         <source>Requires an integer value or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un entero o una opción.</translation>
     </message>
     <message>
         <source>Requires numeric value or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un valor numérico o una opción.</translation>
     </message>
     <message>
         <source>Requires numeric distance, two points, or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una distancia numérica, dos puntos o una opción.</translation>
     </message>
     <message>
         <source>Requires valid numeric angle, two points, or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un ángulo numérico válido, dos puntos o una opción.</translation>
     </message>
     <message>
         <source>Point or option keyword required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un punto o una opción.</translation>
     </message>
     <message>
         <source>Requires an integer value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un valor entero.</translation>
     </message>
     <message>
         <source>Requires numeric value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un valor numérico.</translation>
     </message>
     <message>
         <source>Requires numeric distance or two points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una distancia numérica o dos puntos.</translation>
     </message>
     <message>
         <source>Requires valid numeric angle or two points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un ángulo numérico válido o dos puntos.</translation>
     </message>
     <message>
         <source>Invalid option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opción no válida.</translation>
     </message>
     <message>
         <source>Expects a point or %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se espera un punto o %1.</translation>
     </message>
     <message>
         <source>Invalid input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada no válida.</translation>
     </message>
     <message>
         <source>Invalid point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto no válido.</translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
@@ -10128,54 +10148,61 @@ Specify temporary tracking point: </source>
     </message>
     <message>
         <source>Value must not be negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor no debe ser negativo.</translation>
     </message>
     <message>
         <source>**Outside limits</source>
-        <translation type="unfinished"></translation>
+        <translation>**Fuera de los límites</translation>
     </message>
     <message>
         <source>
 Specify second point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise segundo punto: </translation>
     </message>
     <message>
         <source> to </source>
-        <translation type="unfinished"></translation>
+        <translation> a </translation>
     </message>
     <message>
         <source>
 Angle Override: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ángulo sustituto: </translation>
     </message>
     <message>
         <source>No %1 found for specified point.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el punto indicado no se encuentra: %1.</translation>
     </message>
     <message>
         <source>
 Enter group name: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Indique nombre de grupo: </translation>
     </message>
     <message>
         <source>
 Remove objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Quite objetos: </translation>
     </message>
     <message>
         <source>
 First point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Primer punto: </translation>
     </message>
     <message>
         <source>
 Specify first corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise primera esquina: </translation>
     </message>
     <message>
         <source>
 Next point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Punto siguiente: </translation>
     </message>
     <message>
         <source>
@@ -10192,148 +10219,162 @@ El comando se ha deshecho por completo.</translation>
     <message>
         <source>
 Cannot find group &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se encuentra el grupo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 encontrados</translation>
     </message>
     <message>
         <source>
 %1 found, %2 total</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 encontrados, %2 en total</translation>
     </message>
     <message>
         <source>
 Select objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe objetos: </translation>
     </message>
     <message>
         <source>endpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>punto final</translation>
     </message>
     <message>
         <source>midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>punto medio</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>centro</translation>
     </message>
     <message>
         <source>node</source>
-        <translation type="unfinished"></translation>
+        <translation>nodo</translation>
     </message>
     <message>
         <source>quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>cuadrante</translation>
     </message>
     <message>
         <source>intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>intersección</translation>
     </message>
     <message>
         <source>insertion point</source>
-        <translation type="unfinished"></translation>
+        <translation>punto de inserción</translation>
     </message>
     <message>
         <source>perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>perpendicular</translation>
     </message>
     <message>
         <source>tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>tangente</translation>
     </message>
     <message>
         <source>nearest point</source>
-        <translation type="unfinished"></translation>
+        <translation>punto más cercano</translation>
     </message>
     <message>
         <source>quick</source>
-        <translation type="unfinished"></translation>
+        <translation>rápido</translation>
     </message>
     <message>
         <source>apparent intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>intersección ficticia</translation>
     </message>
     <message>
         <source>extension</source>
-        <translation type="unfinished"></translation>
+        <translation>extensión</translation>
     </message>
     <message>
         <source>parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>paralelo</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>
 The rest of what was typed ahead is left out.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se omite el resto de lo escrito por adelantado.
+</translation>
     </message>
     <message>
         <source>
 Nobody is there to answer &quot;%1&quot;: cancelled.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nadie que responda a &quot;%1&quot;: cancelado.
+</translation>
     </message>
     <message>
         <source>*Cancel*
 </source>
-        <translation type="unfinished"></translation>
+        <translation>*Cancelar*
+</translation>
     </message>
     <message>
         <source>No help page.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay página de ayuda.</translation>
     </message>
     <message>
         <source>
 This link of the help page is not followed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Este vínculo de la página de ayuda no se sigue: %1
+</translation>
     </message>
     <message>
         <source>it is no module (odrxGetAPIVersion is missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un módulo (falta odrxGetAPIVersion)</translation>
     </message>
     <message>
         <source>it was built for version %1 of the interface, this host has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>se hizo para la versión %1 de la interfaz, este entorno tiene la %2</translation>
     </message>
     <message>
         <source>it is no module (odrxCreateModuleObject is missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un módulo (falta odrxCreateModuleObject)</translation>
     </message>
     <message>
         <source>it made no module object</source>
-        <translation type="unfinished"></translation>
+        <translation>no creó ningún objeto de módulo</translation>
     </message>
     <message>
         <source>there is no memory for its module object</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay memoria para su objeto de módulo</translation>
     </message>
     <message>
         <source>Cannot load %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede cargar %1: %2</translation>
     </message>
     <message>
         <source>
 %1 cannot run while another command is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se puede ejecutar mientras haya otro comando en curso.</translation>
     </message>
     <message>
         <source>
 %1: the setting cannot be written to %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1: el parámetro no se puede escribir en %2.
+</translation>
     </message>
     <message>
         <source>The command aliases in %1 cannot be read: %2 The ones before stay in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden leer los alias de comandos de %1: %2 Siguen en uso los anteriores.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
@@ -10342,31 +10383,40 @@ This link of the help page is not followed: %1
     <message>
         <source>
 %1 has ended, nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 ha terminado, no se ha cambiado nada.</translation>
     </message>
     <message>
         <source>
 ** That command may not be invoked transparently **
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+** Ese comando no se puede invocar en modo transparente **
+</translation>
     </message>
     <message>
         <source>
 Resuming %1 command.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se reanuda el comando %1.
+</translation>
     </message>
     <message>
         <source>
 %1 cannot be kept.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se puede conservar.
+</translation>
     </message>
     <message>
         <source>
 The user&apos;s settings cannot be kept.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede guardar la configuración del usuario.
+</translation>
     </message>
 </context>
 <context>
@@ -15030,7 +15080,7 @@ No drawing is open.
     <name>host::app::DrawingTabs</name>
     <message>
         <source>%1 (recovered)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (recuperado)</translation>
     </message>
     <message>
         <source>%1 (read only)</source>

@@ -8585,1344 +8585,1350 @@ La diapositiva &quot;%1&quot;: %2.
     </message>
     <message>
         <source>the cube of views is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>il cubo delle viste viene mostrato</translation>
     </message>
     <message>
         <source>the cube of views is shown in flat views</source>
-        <translation type="unfinished"></translation>
+        <translation>il cubo delle viste viene mostrato in viste piane</translation>
     </message>
     <message>
         <source>the current dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di quota corrente</translation>
     </message>
     <message>
         <source>the current dimension style is annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di quota corrente è annotativo</translation>
     </message>
     <message>
         <source>the decimal separator</source>
-        <translation type="unfinished"></translation>
+        <translation>il separatore decimale</translation>
     </message>
     <message>
         <source>the default lineweight, in hundredths of a millimetre</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spessore di linea di default, in centesimi di millimetro</translation>
     </message>
     <message>
         <source>the degree of new splines</source>
-        <translation type="unfinished"></translation>
+        <translation>il grado delle nuove spline</translation>
     </message>
     <message>
         <source>the dictionary of spelling</source>
-        <translation type="unfinished"></translation>
+        <translation>il dizionario ortografico</translation>
     </message>
     <message>
         <source>the distance of dimension lines above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>la distanza fra linee di quota sovrapposte</translation>
     </message>
     <message>
         <source>the distance of the back clipping plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la distanza del piano di ritaglio posteriore</translation>
     </message>
     <message>
         <source>the distance of the front clipping plane</source>
-        <translation type="unfinished"></translation>
+        <translation>la distanza del piano di ritaglio anteriore</translation>
     </message>
     <message>
         <source>the distance of the user&apos;s lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la distanza delle linee dell&apos;utente</translation>
     </message>
     <message>
         <source>the distance that OFFSET proposes; negative for through a point</source>
-        <translation type="unfinished"></translation>
+        <translation>la distanza che OFFSET propone; negativa per passare da un punto</translation>
     </message>
     <message>
         <source>the distance that was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ultima distanza misurata</translation>
     </message>
     <message>
         <source>the distances of the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>le distanze della griglia</translation>
     </message>
     <message>
         <source>the drawing behaves as annotative when inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno si comporta da annotativo se inserito</translation>
     </message>
     <message>
         <source>the drawing has a name</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno ha un nome</translation>
     </message>
     <message>
         <source>the drawing may be edited in place by others</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno può essere modificato sul posto da altri</translation>
     </message>
     <message>
         <source>the drawing may be written</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno può essere scritto</translation>
     </message>
     <message>
         <source>the drawing takes imperial (0) or metric (1) patterns</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno prende modelli imperiali (0) o metrici (1)</translation>
     </message>
     <message>
         <source>the drawing was opened whole</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno è stato aperto intero</translation>
     </message>
     <message>
         <source>the drawing&apos;s code page</source>
-        <translation type="unfinished"></translation>
+        <translation>la tabella codici del disegno</translation>
     </message>
     <message>
         <source>the drawing&apos;s file name</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del file del disegno</translation>
     </message>
     <message>
         <source>the drawing&apos;s folder</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella del disegno</translation>
     </message>
     <message>
         <source>the drawing&apos;s unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unità di lunghezza del disegno</translation>
     </message>
     <message>
         <source>the editor of paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;editor dei paragrafi</translation>
     </message>
     <message>
         <source>the encoding of text files</source>
-        <translation type="unfinished"></translation>
+        <translation>la codifica dei file di testo</translation>
     </message>
     <message>
         <source>the end direction of the arc drawn last</source>
-        <translation type="unfinished"></translation>
+        <translation>la direzione finale dell&apos;ultimo arco disegnato</translation>
     </message>
     <message>
         <source>the ends have arrows of their own</source>
-        <translation type="unfinished"></translation>
+        <translation>gli estremi hanno frecce proprie</translation>
     </message>
     <message>
         <source>the factor of a unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>il fattore delle parti di un&apos;unità</translation>
     </message>
     <message>
         <source>the factor of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>il fattore delle lunghezze</translation>
     </message>
     <message>
         <source>the factor of the line spacing of paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>il fattore di interlinea dei paragrafi</translation>
     </message>
     <message>
         <source>the factor of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>il fattore della seconda unità</translation>
     </message>
     <message>
         <source>the factor of the second unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>il fattore delle parti della seconda unità</translation>
     </message>
     <message>
         <source>the factor that SCALE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>il fattore che SCALE propone</translation>
     </message>
     <message>
         <source>the far corner of the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo lontano dei limiti</translation>
     </message>
     <message>
         <source>the far corner of the virtual screen</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo lontano dello schermo virtuale</translation>
     </message>
     <message>
         <source>the far corner of what the space shows</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo lontano di ciò che lo spazio mostra</translation>
     </message>
     <message>
         <source>the file of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>il file della riga di comando</translation>
     </message>
     <message>
         <source>the file of the last automatic save</source>
-        <translation type="unfinished"></translation>
+        <translation>il file dell&apos;ultimo salvataggio automatico</translation>
     </message>
     <message>
         <source>the file of the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>il file del menu</translation>
     </message>
     <message>
         <source>the file that says which font replaces which</source>
-        <translation type="unfinished"></translation>
+        <translation>il file che indica quale font sostituisce quale</translation>
     </message>
     <message>
         <source>the file that was saved last</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ultimo file salvato</translation>
     </message>
     <message>
         <source>the first chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima distanza di cimatura</translation>
     </message>
     <message>
         <source>the first colour of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>il primo colore delle sfumature</translation>
     </message>
     <message>
         <source>the first extension line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima linea di estensione viene omessa</translation>
     </message>
     <message>
         <source>the first half of the line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la prima metà della linea viene omessa</translation>
     </message>
     <message>
         <source>the focal length of perspective views</source>
-        <translation type="unfinished"></translation>
+        <translation>la lunghezza focale delle viste prospettiche</translation>
     </message>
     <message>
         <source>the folder of automatic saves</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella dei salvataggi automatici</translation>
     </message>
     <message>
         <source>the folder of such files</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella di tali file</translation>
     </message>
     <message>
         <source>the folder of temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella dei file temporanei</translation>
     </message>
     <message>
         <source>the folder of the user&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella dei dati dell&apos;utente</translation>
     </message>
     <message>
         <source>the folder of the user&apos;s documents</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella dei documenti dell&apos;utente</translation>
     </message>
     <message>
         <source>the folder of what stays on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella di ciò che resta su questa macchina</translation>
     </message>
     <message>
         <source>the folder that the program was started in</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella in cui è stato avviato il programma</translation>
     </message>
     <message>
         <source>the folders that files are looked for in</source>
-        <translation type="unfinished"></translation>
+        <translation>le cartelle in cui si cercano i file</translation>
     </message>
     <message>
         <source>the font for those that are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il font per quelli mancanti</translation>
     </message>
     <message>
         <source>the format of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>il formato degli angoli</translation>
     </message>
     <message>
         <source>the format of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>il formato delle lunghezze</translation>
     </message>
     <message>
         <source>the format of lengths, in the old form</source>
-        <translation type="unfinished"></translation>
+        <translation>il formato delle lunghezze, nella vecchia forma</translation>
     </message>
     <message>
         <source>the format of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>il formato della seconda unità</translation>
     </message>
     <message>
         <source>the frames of pictures, underlays and clips</source>
-        <translation type="unfinished"></translation>
+        <translation>le cornici di immagini, sottofondi e ritagli</translation>
     </message>
     <message>
         <source>the gap between a multileader&apos;s landing and its text</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spazio fra la linea di collegamento di una multidirettrice e il suo testo</translation>
     </message>
     <message>
         <source>the gap of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spazio dei contrassegni del centro</translation>
     </message>
     <message>
         <source>the grid is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la griglia viene mostrata</translation>
     </message>
     <message>
         <source>the ground of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>lo sfondo dei tratteggi</translation>
     </message>
     <message>
         <source>the ground of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>lo sfondo dei testi</translation>
     </message>
     <message>
         <source>the handle that comes next</source>
-        <translation type="unfinished"></translation>
+        <translation>il prossimo handle</translation>
     </message>
     <message>
         <source>the height of POLYSOLID</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza di POLYSOLID</translation>
     </message>
     <message>
         <source>the height of new cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza delle nuove telecamere</translation>
     </message>
     <message>
         <source>the height of new entities above the user&apos;s plane</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza delle nuove entità sopra il piano dell&apos;utente</translation>
     </message>
     <message>
         <source>the height of new entities on sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza delle nuove entità nei layout</translation>
     </message>
     <message>
         <source>the height of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza dei testi</translation>
     </message>
     <message>
         <source>the height of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza della vista</translation>
     </message>
     <message>
         <source>the height that shadows fall on</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;altezza su cui cadono le ombre</translation>
     </message>
     <message>
         <source>the history of solids is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la cronologia dei solidi viene mostrata</translation>
     </message>
     <message>
         <source>the inner diameter that DONUT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>il diametro interno che DONUT propone</translation>
     </message>
     <message>
         <source>the isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>il piano isometrico</translation>
     </message>
     <message>
         <source>the kind of array that is proposed</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di serie proposto</translation>
     </message>
     <message>
         <source>the kind of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di sfumature</translation>
     </message>
     <message>
         <source>the language of the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>la lingua della macchina</translation>
     </message>
     <message>
         <source>the last dialog ended with OK</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ultimo dialogo è finito con OK</translation>
     </message>
     <message>
         <source>the last line of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ultima riga della riga di comando</translation>
     </message>
     <message>
         <source>the layer of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>il layer dei contrassegni del centro</translation>
     </message>
     <message>
         <source>the layer of new dimensions; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>il layer delle nuove quote; &quot;.&quot; è quello corrente</translation>
     </message>
     <message>
         <source>the layer of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>il layer delle nuove entità</translation>
     </message>
     <message>
         <source>the layer of new external drawings; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>il layer dei nuovi disegni esterni; &quot;.&quot; è quello corrente</translation>
     </message>
     <message>
         <source>the layer of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>il layer dei nuovi tratteggi; &quot;.&quot; è quello corrente</translation>
     </message>
     <message>
         <source>the least speed of smooth changes of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la velocità minima dei cambi graduali di vista</translation>
     </message>
     <message>
         <source>the length of extension lines, where fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>la lunghezza delle linee di estensione, se fissa</translation>
     </message>
     <message>
         <source>the length of the arcs of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>la lunghezza degli archi delle nuvole</translation>
     </message>
     <message>
         <source>the length round what was measured last</source>
-        <translation type="unfinished"></translation>
+        <translation>la lunghezza attorno a ciò che è stato misurato per ultimo</translation>
     </message>
     <message>
         <source>the linetype of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea dei contrassegni del centro</translation>
     </message>
     <message>
         <source>the linetype of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea delle linee di quota</translation>
     </message>
     <message>
         <source>the linetype of hidden lines</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea delle linee nascoste</translation>
     </message>
     <message>
         <source>the linetype of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea delle nuove entità</translation>
     </message>
     <message>
         <source>the linetype of the first extension line</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea della prima linea di estensione</translation>
     </message>
     <message>
         <source>the linetype of the second extension line</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea della seconda linea di estensione</translation>
     </message>
     <message>
         <source>the linetype scale of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala del tipo di linea dei contrassegni del centro</translation>
     </message>
     <message>
         <source>the linetype scale of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala del tipo di linea delle nuove entità</translation>
     </message>
     <message>
         <source>the lineweight of dimension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spessore delle linee di quota</translation>
     </message>
     <message>
         <source>the lineweight of extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spessore delle linee di estensione</translation>
     </message>
     <message>
         <source>the lineweight of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spessore di linea delle nuove entità</translation>
     </message>
     <message>
         <source>the longest arc of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;arco più lungo delle nuvole</translation>
     </message>
     <message>
         <source>the lower tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>la tolleranza inferiore</translation>
     </message>
     <message>
         <source>the maintenance version of the drawing&apos;s format</source>
-        <translation type="unfinished"></translation>
+        <translation>la versione di manutenzione del formato del disegno</translation>
     </message>
     <message>
         <source>the material of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>il materiale delle nuove entità</translation>
     </message>
     <message>
         <source>the menu bar is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra dei menu viene mostrata</translation>
     </message>
     <message>
         <source>the menus of viewports are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>i menu delle finestre vengono mostrati</translation>
     </message>
     <message>
         <source>the middle of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>il centro della vista</translation>
     </message>
     <message>
         <source>the most memory that Lisp may take, in megabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>la memoria massima che Lisp può prendere, in megabyte</translation>
     </message>
     <message>
         <source>the most nodes of the spatial index</source>
-        <translation type="unfinished"></translation>
+        <translation>il numero massimo di nodi dell&apos;indice spaziale</translation>
     </message>
     <message>
         <source>the name of the current annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome della scala di annotazione corrente</translation>
     </message>
     <message>
         <source>the name of the layout that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del layout mostrato</translation>
     </message>
     <message>
         <source>the name of the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del menu</translation>
     </message>
     <message>
         <source>the name of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del programma</translation>
     </message>
     <message>
         <source>the name of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del progetto</translation>
     </message>
     <message>
         <source>the name of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del sistema di coordinate utente</translation>
     </message>
     <message>
         <source>the name of the user&apos;s profile</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome del profilo dell&apos;utente</translation>
     </message>
     <message>
         <source>the near corner of the limits</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo vicino dei limiti</translation>
     </message>
     <message>
         <source>the near corner of the virtual screen</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo vicino dello schermo virtuale</translation>
     </message>
     <message>
         <source>the near corner of what the space shows</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;angolo vicino di ciò che lo spazio mostra</translation>
     </message>
     <message>
         <source>the number of the current viewport; 1 is the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>il numero della finestra corrente; 1 è il layout</translation>
     </message>
     <message>
         <source>the offset of plots counts from the margin (0) or the edge (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;offset delle stampe conta dal margine (0) o dal bordo (1)</translation>
     </message>
     <message>
         <source>the operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>il sistema operativo</translation>
     </message>
     <message>
         <source>the origin of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;origine dei tratteggi</translation>
     </message>
     <message>
         <source>the origin of snap and grid</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;origine di snap e griglia</translation>
     </message>
     <message>
         <source>the origin of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;origine del sistema di coordinate utente</translation>
     </message>
     <message>
         <source>the outer diameter that DONUT proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>il diametro esterno che DONUT propone</translation>
     </message>
     <message>
         <source>the panel of databases is open</source>
-        <translation type="unfinished"></translation>
+        <translation>il pannello dei database è aperto</translation>
     </message>
     <message>
         <source>the panel of external drawings is open</source>
-        <translation type="unfinished"></translation>
+        <translation>il pannello dei disegni esterni è aperto</translation>
     </message>
     <message>
         <source>the panel of layers is open</source>
-        <translation type="unfinished"></translation>
+        <translation>il pannello dei layer è aperto</translation>
     </message>
     <message>
         <source>the panel of other drawings&apos; contents is open</source>
-        <translation type="unfinished"></translation>
+        <translation>il pannello dei contenuti di altri disegni è aperto</translation>
     </message>
     <message>
         <source>the panel of properties is open</source>
-        <translation type="unfinished"></translation>
+        <translation>il pannello delle proprietà è aperto</translation>
     </message>
     <message>
         <source>the pattern of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello dei tratteggi</translation>
     </message>
     <message>
         <source>the plan view follows the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>la vista in pianta segue il sistema di coordinate utente</translation>
     </message>
     <message>
         <source>the plane follows faces</source>
-        <translation type="unfinished"></translation>
+        <translation>il piano segue le facce</translation>
     </message>
     <message>
         <source>the plot style of layer 0 in new drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di stampa del layer 0 nei nuovi disegni</translation>
     </message>
     <message>
         <source>the plot style of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di stampa delle nuove entità</translation>
     </message>
     <message>
         <source>the plot style of new entities in new drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di stampa delle nuove entità nei nuovi disegni</translation>
     </message>
     <message>
         <source>the point given last</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ultimo punto indicato</translation>
     </message>
     <message>
         <source>the pointer moves along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>il puntatore si muove lungo gli assi</translation>
     </message>
     <message>
         <source>the pointer moves in steps</source>
-        <translation type="unfinished"></translation>
+        <translation>il puntatore si muove a passi</translation>
     </message>
     <message>
         <source>the program of such an object is started for a plot</source>
-        <translation type="unfinished"></translation>
+        <translation>il programma di un tale oggetto viene avviato per una stampa</translation>
     </message>
     <message>
         <source>the radius that CIRCLE proposes; 0 for none</source>
-        <translation type="unfinished"></translation>
+        <translation>il raggio che CIRCLE propone; 0 per nessuno</translation>
     </message>
     <message>
         <source>the radius that FILLET takes</source>
-        <translation type="unfinished"></translation>
+        <translation>il raggio che FILLET prende</translation>
     </message>
     <message>
         <source>the release of the dialect, beginning with its number</source>
-        <translation type="unfinished"></translation>
+        <translation>la versione del dialetto, che comincia con il suo numero</translation>
     </message>
     <message>
         <source>the ribbon is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra multifunzione viene mostrata</translation>
     </message>
     <message>
         <source>the room round the text; negative with a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spazio attorno al testo; negativo con cornice</translation>
     </message>
     <message>
         <source>the running object snaps, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>gli snap ad oggetto attivi, in bit</translation>
     </message>
     <message>
         <source>the scale of all linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala di tutti i tipi di linea</translation>
     </message>
     <message>
         <source>the scale of everything in dimensions; 0 by the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala di tutto nelle quote; 0 secondo il layout</translation>
     </message>
     <message>
         <source>the scale of hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala dei tratteggi</translation>
     </message>
     <message>
         <source>the scale of multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala delle multidirettrici</translation>
     </message>
     <message>
         <source>the scale of multilines</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala delle multilinee</translation>
     </message>
     <message>
         <source>the scale of new viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala delle nuove finestre</translation>
     </message>
     <message>
         <source>the scale of objects of other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>la scala degli oggetti di altri programmi</translation>
     </message>
     <message>
         <source>the scales of chosen annotative things are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrate le scale degli oggetti annotativi scelti</translation>
     </message>
     <message>
         <source>the second chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconda distanza di cimatura</translation>
     </message>
     <message>
         <source>the second colour of gradients</source>
-        <translation type="unfinished"></translation>
+        <translation>il secondo colore delle sfumature</translation>
     </message>
     <message>
         <source>the second extension line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconda linea di estensione viene omessa</translation>
     </message>
     <message>
         <source>the second half of the line is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>la seconda metà della linea viene omessa</translation>
     </message>
     <message>
         <source>the shadow of an entity</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ombra di un&apos;entità</translation>
     </message>
     <message>
         <source>the shape that SHAPE proposes</source>
-        <translation type="unfinished"></translation>
+        <translation>la forma che SHAPE propone</translation>
     </message>
     <message>
         <source>the sheet set of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo di fogli del disegno</translation>
     </message>
     <message>
         <source>the shortest arc of clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;arco più corto delle nuvole</translation>
     </message>
     <message>
         <source>the size of a step in a walk</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione di un passo in una camminata</translation>
     </message>
     <message>
         <source>the size of arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione delle frecce</translation>
     </message>
     <message>
         <source>the size of centre marks</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione dei contrassegni del centro</translation>
     </message>
     <message>
         <source>the size of grips in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione dei grip in pixel</translation>
     </message>
     <message>
         <source>the size of stacked texts, as per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione dei testi in pila, in percentuale</translation>
     </message>
     <message>
         <source>the size of the box that picks dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione della casella che sceglie quote</translation>
     </message>
     <message>
         <source>the size of the cross hairs, as per cent of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione del puntatore a croce, in percentuale della finestra</translation>
     </message>
     <message>
         <source>the size of the drawing&apos;s window in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione della finestra del disegno in pixel</translation>
     </message>
     <message>
         <source>the size of ticks; 0 for arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione dei trattini obliqui; 0 per le frecce</translation>
     </message>
     <message>
         <source>the size of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>la dimensione delle tolleranze</translation>
     </message>
     <message>
         <source>the start page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la pagina iniziale viene mostrata</translation>
     </message>
     <message>
         <source>the status bar is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra di stato viene mostrata</translation>
     </message>
     <message>
         <source>the status bar may have two lines</source>
-        <translation type="unfinished"></translation>
+        <translation>la barra di stato può avere due righe</translation>
     </message>
     <message>
         <source>the step along polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>il passo lungo il puntamento polare</translation>
     </message>
     <message>
         <source>the step of polar tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>il passo del puntamento polare</translation>
     </message>
     <message>
         <source>the step of sketches</source>
-        <translation type="unfinished"></translation>
+        <translation>il passo degli schizzi</translation>
     </message>
     <message>
         <source>the steps of snap</source>
-        <translation type="unfinished"></translation>
+        <translation>i passi dello snap</translation>
     </message>
     <message>
         <source>the style of details</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile dei dettagli</translation>
     </message>
     <message>
         <source>the style of multilines</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile delle multilinee</translation>
     </message>
     <message>
         <source>the style of new multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile delle nuove multidirettrici</translation>
     </message>
     <message>
         <source>the style of new tables</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile delle nuove tabelle</translation>
     </message>
     <message>
         <source>the style of sections</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile delle sezioni</translation>
     </message>
     <message>
         <source>the style of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile dei testi</translation>
     </message>
     <message>
         <source>the symbol of the axes, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>il simbolo degli assi, in bit</translation>
     </message>
     <message>
         <source>the text around the number</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo attorno al numero</translation>
     </message>
     <message>
         <source>the text around the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo attorno alla seconda unità</translation>
     </message>
     <message>
         <source>the text of a unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo delle parti di un&apos;unità</translation>
     </message>
     <message>
         <source>the text of the second unit&apos;s parts</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo delle parti della seconda unità</translation>
     </message>
     <message>
         <source>the text stands above the line</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo sta sopra la linea</translation>
     </message>
     <message>
         <source>the text that hangs at the pointer where MTEXT asks</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo appeso al puntatore quando MTEXT chiede</translation>
     </message>
     <message>
         <source>the tint of gradients of one colour</source>
-        <translation type="unfinished"></translation>
+        <translation>la tinta delle sfumature di un colore</translation>
     </message>
     <message>
         <source>the tool palettes are open</source>
-        <translation type="unfinished"></translation>
+        <translation>le tavolozze degli strumenti sono aperte</translation>
     </message>
     <message>
         <source>the transparency of new entities</source>
-        <translation type="unfinished"></translation>
+        <translation>la trasparenza delle nuove entità</translation>
     </message>
     <message>
         <source>the transparency of new hatches; &quot;.&quot; is the current one</source>
-        <translation type="unfinished"></translation>
+        <translation>la trasparenza dei nuovi tratteggi; &quot;.&quot; è quella corrente</translation>
     </message>
     <message>
         <source>the turn of snap and grid</source>
-        <translation type="unfinished"></translation>
+        <translation>la rotazione di snap e griglia</translation>
     </message>
     <message>
         <source>the turn of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>la rotazione della vista</translation>
     </message>
     <message>
         <source>the unit of drawings that say none, when inserted</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unità dei disegni che non ne indicano, se inseriti</translation>
     </message>
     <message>
         <source>the unit of the drawing that says none</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unità del disegno che non ne indica</translation>
     </message>
     <message>
         <source>the upper tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>la tolleranza superiore</translation>
     </message>
     <message>
         <source>the user places the text</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;utente colloca il testo</translation>
     </message>
     <message>
         <source>the user&apos;s coordinate system is the world&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>il sistema di coordinate utente è quello globale</translation>
     </message>
     <message>
         <source>the user&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome dell&apos;utente</translation>
     </message>
     <message>
         <source>the user&apos;s own dictionary of spelling</source>
-        <translation type="unfinished"></translation>
+        <translation>il dizionario ortografico personale dell&apos;utente</translation>
     </message>
     <message>
         <source>the user&apos;s timer</source>
-        <translation type="unfinished"></translation>
+        <translation>il cronometro dell&apos;utente</translation>
     </message>
     <message>
         <source>the user&apos;s timer is on</source>
-        <translation type="unfinished"></translation>
+        <translation>il cronometro dell&apos;utente è attivo</translation>
     </message>
     <message>
         <source>the value of the current annotation scale</source>
-        <translation type="unfinished"></translation>
+        <translation>il valore della scala di annotazione corrente</translation>
     </message>
     <message>
         <source>the version of bodies that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>la versione dei corpi che vengono scritti</translation>
     </message>
     <message>
         <source>the version of the drawing&apos;s file, as &quot;AC1032&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la versione del file del disegno, come &quot;AC1032&quot;</translation>
     </message>
     <message>
         <source>the view is a perspective</source>
-        <translation type="unfinished"></translation>
+        <translation>la vista è una prospettiva</translation>
     </message>
     <message>
         <source>the viewport has layers with settings of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>la finestra ha layer con impostazioni proprie</translation>
     </message>
     <message>
         <source>the wheel button pans</source>
-        <translation type="unfinished"></translation>
+        <translation>il tasto della rotella esegue il pan</translation>
     </message>
     <message>
         <source>the width of POLYSOLID</source>
-        <translation type="unfinished"></translation>
+        <translation>la larghezza di POLYSOLID</translation>
     </message>
     <message>
         <source>the width of polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>la larghezza delle polilinee</translation>
     </message>
     <message>
         <source>the width of traces</source>
-        <translation type="unfinished"></translation>
+        <translation>la larghezza delle tracce</translation>
     </message>
     <message>
         <source>the workspace</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;area di lavoro</translation>
     </message>
     <message>
         <source>the x axis of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;asse x del sistema di coordinate utente</translation>
     </message>
     <message>
         <source>the y axis of the user&apos;s coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;asse y del sistema di coordinate utente</translation>
     </message>
     <message>
         <source>the zone of the drawing&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>la zona del luogo del disegno</translation>
     </message>
     <message>
         <source>their distance</source>
-        <translation type="unfinished"></translation>
+        <translation>la loro distanza</translation>
     </message>
     <message>
         <source>their distances</source>
-        <translation type="unfinished"></translation>
+        <translation>le loro distanze</translation>
     </message>
     <message>
         <source>there are menus</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono menu</translation>
     </message>
     <message>
         <source>ticks along the axes, in early programs</source>
-        <translation type="unfinished"></translation>
+        <translation>tacche lungo gli assi, nei primi programmi</translation>
     </message>
     <message>
         <source>ticks of the clock, for measuring</source>
-        <translation type="unfinished"></translation>
+        <translation>impulsi dell&apos;orologio, per misurare</translation>
     </message>
     <message>
         <source>tips are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono mostrati suggerimenti</translation>
     </message>
     <message>
         <source>tips on the keys beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>suggerimenti sui tasti accanto al puntatore</translation>
     </message>
     <message>
         <source>tips on what is under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>suggerimenti su ciò che è sotto il puntatore</translation>
     </message>
     <message>
         <source>tolerances are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le tolleranze vengono mostrate</translation>
     </message>
     <message>
         <source>transparency is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>la trasparenza viene stampata</translation>
     </message>
     <message>
         <source>transparency is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>la trasparenza viene mostrata</translation>
     </message>
     <message>
         <source>typed coordinates go before object snap: never (0), always (1), not in scripts (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>le coordinate digitate prevalgono sullo snap ad oggetto: mai (0), sempre (1), non negli script (2)</translation>
     </message>
     <message>
         <source>units of light</source>
-        <translation type="unfinished"></translation>
+        <translation>unità di luce</translation>
     </message>
     <message>
         <source>unknown entities are told</source>
-        <translation type="unfinished"></translation>
+        <translation>vengono segnalate entità sconosciute</translation>
     </message>
     <message>
         <source>viewports keep their coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>le finestre conservano il loro sistema di coordinate</translation>
     </message>
     <message>
         <source>views are made anew when needed</source>
-        <translation type="unfinished"></translation>
+        <translation>le viste vengono rigenerate quando serve</translation>
     </message>
     <message>
         <source>views count from the world (1) or the user&apos;s system (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>le viste contano dal sistema globale (1) o dell&apos;utente (0)</translation>
     </message>
     <message>
         <source>views keep their coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>le viste conservano il loro sistema di coordinate</translation>
     </message>
     <message>
         <source>what TRIM and EXTEND project on</source>
-        <translation type="unfinished"></translation>
+        <translation>su che cosa proiettano TRIM ed EXTEND</translation>
     </message>
     <message>
         <source>what a file&apos;s tab shows</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che mostra la scheda di un file</translation>
     </message>
     <message>
         <source>what commands make others of is erased</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò da cui i comandi ricavano altro viene cancellato</translation>
     </message>
     <message>
         <source>what fills the gaps of offset polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che riempie i vuoti delle polilinee di offset</translation>
     </message>
     <message>
         <source>what goes out first where there is no room</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che esce per primo quando manca lo spazio</translation>
     </message>
     <message>
         <source>what happens to external drawings is logged</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che accade ai disegni esterni viene registrato</translation>
     </message>
     <message>
         <source>what has changed since the drawing was saved, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è cambiato dal salvataggio del disegno, in bit</translation>
     </message>
     <message>
         <source>what is asked when a block is defined again</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che si chiede quando un blocco viene ridefinito</translation>
     </message>
     <message>
         <source>what is chosen is added to what was</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che si sceglie si aggiunge a quanto già scelto</translation>
     </message>
     <message>
         <source>what is chosen is drawn smoothly</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è scelto viene disegnato liscio</translation>
     </message>
     <message>
         <source>what is chosen is shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è scelto viene mostrato come tale</translation>
     </message>
     <message>
         <source>what is chosen of things that hide each other</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che si sceglie di oggetti che si nascondono</translation>
     </message>
     <message>
         <source>what is cut off near the eye, as per cent</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che viene tagliato vicino all&apos;occhio, in percentuale</translation>
     </message>
     <message>
         <source>what is done after a crash</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che si fa dopo un arresto anomalo</translation>
     </message>
     <message>
         <source>what is not shown under the pointer, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che non viene mostrato sotto il puntatore, in bit</translation>
     </message>
     <message>
         <source>what is offered while one types</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che viene proposto mentre si digita</translation>
     </message>
     <message>
         <source>what is plotted in the background, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che viene stampato in background, in bit</translation>
     </message>
     <message>
         <source>what is shown while a grip is pulled, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che viene mostrato mentre si tira un grip, in bit</translation>
     </message>
     <message>
         <source>what is shown while attributes are edited</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che viene mostrato mentre si modificano attributi</translation>
     </message>
     <message>
         <source>what is under the pointer is shown so</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è sotto il puntatore viene mostrato come tale</translation>
     </message>
     <message>
         <source>what is under way: a command (1), transparent one (2), script (4), dialog (8), Lisp (32)</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è in corso: un comando (1), uno trasparente (2), script (4), dialogo (8), Lisp (32)</translation>
     </message>
     <message>
         <source>what keeps to the drawing order</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che rispetta l&apos;ordine di disegno</translation>
     </message>
     <message>
         <source>what keeps to the order of the file, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che rispetta l&apos;ordine del file, in bit</translation>
     </message>
     <message>
         <source>what layouts keep ready</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che i layout tengono pronto</translation>
     </message>
     <message>
         <source>what lengths are rounded to</source>
-        <translation type="unfinished"></translation>
+        <translation>a che cosa vengono arrotondate le lunghezze</translation>
     </message>
     <message>
         <source>what lies above each other is offered</source>
-        <translation type="unfinished"></translation>
+        <translation>viene proposto ciò che sta uno sopra l&apos;altro</translation>
     </message>
     <message>
         <source>what menus echo, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che i menu visualizzano, in bit</translation>
     </message>
     <message>
         <source>what moves with the text</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che si sposta con il testo</translation>
     </message>
     <message>
         <source>what new drawings do</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che fanno i nuovi disegni</translation>
     </message>
     <message>
         <source>what object snap leaves out, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che lo snap ad oggetto tralascia, in bit</translation>
     </message>
     <message>
         <source>what orthographic settings count from</source>
-        <translation type="unfinished"></translation>
+        <translation>da che cosa contano le impostazioni ortogonali</translation>
     </message>
     <message>
         <source>what relative links start from</source>
-        <translation type="unfinished"></translation>
+        <translation>da dove partono i collegamenti relativi</translation>
     </message>
     <message>
         <source>what similar means, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che significa simile, in bit</translation>
     </message>
     <message>
         <source>what the picture in the file shows</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che mostra l&apos;immagine nel file</translation>
     </message>
     <message>
         <source>what the program shows at its start</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che il programma mostra all&apos;avvio</translation>
     </message>
     <message>
         <source>what the screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che mostra lo schermo</translation>
     </message>
     <message>
         <source>what the second unit is rounded to</source>
-        <translation type="unfinished"></translation>
+        <translation>a che cosa viene arrotondata la seconda unità</translation>
     </message>
     <message>
         <source>what the view is: perspective, clipped, ..., as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che la vista è: prospettiva, ritagliata, ..., in bit</translation>
     </message>
     <message>
         <source>what the view looks at</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che la vista guarda</translation>
     </message>
     <message>
         <source>when coordinates are shown beside the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>quando le coordinate vengono mostrate accanto al puntatore</translation>
     </message>
     <message>
         <source>when fields are evaluated, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>quando vengono valutati i campi, in bit</translation>
     </message>
     <message>
         <source>when it was made, in world time</source>
-        <translation type="unfinished"></translation>
+        <translation>quando è stato creato, in ora universale</translation>
     </message>
     <message>
         <source>when it was saved last</source>
-        <translation type="unfinished"></translation>
+        <translation>quando è stato salvato per ultimo</translation>
     </message>
     <message>
         <source>when it was saved last, in world time</source>
-        <translation type="unfinished"></translation>
+        <translation>quando è stato salvato per ultimo, in ora universale</translation>
     </message>
     <message>
         <source>when links to tables are checked</source>
-        <translation type="unfinished"></translation>
+        <translation>quando vengono controllati i collegamenti a tabelle</translation>
     </message>
     <message>
         <source>when modules of other makers are loaded, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>quando vengono caricati moduli di altri produttori, in bit</translation>
     </message>
     <message>
         <source>when new layers are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>quando vengono cercati nuovi layer</translation>
     </message>
     <message>
         <source>when new layers are told, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>quando vengono segnalati nuovi layer, in bit</translation>
     </message>
     <message>
         <source>when the drawing was made</source>
-        <translation type="unfinished"></translation>
+        <translation>quando è stato creato il disegno</translation>
     </message>
     <message>
         <source>when the pointer snaps to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>quando il puntatore aggancia la griglia</translation>
     </message>
     <message>
         <source>where a hatch like another has its origin</source>
-        <translation type="unfinished"></translation>
+        <translation>dove ha la sua origine un tratteggio uguale a un altro</translation>
     </message>
     <message>
         <source>where angles count from, from the x axis</source>
-        <translation type="unfinished"></translation>
+        <translation>da dove contano gli angoli, dall&apos;asse x</translation>
     </message>
     <message>
         <source>where earlier input is offered, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>dove viene proposto l&apos;input precedente, in bit</translation>
     </message>
     <message>
         <source>where multilines lie on their points: top, middle, bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>come stanno le multilinee sui loro punti: sopra, mezzo, sotto</translation>
     </message>
     <message>
         <source>where new hatches lie in the drawing order</source>
-        <translation type="unfinished"></translation>
+        <translation>dove stanno i nuovi tratteggi nell&apos;ordine di disegno</translation>
     </message>
     <message>
         <source>where north is, from the y axis</source>
-        <translation type="unfinished"></translation>
+        <translation>dov&apos;è il nord, dall&apos;asse y</translation>
     </message>
     <message>
         <source>where on earth the drawing is</source>
-        <translation type="unfinished"></translation>
+        <translation>in quale luogo della terra si trova il disegno</translation>
     </message>
     <message>
         <source>where quick properties are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>dove vengono mostrate le proprietà rapide</translation>
     </message>
     <message>
         <source>where the grid is of dots, as bits</source>
-        <translation type="unfinished"></translation>
+        <translation>dove la griglia è di punti, in bit</translation>
     </message>
     <message>
         <source>where the origin of hatches lies</source>
-        <translation type="unfinished"></translation>
+        <translation>dove sta l&apos;origine dei tratteggi</translation>
     </message>
     <message>
         <source>where the sign of an arc&apos;s length stands</source>
-        <translation type="unfinished"></translation>
+        <translation>dove sta il segno della lunghezza d&apos;arco</translation>
     </message>
     <message>
         <source>where the text stands along the line</source>
-        <translation type="unfinished"></translation>
+        <translation>dove sta il testo lungo la linea</translation>
     </message>
     <message>
         <source>where the view is seen from</source>
-        <translation type="unfinished"></translation>
+        <translation>da dove si guarda la vista</translation>
     </message>
     <message>
         <source>where to look for what knows them</source>
-        <translation type="unfinished"></translation>
+        <translation>dove cercare ciò che le conosce</translation>
     </message>
     <message>
         <source>where tolerances stand beside the number</source>
-        <translation type="unfinished"></translation>
+        <translation>dove stanno le tolleranze accanto al numero</translation>
     </message>
     <message>
         <source>which changes of the view are smooth</source>
-        <translation type="unfinished"></translation>
+        <translation>quali cambi della vista sono graduali</translation>
     </message>
     <message>
         <source>which extents count</source>
-        <translation type="unfinished"></translation>
+        <translation>quali estensioni contano</translation>
     </message>
     <message>
         <source>which islands a hatch leaves out</source>
-        <translation type="unfinished"></translation>
+        <translation>quali isole un tratteggio tralascia</translation>
     </message>
     <message>
         <source>which parts of solids are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>quali parti di solidi vengono scelte</translation>
     </message>
     <message>
         <source>which pictures in the file are kept up</source>
-        <translation type="unfinished"></translation>
+        <translation>quali immagini nel file vengono aggiornate</translation>
     </message>
     <message>
         <source>which questions commands leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>quali domande i comandi tralasciano</translation>
     </message>
     <message>
         <source>which tips beside the pointer take its settings</source>
-        <translation type="unfinished"></translation>
+        <translation>quali suggerimenti accanto al puntatore prendono le sue impostazioni</translation>
     </message>
     <message>
         <source>which tool bars and panels are fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>quali barre e pannelli sono fissi</translation>
     </message>
     <message>
         <source>which way the wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>in che senso ingrandisce la rotella</translation>
     </message>
     <message>
         <source>why a function of Lisp failed, as a number</source>
-        <translation type="unfinished"></translation>
+        <translation>perché una funzione Lisp è fallita, come numero</translation>
     </message>
     <message>
         <source>windows are dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>le finestre vengono trascinate</translation>
     </message>
     <message>
         <source>windows of selections are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>le finestre di selezione vengono riempite</translation>
     </message>
     <message>
         <source>with more boundaries than this HATCH warns</source>
-        <translation type="unfinished"></translation>
+        <translation>con più contorni di questi HATCH avvisa</translation>
     </message>
     <message>
         <source>with more entities than this no grips are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>con più entità di queste non vengono mostrati grip</translation>
     </message>
     <message>
         <source>words of object snap replace the running modes</source>
-        <translation type="unfinished"></translation>
+        <translation>le parole di snap ad oggetto sostituiscono i modi attivi</translation>
     </message>
     <message>
         <source>zeros of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>zeri degli angoli</translation>
     </message>
     <message>
         <source>zeros of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>zeri delle lunghezze</translation>
     </message>
     <message>
         <source>zeros of the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>zeri della seconda unità</translation>
     </message>
     <message>
         <source>zeros of tolerances</source>
-        <translation type="unfinished"></translation>
+        <translation>zeri delle tolleranze</translation>
     </message>
     <message>
         <source>zeros of tolerances in the second unit</source>
-        <translation type="unfinished"></translation>
+        <translation>zeri delle tolleranze nella seconda unità</translation>
     </message>
 </context>
 <context>
     <name>Kernel</name>
     <message>
         <source>%1 has no file yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha ancora un file.</translation>
     </message>
     <message>
         <source>
 More files that the drawing names were not read.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Altri file nominati dal disegno non sono stati letti.
+</translation>
     </message>
     <message>
         <source>
 %1 was not read: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non è stato letto: %2.
+</translation>
     </message>
     <message>
         <source>%1 (recovered)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (recuperato)</translation>
     </message>
     <message>
         <source>
 Saving this drawing was broken off once. What was to be saved is in %1; the drawing&apos;s own file may have only a part of it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un salvataggio di questo disegno è stato interrotto. Ciò che doveva essere salvato è in %1; il file del disegno può contenerne solo una parte.
+</translation>
     </message>
     <message>
         <source>The document has no Lisp engine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento non ha un motore Lisp.</translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
@@ -9930,197 +9936,211 @@ Saving this drawing was broken off once. What was to be saved is in %1; the draw
     </message>
     <message>
         <source>%1 was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato annullato.</translation>
     </message>
     <message>
         <source>%1: %2; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2; nulla è stato modificato.</translation>
     </message>
     <message>
         <source>%1 stays open while a session is played on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 resta aperto mentre vi viene riprodotta una sessione.</translation>
     </message>
     <message>
         <source>%1 was not closed: it was changed since.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato chiuso: nel frattempo è stato modificato.</translation>
     </message>
     <message>
         <source>%1 was not closed: a program of it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato chiuso: un suo programma è in esecuzione.</translation>
     </message>
     <message>
         <source>%1: %2 done, %3 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 fatti, %3 saltati</translation>
     </message>
     <message>
         <source>and %1 more
 </source>
-        <translation type="unfinished"></translation>
+        <translation>e altri %1
+</translation>
     </message>
     <message>
         <source>
 *Cancel*
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+*Annullato*
+</translation>
     </message>
     <message>
         <source>This cannot be allowed here: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non può essere consentito qui: %1.</translation>
     </message>
     <message>
         <source>The folder cannot be trusted: everyone may write to it, or its name has a &quot;;&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella non può essere attendibile: tutti possono scrivervi, o il suo nome ha un &quot;;&quot;.</translation>
     </message>
     <message>
         <source>The list cannot be kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;elenco non può essere conservato in %1.</translation>
     </message>
     <message>
         <source>its folder is not trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>la sua cartella non è attendibile</translation>
     </message>
     <message>
         <source>everyone may write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tutti possono scrivere in %1</translation>
     </message>
     <message>
         <source>
 TRUSTEDPATHS cannot be kept in %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+TRUSTEDPATHS non può essere conservato in %1.
+</translation>
     </message>
     <message>
         <source>
 %1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non è stato caricato: %2. TRUSTEDPATHS, o l&apos;opzione --trust, indica le cartelle i cui programmi possono essere eseguiti.
+</translation>
     </message>
     <message>
         <source>%1 was opened for reading only; save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato aperto in sola lettura; salvarlo con un altro nome.</translation>
     </message>
     <message>
         <source>%1 was changed by another program since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è stato modificato da un altro programma da quando è stato aperto o salvato qui.</translation>
     </message>
     <message>
         <source>%1 is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non c&apos;è più.</translation>
     </message>
     <message>
         <source>%1 is the damaged file that this drawing was recovered from; save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è il file danneggiato da cui è stato recuperato questo disegno; salvarlo con un altro nome.</translation>
     </message>
     <message>
         <source>%1 leads to another file than when it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 porta a un file diverso da quando è stato aperto o salvato qui.</translation>
     </message>
     <message>
         <source>%1 is open in this program; close it first, or give another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è aperto in questo programma; chiuderlo prima o indicare un altro nome.</translation>
     </message>
     <message>
         <source>%1 is open in another program (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è aperto in un altro programma (%2).</translation>
     </message>
     <message>
         <source> of </source>
-        <translation type="unfinished"></translation>
+        <translation> di </translation>
     </message>
     <message>
         <source> (need %1): </source>
-        <translation type="unfinished"></translation>
+        <translation> (occorre %1): </translation>
     </message>
     <message>
         <source>
 Second point of mid: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Secondo punto del medio: </translation>
     </message>
     <message>
         <source>
 First point of mid: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Primo punto del medio: </translation>
     </message>
     <message>
         <source>&lt;Offset&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Offset&gt;: </translation>
     </message>
     <message>
         <source>
 Base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Punto base: </translation>
     </message>
     <message>
         <source>
 Next point (Press ENTER to end tracking): </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Punto successivo (premere INVIO per terminare il puntamento): </translation>
     </message>
     <message>
         <source>
 First tracking point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Primo punto di puntamento: </translation>
     </message>
     <message>
         <source>
 Specify point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare punto: </translation>
     </message>
     <message>
         <source>
 Specify temporary tracking point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare punto di puntamento temporaneo: </translation>
     </message>
     <message>
         <source>Requires an integer value or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un valore intero o un&apos;opzione.</translation>
     </message>
     <message>
         <source>Requires numeric value or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un valore numerico o un&apos;opzione.</translation>
     </message>
     <message>
         <source>Requires numeric distance, two points, or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una distanza numerica, due punti o un&apos;opzione.</translation>
     </message>
     <message>
         <source>Requires valid numeric angle, two points, or option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un angolo numerico valido, due punti o un&apos;opzione.</translation>
     </message>
     <message>
         <source>Point or option keyword required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un punto o un&apos;opzione.</translation>
     </message>
     <message>
         <source>Requires an integer value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un valore intero.</translation>
     </message>
     <message>
         <source>Requires numeric value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un valore numerico.</translation>
     </message>
     <message>
         <source>Requires numeric distance or two points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una distanza numerica o due punti.</translation>
     </message>
     <message>
         <source>Requires valid numeric angle or two points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un angolo numerico valido o due punti.</translation>
     </message>
     <message>
         <source>Invalid option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzione non valida.</translation>
     </message>
     <message>
         <source>Expects a point or %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Atteso un punto o %1.</translation>
     </message>
     <message>
         <source>Invalid input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Input non valido.</translation>
     </message>
     <message>
         <source>Invalid point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto non valido.</translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
@@ -10128,54 +10148,61 @@ Specify temporary tracking point: </source>
     </message>
     <message>
         <source>Value must not be negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il valore non deve essere negativo.</translation>
     </message>
     <message>
         <source>**Outside limits</source>
-        <translation type="unfinished"></translation>
+        <translation>**Fuori dai limiti</translation>
     </message>
     <message>
         <source>
 Specify second point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare secondo punto: </translation>
     </message>
     <message>
         <source> to </source>
-        <translation type="unfinished"></translation>
+        <translation> a </translation>
     </message>
     <message>
         <source>
 Angle Override: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Angolo sostitutivo: </translation>
     </message>
     <message>
         <source>No %1 found for specified point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nel punto indicato non si trova: %1.</translation>
     </message>
     <message>
         <source>
 Enter group name: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Digitare nome del gruppo: </translation>
     </message>
     <message>
         <source>
 Remove objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rimuovere oggetti: </translation>
     </message>
     <message>
         <source>
 First point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Primo punto: </translation>
     </message>
     <message>
         <source>
 Specify first corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare primo angolo: </translation>
     </message>
     <message>
         <source>
 Next point: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Punto successivo: </translation>
     </message>
     <message>
         <source>
@@ -10192,148 +10219,162 @@ Il comando è stato completamente annullato.</translation>
     <message>
         <source>
 Cannot find group &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile trovare il gruppo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 trovati</translation>
     </message>
     <message>
         <source>
 %1 found, %2 total</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 trovati, %2 totale</translation>
     </message>
     <message>
         <source>
 Select objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare oggetti: </translation>
     </message>
     <message>
         <source>endpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>punto finale</translation>
     </message>
     <message>
         <source>midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>punto medio</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>centro</translation>
     </message>
     <message>
         <source>node</source>
-        <translation type="unfinished"></translation>
+        <translation>nodo</translation>
     </message>
     <message>
         <source>quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>quadrante</translation>
     </message>
     <message>
         <source>intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>intersezione</translation>
     </message>
     <message>
         <source>insertion point</source>
-        <translation type="unfinished"></translation>
+        <translation>punto di inserimento</translation>
     </message>
     <message>
         <source>perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>perpendicolare</translation>
     </message>
     <message>
         <source>tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>tangente</translation>
     </message>
     <message>
         <source>nearest point</source>
-        <translation type="unfinished"></translation>
+        <translation>punto più vicino</translation>
     </message>
     <message>
         <source>quick</source>
-        <translation type="unfinished"></translation>
+        <translation>rapido</translation>
     </message>
     <message>
         <source>apparent intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>intersezione apparente</translation>
     </message>
     <message>
         <source>extension</source>
-        <translation type="unfinished"></translation>
+        <translation>estensione</translation>
     </message>
     <message>
         <source>parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>parallelo</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>
 The rest of what was typed ahead is left out.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il resto di ciò che è stato digitato in anticipo viene tralasciato.
+</translation>
     </message>
     <message>
         <source>
 Nobody is there to answer &quot;%1&quot;: cancelled.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuno può rispondere a &quot;%1&quot;: annullato.
+</translation>
     </message>
     <message>
         <source>*Cancel*
 </source>
-        <translation type="unfinished"></translation>
+        <translation>*Annullato*
+</translation>
     </message>
     <message>
         <source>No help page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna pagina della guida.</translation>
     </message>
     <message>
         <source>
 This link of the help page is not followed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Questo collegamento della pagina della guida non viene seguito: %1
+</translation>
     </message>
     <message>
         <source>it is no module (odrxGetAPIVersion is missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un modulo (manca odrxGetAPIVersion)</translation>
     </message>
     <message>
         <source>it was built for version %1 of the interface, this host has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>è stato fatto per la versione %1 dell&apos;interfaccia, questo host ha la %2</translation>
     </message>
     <message>
         <source>it is no module (odrxCreateModuleObject is missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un modulo (manca odrxCreateModuleObject)</translation>
     </message>
     <message>
         <source>it made no module object</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha creato un oggetto modulo</translation>
     </message>
     <message>
         <source>there is no memory for its module object</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è memoria per il suo oggetto modulo</translation>
     </message>
     <message>
         <source>Cannot load %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile caricare %1: %2</translation>
     </message>
     <message>
         <source>
 %1 cannot run while another command is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non può essere eseguito mentre è in corso un altro comando.</translation>
     </message>
     <message>
         <source>
 %1: the setting cannot be written to %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1: l&apos;impostazione non può essere scritta in %2.
+</translation>
     </message>
     <message>
         <source>The command aliases in %1 cannot be read: %2 The ones before stay in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli alias dei comandi in %1 non possono essere letti: %2 Restano in uso i precedenti.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
@@ -10342,31 +10383,40 @@ This link of the help page is not followed: %1
     <message>
         <source>
 %1 has ended, nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è terminato, nulla è stato modificato.</translation>
     </message>
     <message>
         <source>
 ** That command may not be invoked transparently **
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+** Quel comando non può essere richiamato in modo trasparente **
+</translation>
     </message>
     <message>
         <source>
 Resuming %1 command.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ripresa del comando %1.
+</translation>
     </message>
     <message>
         <source>
 %1 cannot be kept.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non può essere conservato.
+</translation>
     </message>
     <message>
         <source>
 The user&apos;s settings cannot be kept.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le impostazioni dell&apos;utente non possono essere conservate.
+</translation>
     </message>
 </context>
 <context>
@@ -15030,7 +15080,7 @@ No drawing is open.
     <name>host::app::DrawingTabs</name>
     <message>
         <source>%1 (recovered)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (recuperato)</translation>
     </message>
     <message>
         <source>%1 (read only)</source>
