@@ -16,13 +16,13 @@ using namespace Qt::StringLiterals;
 /// A frame from corner to corner, and what differs within. Pictures have a pixel for a drawing unit.
 std::string framed(const std::string &entities)
 {
-    return "0 LWPOLYLINE|5 90|8 0|90 4|70 1|10 0|20 0|10 400|20 0|10 400|20 300|10 0|20 300|" + entities;
+    return "0 LWPOLYLINE|5 90|8 0|90 4|70 1|10 0|20 0|10 400|20 0|10 400|20 300|10 0|20 300" + entities;
 }
 
 std::string lineAt(const char *handle, int y)
 {
-    return "0 LINE|5 " + std::string(handle) + "|8 0|10 50|20 " + std::to_string(y) + "|11 350|21 " +
-           std::to_string(y) + "|";
+    return "|0 LINE|5 " + std::string(handle) + "|8 0|10 50|20 " + std::to_string(y) + "|11 350|21 " +
+           std::to_string(y);
 }
 
 const std::string block = "0 LINE|5 81|8 0|10 0|20 0|11 100|21 0";
@@ -77,12 +77,12 @@ TEST_F(DifferencePictureTest, TellsWhatIsGoneNewAndChanged)
 
 TEST_F(DifferencePictureTest, ShowsInsertsOfABlockThatChanged)
 {
-    const std::string insert = framed("0 INSERT|5 91|8 0|2 B|10 50|20 100|");
+    const std::string insert = framed("|0 INSERT|5 91|8 0|2 B|10 50|20 100");
     const QImage same = drawn({.entities = insert, .blocks = blockText("B", block)},
                               {.entities = insert, .blocks = blockText("B", block)});
-    const QImage image =
-        drawn({.entities = insert, .blocks = blockText("B", block)},
-              {.entities = insert, .blocks = blockText("B", block + "|0 LINE|5 82|8 0|10 0|20 50|11 99|21 50")});
+    const std::string turned = "0 LINE|5 81|8 0|10 0|20 0|11 100|21 90";
+    const QImage image = drawn({.entities = insert, .blocks = blockText("B", block)},
+                               {.entities = insert, .blocks = blockText("B", turned)});
     EXPECT_GT(pixels(image, blue), pixels(same, blue) + 100);
     EXPECT_GT(pixels(image, orange), pixels(same, orange) + 50);
 }
@@ -90,7 +90,7 @@ TEST_F(DifferencePictureTest, ShowsInsertsOfABlockThatChanged)
 TEST_F(DifferencePictureTest, RingsWhatIsTooSmall)
 {
     const QImage same = drawn({.entities = framed("")}, {.entities = framed("")});
-    const QImage image = drawn({.entities = framed("")}, {.entities = framed("0 POINT|5 91|8 0|10 200|20 150")});
+    const QImage image = drawn({.entities = framed("")}, {.entities = framed("|0 POINT|5 91|8 0|10 200|20 150")});
     EXPECT_GT(pixels(image, green), pixels(same, green) + 20);
 }
 
