@@ -10423,167 +10423,167 @@ No se puede guardar la configuración del usuario.
     <name>Keywords</name>
     <message>
         <source>2points</source>
-        <translation type="unfinished"></translation>
+        <translation>2puntos</translation>
     </message>
     <message>
         <source>3point</source>
-        <translation type="unfinished"></translation>
+        <translation>3punto</translation>
     </message>
     <message>
         <source>3points</source>
-        <translation type="unfinished"></translation>
+        <translation>3puntos</translation>
     </message>
     <message>
         <source>ANnotative</source>
-        <translation type="unfinished"></translation>
+        <translation>ANotativo</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Encima</translation>
     </message>
     <message>
         <source>Above objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Encima de objetos</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Add area</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir área</translation>
     </message>
     <message>
         <source>Add leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir directrices</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzado</translation>
     </message>
     <message>
         <source>Advanced options</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzado</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>Ang</source>
-        <translation type="unfinished"></translation>
+        <translation>ángUlo</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>ángUlo</translation>
     </message>
     <message>
         <source>Annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotación</translation>
     </message>
     <message>
         <source>Annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotativo</translation>
     </message>
     <message>
         <source>Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>de Todos modos</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud arco</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>áRea</translation>
     </message>
     <message>
         <source>Array</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz</translation>
     </message>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Flecha</translation>
     </message>
     <message>
         <source>As</source>
-        <translation type="unfinished"></translation>
+        <translation>Como</translation>
     </message>
     <message>
         <source>As displayed</source>
-        <translation type="unfinished"></translation>
+        <translation>Como se muestra</translation>
     </message>
     <message>
         <source>Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspecto</translation>
     </message>
     <message>
         <source>Associativity</source>
-        <translation type="unfinished"></translation>
+        <translation>Asociatividad</translation>
     </message>
     <message>
         <source>At least</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo</translation>
     </message>
     <message>
         <source>Attach</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlazar</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>BAck</source>
-        <translation type="unfinished"></translation>
+        <translation>POsterior</translation>
     </message>
     <message>
         <source>BEgin</source>
-        <translation type="unfinished"></translation>
+        <translation>INicio</translation>
     </message>
     <message>
         <source>BYBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>PORBloque</translation>
     </message>
     <message>
         <source>BYLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>PORCapa</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroceder</translation>
     </message>
     <message>
         <source>Base</source>
-        <translation type="unfinished"></translation>
+        <translation>Base</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto base</translation>
     </message>
     <message>
         <source>Below</source>
-        <translation type="unfinished"></translation>
+        <translation>dEbajo</translation>
     </message>
     <message>
         <source>Binary</source>
-        <translation type="unfinished"></translation>
+        <translation>Binario</translation>
     </message>
     <message>
         <source>Bind</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir</translation>
     </message>
     <message>
         <source>Bisect</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisecar</translation>
     </message>
     <message>
         <source>Block</source>
@@ -10591,7 +10591,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Block selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques designados</translation>
     </message>
     <message>
         <source>Blocks</source>
@@ -10599,11 +10599,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambos</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>aBajo</translation>
     </message>
     <message>
         <source>Boundaries</source>
@@ -10611,15 +10611,15 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Boundary set</source>
-        <translation type="unfinished"></translation>
+        <translation>Conjunto de contornos</translation>
     </message>
     <message>
         <source>Break</source>
-        <translation type="unfinished"></translation>
+        <translation>rOmper</translation>
     </message>
     <message>
         <source>ByBlock</source>
@@ -10631,27 +10631,27 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>CEnter</source>
-        <translation type="unfinished"></translation>
+        <translation>CEntro</translation>
     </message>
     <message>
         <source>CLose</source>
-        <translation type="unfinished"></translation>
+        <translation>CIerra</translation>
     </message>
     <message>
         <source>COlor</source>
-        <translation type="unfinished"></translation>
+        <translation>COlor</translation>
     </message>
     <message>
         <source>COlorbook</source>
-        <translation type="unfinished"></translation>
+        <translation>LIbrocolor</translation>
     </message>
     <message>
         <source>CV</source>
-        <translation type="unfinished"></translation>
+        <translation>VC</translation>
     </message>
     <message>
         <source>Calligraphy</source>
-        <translation type="unfinished"></translation>
+        <translation>Caligrafía</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -10659,27 +10659,27 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Chamfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaflán</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar</translation>
     </message>
     <message>
         <source>Chord</source>
-        <translation type="unfinished"></translation>
+        <translation>cUerda</translation>
     </message>
     <message>
         <source>Circumscribed about circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Circunscrito alrededor del círculo</translation>
     </message>
     <message>
         <source>Clear overrides</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar modificaciones</translation>
     </message>
     <message>
         <source>Close</source>
@@ -10691,115 +10691,115 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>colUmnas</translation>
     </message>
     <message>
         <source>Combine</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinar</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>cOmandos</translation>
     </message>
     <message>
         <source>Constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenido</translation>
     </message>
     <message>
         <source>Content first</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenido primero</translation>
     </message>
     <message>
         <source>Content type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de contenido</translation>
     </message>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Control</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear</translation>
     </message>
     <message>
         <source>Crossing</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Actual</translation>
     </message>
     <message>
         <source>Current ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>Actual SCP</translation>
     </message>
     <message>
         <source>DElta</source>
-        <translation type="unfinished"></translation>
+        <translation>INcremento</translation>
     </message>
     <message>
         <source>DEtailviewstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>DEtallevistaestilos</translation>
     </message>
     <message>
         <source>DIsassociate</source>
-        <translation type="unfinished"></translation>
+        <translation>DEsasociar</translation>
     </message>
     <message>
         <source>DRaw</source>
-        <translation type="unfinished"></translation>
+        <translation>ORden</translation>
     </message>
     <message>
         <source>DRaw order</source>
-        <translation type="unfinished"></translation>
+        <translation>ORden de dibujo</translation>
     </message>
     <message>
         <source>DXF</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF</translation>
     </message>
     <message>
         <source>DYnamic</source>
-        <translation type="unfinished"></translation>
+        <translation>DInámico</translation>
     </message>
     <message>
         <source>Decurve</source>
-        <translation type="unfinished"></translation>
+        <translation>Descurvar</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Pordefecto</translation>
     </message>
     <message>
         <source>Degree</source>
-        <translation type="unfinished"></translation>
+        <translation>Grado</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenlazar</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diámetro</translation>
     </message>
     <message>
         <source>Dimensions</source>
@@ -10807,139 +10807,139 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Dimstyle</source>
-        <translation type="unfinished"></translation>
+        <translation>esTilocota</translation>
     </message>
     <message>
         <source>Dimstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>esTiloscota</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>Displacement</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancia</translation>
     </message>
     <message>
         <source>Distribute</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuir</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>Dinámico</translation>
     </message>
     <message>
         <source>EXport</source>
-        <translation type="unfinished"></translation>
+        <translation>EXportar</translation>
     </message>
     <message>
         <source>Edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Arista</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Edit vertex</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar vértice</translation>
     </message>
     <message>
         <source>Elev</source>
-        <translation type="unfinished"></translation>
+        <translation>Elev</translation>
     </message>
     <message>
         <source>Elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevación</translation>
     </message>
     <message>
         <source>Empty text objects</source>
-        <translation type="unfinished"></translation>
+        <translation>tExtos vacíos</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Endtoend</source>
-        <translation type="unfinished"></translation>
+        <translation>Extremos</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>Exactly</source>
-        <translation type="unfinished"></translation>
+        <translation>Exacto</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Explode</source>
-        <translation type="unfinished"></translation>
+        <translation>Descomponer</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Alargar</translation>
     </message>
     <message>
         <source>Extents</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión</translation>
     </message>
     <message>
         <source>Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Cara</translation>
     </message>
     <message>
         <source>Fence</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde</translation>
     </message>
     <message>
         <source>Fillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Empalme</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer</translation>
     </message>
     <message>
         <source>First angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer ángulo</translation>
     </message>
     <message>
         <source>First point</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer punto</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>Fit tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia de ajuste</translation>
     </message>
     <message>
         <source>Format</source>
@@ -10947,87 +10947,87 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Freehand</source>
-        <translation type="unfinished"></translation>
+        <translation>Manoalzada</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilizar</translation>
     </message>
     <message>
         <source>Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Frente</translation>
     </message>
     <message>
         <source>Frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilizada</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Hueco</translation>
     </message>
     <message>
         <source>Gap tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>tolerancia de Hueco</translation>
     </message>
     <message>
         <source>Go</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejilla</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupos</translation>
     </message>
     <message>
         <source>HELP</source>
-        <translation type="unfinished"></translation>
+        <translation>AYUDA</translation>
     </message>
     <message>
         <source>Halfwidth</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitadancho</translation>
     </message>
     <message>
         <source>Hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombreados</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>alTura</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculto</translation>
     </message>
     <message>
         <source>Hideplot</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultartrazado</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicial</translation>
     </message>
     <message>
         <source>Hor</source>
-        <translation type="unfinished"></translation>
+        <translation>Hor</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>Inches</source>
@@ -11035,95 +11035,95 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Included angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Incluido ángulo</translation>
     </message>
     <message>
         <source>Inscribed in circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscrito en el círculo</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar</translation>
     </message>
     <message>
         <source>Invert clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir delimitación</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>Invisible</translation>
     </message>
     <message>
         <source>Island</source>
-        <translation type="unfinished"></translation>
+        <translation>Isla</translation>
     </message>
     <message>
         <source>Island detection</source>
-        <translation type="unfinished"></translation>
+        <translation>detección de Islas</translation>
     </message>
     <message>
         <source>Isometric</source>
-        <translation type="unfinished"></translation>
+        <translation>Isométrico</translation>
     </message>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>Juntar</translation>
     </message>
     <message>
         <source>Jointype</source>
-        <translation type="unfinished"></translation>
+        <translation>tipoUnión</translation>
     </message>
     <message>
         <source>Justification</source>
-        <translation type="unfinished"></translation>
+        <translation>Justificación</translation>
     </message>
     <message>
         <source>Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>Justificar</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>nUdos</translation>
     </message>
     <message>
         <source>LAYOut</source>
-        <translation type="unfinished"></translation>
+        <translation>PREsentación</translation>
     </message>
     <message>
         <source>LAyer</source>
-        <translation type="unfinished"></translation>
+        <translation>CApa</translation>
     </message>
     <message>
         <source>LAyers</source>
-        <translation type="unfinished"></translation>
+        <translation>CApas</translation>
     </message>
     <message>
         <source>LOck</source>
-        <translation type="unfinished"></translation>
+        <translation>BLoquear</translation>
     </message>
     <message>
         <source>LType</source>
-        <translation type="unfinished"></translation>
+        <translation>TLínea</translation>
     </message>
     <message>
         <source>LTypes</source>
-        <translation type="unfinished"></translation>
+        <translation>TLíneas</translation>
     </message>
     <message>
         <source>LWeight</source>
-        <translation type="unfinished"></translation>
+        <translation>GLínea</translation>
     </message>
     <message>
         <source>Landing</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Apaisado</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Último</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -11131,23 +11131,23 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación</translation>
     </message>
     <message>
         <source>Leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Directriz</translation>
     </message>
     <message>
         <source>Leader type</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de Directriz</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud</translation>
     </message>
     <message>
         <source>Limits</source>
@@ -11155,95 +11155,95 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Line spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Interlineado</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear</translation>
     </message>
     <message>
         <source>Lock and fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear y difuminar</translation>
     </message>
     <message>
         <source>Ltype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tlínea</translation>
     </message>
     <message>
         <source>Ltype gen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipolínea gen</translation>
     </message>
     <message>
         <source>MATerial</source>
-        <translation type="unfinished"></translation>
+        <translation>MATerial</translation>
     </message>
     <message>
         <source>MAterials</source>
-        <translation type="unfinished"></translation>
+        <translation>MAteriales</translation>
     </message>
     <message>
         <source>MUltileaderstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>DIrectrizmúltipleestilos</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear</translation>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Material</translation>
     </message>
     <message>
         <source>Maxpoints</source>
-        <translation type="unfinished"></translation>
+        <translation>Maxpuntos</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Método</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Milímetros</translation>
     </message>
     <message>
         <source>Mlinestyles</source>
-        <translation type="unfinished"></translation>
+        <translation>LMúltipleestilos</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar</translation>
     </message>
     <message>
         <source>Mtext</source>
-        <translation type="unfinished"></translation>
+        <translation>textoM</translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>Múltiple</translation>
     </message>
     <message>
         <source>Multiple points</source>
-        <translation type="unfinished"></translation>
+        <translation>Múltiples puntos</translation>
     </message>
     <message>
         <source>NAmed</source>
-        <translation type="unfinished"></translation>
+        <translation>GUardado</translation>
     </message>
     <message>
         <source>NEW</source>
-        <translation type="unfinished"></translation>
+        <translation>NUEVO</translation>
     </message>
     <message>
         <source>Name</source>
@@ -11251,87 +11251,87 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>New boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo contorno</translation>
     </message>
     <message>
         <source>Newfrz</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevainut</translation>
     </message>
     <message>
         <source>Newvpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevainutVentana</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguiente</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>No columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin columnas</translation>
     </message>
     <message>
         <source>No extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Noalargar</translation>
     </message>
     <message>
         <source>No leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin directriz</translation>
     </message>
     <message>
         <source>No plot</source>
-        <translation type="unfinished"></translation>
+        <translation>No trazar</translation>
     </message>
     <message>
         <source>No trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Norecortar</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Not</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>OBject</source>
-        <translation type="unfinished"></translation>
+        <translation>OBjeto</translation>
     </message>
     <message>
         <source>OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>DES</translation>
     </message>
     <message>
         <source>ON</source>
-        <translation type="unfinished"></translation>
+        <translation>ACT</translation>
     </message>
     <message>
         <source>Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objeto</translation>
     </message>
     <message>
         <source>Object type</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de Objeto</translation>
     </message>
     <message>
         <source>Objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetos</translation>
     </message>
     <message>
         <source>Oblique</source>
-        <translation type="unfinished"></translation>
+        <translation>Oblicuidad</translation>
     </message>
     <message>
         <source>Off</source>
@@ -11347,11 +11347,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>One</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>aBrir</translation>
     </message>
     <message>
         <source>Options</source>
@@ -11359,295 +11359,295 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen</translation>
     </message>
     <message>
         <source>Orphaned data</source>
-        <translation type="unfinished"></translation>
+        <translation>datos Huérfanos</translation>
     </message>
     <message>
         <source>Orthographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortogonal</translation>
     </message>
     <message>
         <source>Outer</source>
-        <translation type="unfinished"></translation>
+        <translation>Exterior</translation>
     </message>
     <message>
         <source>Overlaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Solapes</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Superponer</translation>
     </message>
     <message>
         <source>PStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>ETrazado</translation>
     </message>
     <message>
         <source>Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetro</translation>
     </message>
     <message>
         <source>Partial</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>Pick points</source>
-        <translation type="unfinished"></translation>
+        <translation>designar Puntos</translation>
     </message>
     <message>
         <source>Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazar</translation>
     </message>
     <message>
         <source>Plotstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilosTRazado</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>Polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Polar</translation>
     </message>
     <message>
         <source>Polygonal</source>
-        <translation type="unfinished"></translation>
+        <translation>Poligonal</translation>
     </message>
     <message>
         <source>Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Polilínea</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Predefinido</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Previo</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyección</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>QUIT</source>
-        <translation type="unfinished"></translation>
+        <translation>SALIR</translation>
     </message>
     <message>
         <source>Quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrante</translation>
     </message>
     <message>
         <source>REName</source>
-        <translation type="unfinished"></translation>
+        <translation>REnombrar</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Relación</translation>
     </message>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangular</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia</translation>
     </message>
     <message>
         <source>Regapps</source>
-        <translation type="unfinished"></translation>
+        <translation>APlicreg</translation>
     </message>
     <message>
         <source>Regen</source>
-        <translation type="unfinished"></translation>
+        <translation>Regen</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Región</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Recargar</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Remove leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar directrices</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar</translation>
     </message>
     <message>
         <source>Rendered</source>
-        <translation type="unfinished"></translation>
+        <translation>Renderizado</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Retain</source>
-        <translation type="unfinished"></translation>
+        <translation>coNservar</translation>
     </message>
     <message>
         <source>Retain boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>coNservar contorno</translation>
     </message>
     <message>
         <source>Reverse</source>
-        <translation type="unfinished"></translation>
+        <translation>inVertir</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Rotated</source>
-        <translation type="unfinished"></translation>
+        <translation>giRada</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación</translation>
     </message>
     <message>
         <source>SAveas</source>
-        <translation type="unfinished"></translation>
+        <translation>GUardarcomo</translation>
     </message>
     <message>
         <source>SEctionviewstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>SEcciónvistaestilos</translation>
     </message>
     <message>
         <source>SHapes</source>
-        <translation type="unfinished"></translation>
+        <translation>FOrmas</translation>
     </message>
     <message>
         <source>SIngle</source>
-        <translation type="unfinished"></translation>
+        <translation>UNica</translation>
     </message>
     <message>
         <source>STatus</source>
-        <translation type="unfinished"></translation>
+        <translation>ESTado</translation>
     </message>
     <message>
         <source>STraight</source>
-        <translation type="unfinished"></translation>
+        <translation>REcto</translation>
     </message>
     <message>
         <source>STyle</source>
-        <translation type="unfinished"></translation>
+        <translation>ESTilo</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo</translation>
     </message>
     <message>
         <source>Second angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo ángulo</translation>
     </message>
     <message>
         <source>Second pt</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo punto</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar</translation>
     </message>
     <message>
         <source>Select objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar objetos</translation>
     </message>
     <message>
         <source>Select polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar polilínea</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionable</translation>
     </message>
     <message>
         <source>Set</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir</translation>
     </message>
     <message>
         <source>Set new origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir nuevo origen</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros</translation>
     </message>
     <message>
         <source>Shadeplot</source>
-        <translation type="unfinished"></translation>
+        <translation>trazadoSombreado</translation>
     </message>
     <message>
         <source>Single</source>
-        <translation type="unfinished"></translation>
+        <translation>Sencillo</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzado</translation>
     </message>
     <message>
         <source>Solid</source>
-        <translation type="unfinished"></translation>
+        <translation>Sólido</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen</translation>
     </message>
     <message>
         <source>Spacing</source>
@@ -11655,31 +11655,31 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>Spline curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline curva</translation>
     </message>
     <message>
         <source>Square root</source>
-        <translation type="unfinished"></translation>
+        <translation>Raíz cuadrada</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>Estático</translation>
     </message>
     <message>
         <source>Straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Recta</translation>
     </message>
     <message>
         <source>Straighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Enderezar</translation>
     </message>
     <message>
         <source>Style</source>
@@ -11687,75 +11687,75 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Subtract area</source>
-        <translation type="unfinished"></translation>
+        <translation>Sustraer área</translation>
     </message>
     <message>
         <source>TRansparency</source>
-        <translation type="unfinished"></translation>
+        <translation>TRansparencia</translation>
     </message>
     <message>
         <source>Tablestyle</source>
-        <translation type="unfinished"></translation>
+        <translation>estiloTabla</translation>
     </message>
     <message>
         <source>Tablestyles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilosTAbla</translation>
     </message>
     <message>
         <source>Tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente</translation>
     </message>
     <message>
         <source>Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Plantilla</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Thaw</source>
-        <translation type="unfinished"></translation>
+        <translation>Reutilizar</translation>
     </message>
     <message>
         <source>Thawed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reutilizada</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>alturaObjeto</translation>
     </message>
     <message>
         <source>Through</source>
-        <translation type="unfinished"></translation>
+        <translation>porPunto</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Superior</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparencia</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar</translation>
     </message>
     <message>
         <source>Truecolor</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorverdadero</translation>
     </message>
     <message>
         <source>Ttr (tan tan radius)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ttr (tan tan radio)</translation>
     </message>
     <message>
         <source>Type</source>
@@ -11763,79 +11763,79 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>Scp</translation>
     </message>
     <message>
         <source>Under</source>
-        <translation type="unfinished"></translation>
+        <translation>Debajo</translation>
     </message>
     <message>
         <source>Under objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Debajo de objetos</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>desHacer</translation>
     </message>
     <message>
         <source>Uniform</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniforme</translation>
     </message>
     <message>
         <source>Unload</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquear</translation>
     </message>
     <message>
         <source>Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar</translation>
     </message>
     <message>
         <source>Use current origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar origen actual</translation>
     </message>
     <message>
         <source>Use current spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar separación actual</translation>
     </message>
     <message>
         <source>User defined</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>VIew</source>
-        <translation type="unfinished"></translation>
+        <translation>VIsta</translation>
     </message>
     <message>
         <source>VPort</source>
-        <translation type="unfinished"></translation>
+        <translation>VEntana</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>View</source>
@@ -11843,347 +11843,347 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventanas</translation>
     </message>
     <message>
         <source>Visual styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos Visuales</translation>
     </message>
     <message>
         <source>Visualstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilosVIsuales</translation>
     </message>
     <message>
         <source>Vpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutventana</translation>
     </message>
     <message>
         <source>Vpvisdflt</source>
-        <translation type="unfinished"></translation>
+        <translation>Visdefventana</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>aNcho</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>Wireframe</source>
-        <translation type="unfinished"></translation>
+        <translation>Alámbrico</translation>
     </message>
     <message>
         <source>World</source>
-        <translation type="unfinished"></translation>
+        <translation>Universal</translation>
     </message>
     <message>
         <source>XY</source>
-        <translation type="unfinished"></translation>
+        <translation>XY</translation>
     </message>
     <message>
         <source>XYZ</source>
-        <translation type="unfinished"></translation>
+        <translation>XYZ</translation>
     </message>
     <message>
         <source>Xaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>ejeX</translation>
     </message>
     <message>
         <source>Xdatum</source>
-        <translation type="unfinished"></translation>
+        <translation>coordX</translation>
     </message>
     <message>
         <source>YZ</source>
-        <translation type="unfinished"></translation>
+        <translation>YZ</translation>
     </message>
     <message>
         <source>Yaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>ejeY</translation>
     </message>
     <message>
         <source>Ydatum</source>
-        <translation type="unfinished"></translation>
+        <translation>coordY</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>ZAxis</source>
-        <translation type="unfinished"></translation>
+        <translation>EZ</translation>
     </message>
     <message>
         <source>ZX</source>
-        <translation type="unfinished"></translation>
+        <translation>ZX</translation>
     </message>
     <message>
         <source>Zaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>ejeZ</translation>
     </message>
     <message>
         <source>Zdepth</source>
-        <translation type="unfinished"></translation>
+        <translation>Zprofundidad</translation>
     </message>
     <message>
         <source>Zero</source>
-        <translation type="unfinished"></translation>
+        <translation>Cero</translation>
     </message>
     <message>
         <source>Zero-length geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>geometría de longitud Cero</translation>
     </message>
     <message>
         <source>beHind</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>bounDary</source>
-        <translation type="unfinished"></translation>
+        <translation>delanTe</translation>
     </message>
     <message>
         <source>bring in front of bounDary</source>
-        <translation type="unfinished"></translation>
+        <translation>traer delanTe del contorno</translation>
     </message>
     <message>
         <source>bring to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>traer al Frente</translation>
     </message>
     <message>
         <source>cLose</source>
-        <translation type="unfinished"></translation>
+        <translation>cErrar</translation>
     </message>
     <message>
         <source>chord Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de cuerda</translation>
     </message>
     <message>
         <source>do Not assign</source>
-        <translation type="unfinished"></translation>
+        <translation>No asignar</translation>
     </message>
     <message>
         <source>draW</source>
-        <translation type="unfinished"></translation>
+        <translation>diBujar</translation>
     </message>
     <message>
         <source>draW boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>diBujar contorno</translation>
     </message>
     <message>
         <source>eRase</source>
-        <translation type="unfinished"></translation>
+        <translation>Suprimir</translation>
     </message>
     <message>
         <source>eXcept current</source>
-        <translation type="unfinished"></translation>
+        <translation>todas Excepto la actual</translation>
     </message>
     <message>
         <source>eXit</source>
-        <translation type="unfinished"></translation>
+        <translation>saLir</translation>
     </message>
     <message>
         <source>eXit options</source>
-        <translation type="unfinished"></translation>
+        <translation>saLir de opciones</translation>
     </message>
     <message>
         <source>end Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangencia final</translation>
     </message>
     <message>
         <source>generate Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>generar Polilínea</translation>
     </message>
     <message>
         <source>hatch COlor</source>
-        <translation type="unfinished"></translation>
+        <translation>COlor de sombreado</translation>
     </message>
     <message>
         <source>lAnding</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión</translation>
     </message>
     <message>
         <source>leader Landing first</source>
-        <translation type="unfinished"></translation>
+        <translation>coneXión primero</translation>
     </message>
     <message>
         <source>leader lAnding</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión de directriz</translation>
     </message>
     <message>
         <source>lineType</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipolínea</translation>
     </message>
     <message>
         <source>lineWeight</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosorlínea</translation>
     </message>
     <message>
         <source>ltScale</source>
-        <translation type="unfinished"></translation>
+        <translation>esCalatl</translation>
     </message>
     <message>
         <source>mEthod</source>
-        <translation type="unfinished"></translation>
+        <translation>méTodo</translation>
     </message>
     <message>
         <source>mOde</source>
-        <translation type="unfinished"></translation>
+        <translation>mOdo</translation>
     </message>
     <message>
         <source>multileadersTyle</source>
-        <translation type="unfinished"></translation>
+        <translation>esTilodirectrizmúltiple</translation>
     </message>
     <message>
         <source>plotStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>estilotraZado</translation>
     </message>
     <message>
         <source>rEconcile</source>
-        <translation type="unfinished"></translation>
+        <translation>rEconciliar</translation>
     </message>
     <message>
         <source>remove Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar contornos</translation>
     </message>
     <message>
         <source>sPline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>send beHind boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>enviar detrás del Contorno</translation>
     </message>
     <message>
         <source>send to Back</source>
-        <translation type="unfinished"></translation>
+        <translation>enviar Atrás</translation>
     </message>
     <message>
         <source>separate Hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombreados separados</translation>
     </message>
     <message>
         <source>specify Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>precisar Separación</translation>
     </message>
     <message>
         <source>stAte</source>
-        <translation type="unfinished"></translation>
+        <translation>estAdo</translation>
     </message>
     <message>
         <source>start Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangencia inicial</translation>
     </message>
     <message>
         <source>textSTyles</source>
-        <translation type="unfinished"></translation>
+        <translation>ESTilostexto</translation>
     </message>
     <message>
         <source>toLerance</source>
-        <translation type="unfinished"></translation>
+        <translation>toLerancia</translation>
     </message>
     <message>
         <source>ALL</source>
-        <translation type="unfinished"></translation>
+        <translation>TODO</translation>
     </message>
     <message>
         <source>ALl</source>
-        <translation type="unfinished"></translation>
+        <translation>TOdo</translation>
     </message>
     <message>
         <source>AUto</source>
-        <translation type="unfinished"></translation>
+        <translation>AUto</translation>
     </message>
     <message>
         <source>BC</source>
-        <translation type="unfinished"></translation>
+        <translation>IC</translation>
     </message>
     <message>
         <source>BL</source>
-        <translation type="unfinished"></translation>
+        <translation>II</translation>
     </message>
     <message>
         <source>BOX</source>
-        <translation type="unfinished"></translation>
+        <translation>CAja</translation>
     </message>
     <message>
         <source>BR</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>CPolygon</source>
-        <translation type="unfinished"></translation>
+        <translation>CPolígono</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Included</source>
-        <translation type="unfinished"></translation>
+        <translation>Incluido</translation>
     </message>
     <message>
         <source>MC</source>
-        <translation type="unfinished"></translation>
+        <translation>MC</translation>
     </message>
     <message>
         <source>MIrror</source>
-        <translation type="unfinished"></translation>
+        <translation>SImetría</translation>
     </message>
     <message>
         <source>ML</source>
-        <translation type="unfinished"></translation>
+        <translation>MI</translation>
     </message>
     <message>
         <source>MOve</source>
-        <translation type="unfinished"></translation>
+        <translation>DEsplazar</translation>
     </message>
     <message>
         <source>MR</source>
-        <translation type="unfinished"></translation>
+        <translation>MD</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Medio</translation>
     </message>
     <message>
         <source>Pick</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>Plotstyle</source>
-        <translation type="unfinished"></translation>
+        <translation>estiloTrazado</translation>
     </message>
     <message>
         <source>SCale</source>
-        <translation type="unfinished"></translation>
+        <translation>ESCala</translation>
     </message>
     <message>
         <source>STretch</source>
-        <translation type="unfinished"></translation>
+        <translation>ESTirar</translation>
     </message>
     <message>
         <source>TC</source>
-        <translation type="unfinished"></translation>
+        <translation>SC</translation>
     </message>
     <message>
         <source>TL</source>
-        <translation type="unfinished"></translation>
+        <translation>SI</translation>
     </message>
     <message>
         <source>TR</source>
-        <translation type="unfinished"></translation>
+        <translation>SD</translation>
     </message>
     <message>
         <source>Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangencia</translation>
     </message>
     <message>
         <source>Ttr</source>
-        <translation type="unfinished"></translation>
+        <translation>Ttr</translation>
     </message>
     <message>
         <source>WPolygon</source>
-        <translation type="unfinished"></translation>
+        <translation>VPolígono</translation>
     </message>
 </context>
 <context>
@@ -12198,15 +12198,15 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilizar</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear</translation>
     </message>
     <message>
         <source>Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazar</translation>
     </message>
     <message>
         <source>Color</source>
@@ -12218,86 +12218,86 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de línea</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparencia</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción</translation>
     </message>
     <message>
         <source>Viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>thawed</source>
-        <translation type="unfinished"></translation>
+        <translation>utilizada</translation>
     </message>
     <message>
         <source>frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>inutilizada</translation>
     </message>
     <message>
         <source>unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>desbloqueada</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>bloqueada</translation>
     </message>
     <message>
         <source>plots</source>
-        <translation type="unfinished"></translation>
+        <translation>se traza</translation>
     </message>
     <message>
         <source>no plot</source>
-        <translation type="unfinished"></translation>
+        <translation>no se traza</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>activada</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>desactivada</translation>
     </message>
 </context>
 <context>
     <name>Menus</name>
     <message>
         <source>&amp;About Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acerca de Ortakit</translation>
     </message>
     <message>
         <source>&amp;Aiming</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puntería</translation>
     </message>
     <message>
         <source>&amp;Black ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo &amp;negro</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>&amp;Construction lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas de &amp;construcción</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Contenido</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Dark style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo &amp;oscuro</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -12305,103 +12305,103 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>&amp;Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dibujo</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Edición</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;justar</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>&amp;In space</source>
-        <translation type="unfinished"></translation>
+        <translation>En el e&amp;spacio</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertar</translation>
     </message>
     <message>
         <source>&amp;Light style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo c&amp;laro</translation>
     </message>
     <message>
         <source>&amp;Lock display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bloquear visualización</translation>
     </message>
     <message>
         <source>&amp;Make</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crear</translation>
     </message>
     <message>
         <source>&amp;Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modificar</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo</translation>
     </message>
     <message>
         <source>&amp;Next under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Siguiente bajo el cursor</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir...</translation>
     </message>
     <message>
         <source>&amp;PNG picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen &amp;PNG...</translation>
     </message>
     <message>
         <source>&amp;Pan</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Encuadre</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Im&amp;primir...</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Propiedades</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Record session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grabar sesión...</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>&amp;Regenerate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Regenerar</translation>
     </message>
     <message>
         <source>&amp;SVG drawing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo &amp;SVG...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -12409,175 +12409,175 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>&amp;Start page</source>
-        <translation type="unfinished"></translation>
+        <translation>Página de &amp;inicio</translation>
     </message>
     <message>
         <source>&amp;Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barras de herramientas</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herramientas</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Unlock display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desbloquear visualización</translation>
     </message>
     <message>
         <source>&amp;Upkeep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mantenimiento</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Views and planes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vistas y planos</translation>
     </message>
     <message>
         <source>&amp;Zoom by its options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zoom por opciones</translation>
     </message>
     <message>
         <source>1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>1:1</translation>
     </message>
     <message>
         <source>1:10</source>
-        <translation type="unfinished"></translation>
+        <translation>1:10</translation>
     </message>
     <message>
         <source>1:100</source>
-        <translation type="unfinished"></translation>
+        <translation>1:100</translation>
     </message>
     <message>
         <source>1:2</source>
-        <translation type="unfinished"></translation>
+        <translation>1:2</translation>
     </message>
     <message>
         <source>1:20</source>
-        <translation type="unfinished"></translation>
+        <translation>1:20</translation>
     </message>
     <message>
         <source>1:5</source>
-        <translation type="unfinished"></translation>
+        <translation>1:5</translation>
     </message>
     <message>
         <source>1:50</source>
-        <translation type="unfinished"></translation>
+        <translation>1:50</translation>
     </message>
     <message>
         <source>Align</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinear</translation>
     </message>
     <message>
         <source>Align multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinear directrices múltiples</translation>
     </message>
     <message>
         <source>Aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>Alineada</translation>
     </message>
     <message>
         <source>Along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Según los ejes</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo</translation>
     </message>
     <message>
         <source>Arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de arco</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área</translation>
     </message>
     <message>
         <source>Array</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz</translation>
     </message>
     <message>
         <source>As another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Como otro</translation>
     </message>
     <message>
         <source>At steps along a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>A intervalos en una curva</translation>
     </message>
     <message>
         <source>Attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Atributos</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto base</translation>
     </message>
     <message>
         <source>Between sheet and model</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre presentación y modelo</translation>
     </message>
     <message>
         <source>Boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Partir</translation>
     </message>
     <message>
         <source>Bring back what was &amp;erased</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar lo &amp;borrado</translation>
     </message>
     <message>
         <source>Center mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca de centro</translation>
     </message>
     <message>
         <source>Chamfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaflán</translation>
     </message>
     <message>
         <source>Choose &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar &amp;todo</translation>
     </message>
     <message>
         <source>Choose &amp;similar</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar &amp;similares</translation>
     </message>
     <message>
         <source>Chooses what can be seen and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Designa lo que se puede ver y cambiar</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Círculo</translation>
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Delimitar</translation>
     </message>
     <message>
         <source>Closes all drawings and the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierra todos los dibujos y el programa</translation>
     </message>
     <message>
         <source>Closes the drawing in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierra el dibujo que está delante</translation>
     </message>
     <message>
         <source>Co&amp;mmands...</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;mandos...</translation>
     </message>
     <message>
         <source>Color</source>
@@ -12585,39 +12585,39 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Coordinates of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordenadas de un punto</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy with &amp;base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar con punto &amp;base</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor&amp;tar</translation>
     </message>
     <message>
         <source>Dark windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventanas oscuras</translation>
     </message>
     <message>
         <source>Define an attribute</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir un atributo</translation>
     </message>
     <message>
         <source>Delete layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar capas</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diámetro</translation>
     </message>
     <message>
         <source>Dime&amp;nsion</source>
-        <translation type="unfinished"></translation>
+        <translation>Acotació&amp;n</translation>
     </message>
     <message>
         <source>Dimension style</source>
@@ -12625,71 +12625,71 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancia</translation>
     </message>
     <message>
         <source>Divide a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividir una curva</translation>
     </message>
     <message>
         <source>Divide the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividir la pantalla</translation>
     </message>
     <message>
         <source>Draw order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de dibujo</translation>
     </message>
     <message>
         <source>Drawing limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites del dibujo</translation>
     </message>
     <message>
         <source>Drawing status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado del dibujo</translation>
     </message>
     <message>
         <source>Draws on black</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja sobre negro</translation>
     </message>
     <message>
         <source>Draws on white</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja sobre blanco</translation>
     </message>
     <message>
         <source>Edit multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar directrices múltiples</translation>
     </message>
     <message>
         <source>Edit text and extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar texto y líneas de referencia</translation>
     </message>
     <message>
         <source>Elevation and thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevación y altura de objeto</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Elipse</translation>
     </message>
     <message>
         <source>End isolating</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar aislamiento</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Erases what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Borra lo designado</translation>
     </message>
     <message>
         <source>Explode</source>
-        <translation type="unfinished"></translation>
+        <translation>Descomponer</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Alargar</translation>
     </message>
     <message>
         <source>External reference</source>
@@ -12697,127 +12697,127 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>F&amp;ormat</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ormato</translation>
     </message>
     <message>
         <source>Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Cara</translation>
     </message>
     <message>
         <source>Filled area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área rellena</translation>
     </message>
     <message>
         <source>Fillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Empalme</translation>
     </message>
     <message>
         <source>Finds commands, menu entries and system variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca comandos, entradas de menú y variables de sistema</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilizar</translation>
     </message>
     <message>
         <source>From the same begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde el mismo origen</translation>
     </message>
     <message>
         <source>Gives what was printed most of the window, and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Da a lo impreso la mayor parte de la ventana, y vuelta</translation>
     </message>
     <message>
         <source>Goes through what lies on top of each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorre lo que está uno encima de otro</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejilla</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombreado</translation>
     </message>
     <message>
         <source>Horizontal or vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal o vertical</translation>
     </message>
     <message>
         <source>How the layout that is shown lies on its paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo está en su papel la presentación que se muestra</translation>
     </message>
     <message>
         <source>I&amp;n space</source>
-        <translation type="unfinished"></translation>
+        <translation>En el e&amp;spacio</translation>
     </message>
     <message>
         <source>In a row</source>
-        <translation type="unfinished"></translation>
+        <translation>En cadena</translation>
     </message>
     <message>
         <source>In&amp;quiry</source>
-        <translation type="unfinished"></translation>
+        <translation>Con&amp;sulta</translation>
     </message>
     <message>
         <source>Insert a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar un bloque</translation>
     </message>
     <message>
         <source>Into the viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>A la ventana</translation>
     </message>
     <message>
         <source>Isolate</source>
-        <translation type="unfinished"></translation>
+        <translation>Aislar</translation>
     </message>
     <message>
         <source>Isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Plano isométrico</translation>
     </message>
     <message>
         <source>Jogged radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio con recodo</translation>
     </message>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir</translation>
     </message>
     <message>
         <source>Layer, color, linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa, color, tipo de línea</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Capas</translation>
     </message>
     <message>
         <source>Layers of &amp;objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Capas de &amp;objetos</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación</translation>
     </message>
     <message>
         <source>Leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Directriz</translation>
     </message>
     <message>
         <source>Lengthen</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud</translation>
     </message>
     <message>
         <source>Light windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventanas claras</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -12825,95 +12825,95 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de línea</translation>
     </message>
     <message>
         <source>Lisp &amp;console</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Consola Lisp</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Load shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar formas</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear</translation>
     </message>
     <message>
         <source>Lon&amp;g command history</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial &amp;largo de comandos</translation>
     </message>
     <message>
         <source>Look for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar errores</translation>
     </message>
     <message>
         <source>Look from a direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Mirar desde una dirección</translation>
     </message>
     <message>
         <source>Look straight at a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Mirar de frente a un plano</translation>
     </message>
     <message>
         <source>Make a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un bloque</translation>
     </message>
     <message>
         <source>Make current</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer actual</translation>
     </message>
     <message>
         <source>Makes a new drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un dibujo nuevo</translation>
     </message>
     <message>
         <source>Merge layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionar capas</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Simetría</translation>
     </message>
     <message>
         <source>Mirror in a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Simetría respecto a un plano</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar</translation>
     </message>
     <message>
         <source>Move in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar en el espacio</translation>
     </message>
     <message>
         <source>Move the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar el texto</translation>
     </message>
     <message>
         <source>Multileader</source>
-        <translation type="unfinished"></translation>
+        <translation>Directriz múltiple</translation>
     </message>
     <message>
         <source>Multiline</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea múltiple</translation>
     </message>
     <message>
         <source>Named views</source>
-        <translation type="unfinished"></translation>
+        <translation>Vistas guardadas</translation>
     </message>
     <message>
         <source>O&amp;bjects</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;bjetos</translation>
     </message>
     <message>
         <source>Object snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia a objetos</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -12921,115 +12921,115 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Onto the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>A la presentación</translation>
     </message>
     <message>
         <source>Opens drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre dibujos</translation>
     </message>
     <message>
         <source>Ordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Por coordenadas</translation>
     </message>
     <message>
         <source>Override variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar variables</translation>
     </message>
     <message>
         <source>P&amp;DF page...</source>
-        <translation type="unfinished"></translation>
+        <translation>Página P&amp;DF...</translation>
     </message>
     <message>
         <source>Pa&amp;ge setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Confi&amp;gurar página...</translation>
     </message>
     <message>
         <source>Paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Párrafo</translation>
     </message>
     <message>
         <source>Paste as b&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar como b&amp;loque</translation>
     </message>
     <message>
         <source>Paste where it &amp;was</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar donde &amp;estaba</translation>
     </message>
     <message>
         <source>Place a shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocar una forma</translation>
     </message>
     <message>
         <source>Poin&amp;ts</source>
-        <translation type="unfinished"></translation>
+        <translation>Pun&amp;tos</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Polígono</translation>
     </message>
     <message>
         <source>Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Polilínea</translation>
     </message>
     <message>
         <source>Polyline in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Polilínea en el espacio</translation>
     </message>
     <message>
         <source>Prints the layout that is shown, or writes it as a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime la presentación que se muestra, o la escribe como página</translation>
     </message>
     <message>
         <source>Purge</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectángulo</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Región</translation>
     </message>
     <message>
         <source>Remove duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar duplicados</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar</translation>
     </message>
     <message>
         <source>Revision cloud</source>
-        <translation type="unfinished"></translation>
+        <translation>Nube de revisión</translation>
     </message>
     <message>
         <source>Ring</source>
-        <translation type="unfinished"></translation>
+        <translation>Anillo</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Rotate round an axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar alrededor de un eje</translation>
     </message>
     <message>
         <source>Run a s&amp;cript</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutar un s&amp;cript</translation>
     </message>
     <message>
         <source>S&amp;ettings...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onfiguración...</translation>
     </message>
     <message>
         <source>Save &amp;as...</source>
@@ -13037,43 +13037,43 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Saves the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda el dibujo</translation>
     </message>
     <message>
         <source>Saves the drawing under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda el dibujo con otro nombre</translation>
     </message>
     <message>
         <source>Says what this program is</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice qué es este programa</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala</translation>
     </message>
     <message>
         <source>Shows a place to try Lisp at</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra un sitio para probar Lisp</translation>
     </message>
     <message>
         <source>Shows all that is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra todo lo dibujado</translation>
     </message>
     <message>
         <source>Shows all through the viewport that is worked through</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra todo a través de la ventana en la que se trabaja</translation>
     </message>
     <message>
         <source>Shows less, larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra menos, más grande</translation>
     </message>
     <message>
         <source>Shows more, smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra más, más pequeño</translation>
     </message>
     <message>
         <source>Shows recent drawings, samples and first steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra dibujos recientes, ejemplos y primeros pasos</translation>
     </message>
     <message>
         <source>Shows the help pages</source>
@@ -13081,43 +13081,43 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Shows what is in a box</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que hay en un recuadro</translation>
     </message>
     <message>
         <source>Snap to a grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzar a una rejilla</translation>
     </message>
     <message>
         <source>Snaps, display, selection, units, folders and trust</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencias, visualización, selección, unidades, carpetas y confianza</translation>
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Estirar</translation>
     </message>
     <message>
         <source>Synchronize attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizar atributos</translation>
     </message>
     <message>
         <source>System &amp;variables</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variables de sistema</translation>
     </message>
     <message>
         <source>Take back the last layer change</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer el último cambio de capas</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Text of one line</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto de una línea</translation>
     </message>
     <message>
         <source>Text style</source>
@@ -13125,345 +13125,345 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Texts to a paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos a párrafo</translation>
     </message>
     <message>
         <source>Thaw all</source>
-        <translation type="unfinished"></translation>
+        <translation>Reutilizar todas</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:1</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:10</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:10</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:100</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:100</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:2</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:2</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:20</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:20</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:5</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:5</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:50</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana en la que se trabaja muestra una escala de 1:50</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos</translation>
     </message>
     <message>
         <source>To the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>A la capa actual</translation>
     </message>
     <message>
         <source>To the layer of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>A la capa de otro</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar</translation>
     </message>
     <message>
         <source>Turn all on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar todas</translation>
     </message>
     <message>
         <source>Turn off</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivar</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidades</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquear</translation>
     </message>
     <message>
         <source>Update expressions of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar expresiones de textos</translation>
     </message>
     <message>
         <source>User coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema de coordenadas personales</translation>
     </message>
     <message>
         <source>Viewports of &amp;a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent&amp;anas de una presentación</translation>
     </message>
     <message>
         <source>W&amp;hite ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo &amp;blanco</translation>
     </message>
     <message>
         <source>With one end</source>
-        <translation type="unfinished"></translation>
+        <translation>Con un extremo</translation>
     </message>
     <message>
         <source>Without ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin fin</translation>
     </message>
     <message>
         <source>Write a block to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir un bloque en un archivo</translation>
     </message>
     <message>
         <source>Writes down what you do as a session that plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Anota lo que hace como una sesión que se reproduce</translation>
     </message>
     <message>
         <source>Writes what is drawn as a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe lo dibujado como página</translation>
     </message>
     <message>
         <source>Writes what is drawn as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe lo dibujado como imagen</translation>
     </message>
     <message>
         <source>Writes what is drawn as lines and areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe lo dibujado como líneas y áreas</translation>
     </message>
     <message>
         <source>Zoom &amp;extents</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom &amp;extensión</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;mpliar</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reducir</translation>
     </message>
     <message>
         <source>Zoom &amp;window</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom &amp;ventana</translation>
     </message>
 </context>
 <context>
     <name>Panels</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Capas</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
 </context>
 <context>
     <name>Playback</name>
     <message>
         <source>nobody is there to answer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nadie que responda a %1</translation>
     </message>
     <message>
         <source>it took longer than %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>ha tardado más de %1 s</translation>
     </message>
     <message>
         <source> saying &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation> que dice &quot;%1&quot;</translation>
     </message>
     <message>
         <source>${%1} is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>${%1} no se conoce</translation>
     </message>
     <message>
         <source>%1 cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede marcar</translation>
     </message>
     <message>
         <source>%1 cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>en %1 no se puede escribir</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;; it shows &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite &quot;%2&quot;; muestra &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 has no button &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ningún botón &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no cell %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ninguna celda %2, %3</translation>
     </message>
     <message>
         <source>%1 has no item &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ningún elemento &quot;%2&quot;; tiene %3</translation>
     </message>
     <message>
         <source>%1 has no row &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ninguna fila &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no tab &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ninguna ficha &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no value to set</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene valor que definir</translation>
     </message>
     <message>
         <source>%1 has no widget &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene ningún control &quot;%2&quot;; tiene %3</translation>
     </message>
     <message>
         <source>%1 has the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiene el teclado</translation>
     </message>
     <message>
         <source>%1 is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está desactivado</translation>
     </message>
     <message>
         <source>%1 is no UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un texto UTF-8</translation>
     </message>
     <message>
         <source>%1 is no list, table or tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es una lista, tabla o árbol</translation>
     </message>
     <message>
         <source>%1 is not visible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es visible</translation>
     </message>
     <message>
         <source>%1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto</translation>
     </message>
     <message>
         <source>%1 is still open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sigue abierto</translation>
     </message>
     <message>
         <source>%1 is too long for a session</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es demasiado largo para una sesión</translation>
     </message>
     <message>
         <source>%1 stays as it is; another button of its group must be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se queda como está; hay que marcar otro botón de su grupo</translation>
     </message>
     <message>
         <source>%1 takes no file name</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite nombre de archivo</translation>
     </message>
     <message>
         <source>%1 took &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tomó &quot;%2&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither yes nor no (on, off)</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es ni yes ni no (on, off)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no handle</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un identificador</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no key</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es una tecla</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no point; write x,y or x,y,z</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un punto; escriba x,y o x,y,z</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number from 0 up</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un número entero desde 0</translation>
     </message>
     <message>
         <source>a quote is not closed, or text follows right behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>unas comillas no se cierran, o las sigue texto sin espacio</translation>
     </message>
     <message>
         <source>a view needs two corners</source>
-        <translation type="unfinished"></translation>
+        <translation>una vista necesita dos esquinas</translation>
     </message>
     <message>
         <source>cancelled at %1, </source>
-        <translation type="unfinished"></translation>
+        <translation>cancelado en %1, </translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer %1: %2</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>en la celda %1, %2 de %3 no se puede escribir</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 does not take &quot;%4&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la celda %1, %2 de %3 no admite &quot;%4&quot;</translation>
     </message>
     <message>
         <source>dialog %1</source>
-        <translation type="unfinished"></translation>
+        <translation>diálogo %1</translation>
     </message>
     <message>
         <source>done again, the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>al rehacer, el dibujo difiere de como era: %1</translation>
     </message>
     <message>
         <source>drawing: only the first line says which drawing it is</source>
-        <translation type="unfinished"></translation>
+        <translation>drawing: solo la primera línea dice qué dibujo es</translation>
     </message>
     <message>
         <source>end: no part was begun</source>
-        <translation type="unfinished"></translation>
+        <translation>end: no se empezó ninguna parte</translation>
     </message>
     <message>
         <source>it is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>está desactivado</translation>
     </message>
     <message>
         <source>it is enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>está activado</translation>
     </message>
     <message>
         <source>it is nil</source>
-        <translation type="unfinished"></translation>
+        <translation>es nil</translation>
     </message>
     <message>
         <source>it is not visible</source>
-        <translation type="unfinished"></translation>
+        <translation>no es visible</translation>
     </message>
     <message>
         <source>it is visible</source>
-        <translation type="unfinished"></translation>
+        <translation>es visible</translation>
     </message>
     <message>
         <source>it shows &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>muestra &quot;%1&quot;</translation>
     </message>
     <message>
         <source>it stands in front of a command or lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>está delante de un comando o de lisp</translation>
     </message>
     <message>
         <source>line %1%2 (%3): </source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1%2 (%3): </translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -13471,254 +13471,254 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: la sesión tiene casos, y cada uno quiere el dibujo abierto de nuevo</translation>
     </message>
     <message>
         <source>no arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>sin argumentos</translation>
     </message>
     <message>
         <source>no dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>ningún diálogo</translation>
     </message>
     <message>
         <source>no folder was given to write to (--out)</source>
-        <translation type="unfinished"></translation>
+        <translation>no se indicó carpeta en la que escribir (--out)</translation>
     </message>
     <message>
         <source>no program was given that reads drawings (--audit, or the environment&apos;s ORTAKIT_AUDIT)</source>
-        <translation type="unfinished"></translation>
+        <translation>no se indicó ningún programa que lea dibujos (--audit, o ORTAKIT_AUDIT del entorno)</translation>
     </message>
     <message>
         <source>no prompt and no dialog is open that this could be meant for</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna solicitud ni diálogo abierto al que se pueda referir</translation>
     </message>
     <message>
         <source>nothing has the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>nada tiene el teclado</translation>
     </message>
     <message>
         <source>nothing with a name</source>
-        <translation type="unfinished"></translation>
+        <translation>nada con nombre</translation>
     </message>
     <message>
         <source>part %1, line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>parte %1, línea %2</translation>
     </message>
     <message>
         <source>part: a part cannot be written in a part</source>
-        <translation type="unfinished"></translation>
+        <translation>part: una parte no se puede escribir dentro de otra</translation>
     </message>
     <message>
         <source>part: it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: no tiene fin</translation>
     </message>
     <message>
         <source>part: the part before it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: la parte anterior no tiene fin</translation>
     </message>
     <message>
         <source>part: there is a part %1 already</source>
-        <translation type="unfinished"></translation>
+        <translation>part: ya hay una parte %1</translation>
     </message>
     <message>
         <source>play: the part %1 plays itself</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 se reproduce a sí misma</translation>
     </message>
     <message>
         <source>play: the part %1 takes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 toma %2</translation>
     </message>
     <message>
         <source>play: the parts write too much</source>
-        <translation type="unfinished"></translation>
+        <translation>play: las partes escriben demasiado</translation>
     </message>
     <message>
         <source>play: there is no part %1</source>
-        <translation type="unfinished"></translation>
+        <translation>play: no hay ninguna parte %1</translation>
     </message>
     <message>
         <source>play: too many parts are played one in the other</source>
-        <translation type="unfinished"></translation>
+        <translation>play: hay demasiadas partes unas dentro de otras</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>la fila &quot;%1&quot; de %2 no se puede marcar</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 is not visible</source>
-        <translation type="unfinished"></translation>
+        <translation>la fila &quot;%1&quot; de %2 no es visible</translation>
     </message>
     <message>
         <source>something is missing at the end of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>falta algo al final de la línea</translation>
     </message>
     <message>
         <source>the changes are &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>los cambios son &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo difiere de como era: %1</translation>
     </message>
     <message>
         <source>the drawing has no entity with the handle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo no tiene ninguna entidad con el identificador %1</translation>
     </message>
     <message>
         <source>the drawing is unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo no ha cambiado</translation>
     </message>
     <message>
         <source>the drawing was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo ha cambiado</translation>
     </message>
     <message>
         <source>the error is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el error es &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file does not hold it; its text is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo no lo contiene; su texto es &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file is there</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está</translation>
     </message>
     <message>
         <source>the file&apos;s text is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto del archivo es &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the files differ at byte %1: &quot;%2&quot; and &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>los archivos difieren en el byte %1: &quot;%2&quot; y &quot;%3&quot;</translation>
     </message>
     <message>
         <source>the items are &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>los elementos son &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the line goes on (it ends in a backslash), but the session ends</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea continúa (termina en barra inversa), pero la sesión termina</translation>
     </message>
     <message>
         <source>the list went away while rows were selected</source>
-        <translation type="unfinished"></translation>
+        <translation>la lista desapareció mientras se seleccionaban filas</translation>
     </message>
     <message>
         <source>the menu has no entry &quot;%1&quot;; it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el menú no tiene ninguna entrada &quot;%1&quot;; tiene %2</translation>
     </message>
     <message>
         <source>the menu&apos;s entry &quot;%1&quot; is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>la entrada &quot;%1&quot; del menú está desactivada</translation>
     </message>
     <message>
         <source>the order of its records</source>
-        <translation type="unfinished"></translation>
+        <translation>el orden de sus registros</translation>
     </message>
     <message>
         <source>the prompt &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la solicitud &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the reader %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el lector %1 no responde</translation>
     </message>
     <message>
         <source>the reader takes no names with line feeds</source>
-        <translation type="unfinished"></translation>
+        <translation>el lector no admite nombres con saltos de línea</translation>
     </message>
     <message>
         <source>the run before it ended without an error</source>
-        <translation type="unfinished"></translation>
+        <translation>la ejecución anterior terminó sin error</translation>
     </message>
     <message>
         <source>the run changed nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>la ejecución no cambió nada</translation>
     </message>
     <message>
         <source>the run ended with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la ejecución terminó con &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the session ends while %1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>la sesión termina mientras %1 está abierto</translation>
     </message>
     <message>
         <source>the session took longer than %1 s; open is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la sesión tardó más de %1 s; está abierto %2</translation>
     </message>
     <message>
         <source>the title is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el título es &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the widget went away while it was typed into</source>
-        <translation type="unfinished"></translation>
+        <translation>el control desapareció mientras se escribía en él</translation>
     </message>
     <message>
         <source>there are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hay %1</translation>
     </message>
     <message>
         <source>there is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hay %1</translation>
     </message>
     <message>
         <source>there is no panel &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún panel &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada que rehacer</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada que deshacer</translation>
     </message>
     <message>
         <source>there was no run before it</source>
-        <translation type="unfinished"></translation>
+        <translation>no hubo ninguna ejecución anterior</translation>
     </message>
     <message>
         <source>too much on the line: &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>sobra en la línea: &quot;%1&quot;</translation>
     </message>
     <message>
         <source>undone, the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>al deshacer, el dibujo difiere de como era: %1</translation>
     </message>
     <message>
         <source>unknown word &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>palabra desconocida &quot;%1&quot;</translation>
     </message>
     <message>
         <source>what cannot be read again</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que no se puede volver a leer</translation>
     </message>
     <message>
         <source>what was printed is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>lo impreso es &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
     <name>Properties</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Geometría</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Misc</source>
-        <translation type="unfinished"></translation>
+        <translation>Varios</translation>
     </message>
     <message>
         <source>Color</source>
@@ -13738,11 +13738,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de línea</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura de objeto</translation>
     </message>
     <message>
         <source>Text style</source>
@@ -13754,131 +13754,131 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Of what is drawn next</source>
-        <translation type="unfinished"></translation>
+        <translation>De lo que se dibuje a continuación</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no color.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un color.</translation>
     </message>
     <message>
         <source>There is no layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>There is no linetype &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún tipo de línea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no lineweight.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un grosor de línea.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no transparency: ByLayer, ByBlock or 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es una transparencia: PorCapa, PorBloque o de 0 a 90.</translation>
     </message>
     <message>
         <source>%1: the current color is one of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: el color actual es uno de la tabla.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un ángulo.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un número.</translation>
     </message>
     <message>
         <source>%1: it must be more than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: debe ser mayor que 0.</translation>
     </message>
     <message>
         <source>%1: it must not be 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no debe ser 0.</translation>
     </message>
     <message>
         <source>*varies*</source>
-        <translation type="unfinished"></translation>
+        <translation>*varía*</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un número entero.</translation>
     </message>
     <message>
         <source>Other...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro...</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparencia</translation>
     </message>
     <message>
         <source>Plot style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de trazado</translation>
     </message>
     <message>
         <source>Corner 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina 1</translation>
     </message>
     <message>
         <source>Corner 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina 2</translation>
     </message>
     <message>
         <source>Corner 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina 3</translation>
     </message>
     <message>
         <source>Corner 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina 4</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>Start angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo inicial</translation>
     </message>
     <message>
         <source>End angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo final</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Total angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo total</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de arco</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura</translation>
     </message>
     <message>
         <source>Position</source>
@@ -13886,63 +13886,63 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Solicitud</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diámetro</translation>
     </message>
     <message>
         <source>Circumference</source>
-        <translation type="unfinished"></translation>
+        <translation>Circunferencia</translation>
     </message>
     <message>
         <source>Text override</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto sustituto</translation>
     </message>
     <message>
         <source>Measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Medida</translation>
     </message>
     <message>
         <source>Major axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Eje mayor</translation>
     </message>
     <message>
         <source>Radius ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Proporción de radios</translation>
     </message>
     <message>
         <source>Start parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetro inicial</translation>
     </message>
     <message>
         <source>End parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetro final</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo</translation>
     </message>
     <message>
         <source>Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Patrón</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala</translation>
     </message>
     <message>
         <source>Name</source>
@@ -13950,35 +13950,35 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Scale X</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala X</translation>
     </message>
     <message>
         <source>Scale Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala Y</translation>
     </message>
     <message>
         <source>Scale Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala Z</translation>
     </message>
     <message>
         <source>Delta</source>
-        <translation type="unfinished"></translation>
+        <translation>Incremento</translation>
     </message>
     <message>
         <source>Global width</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor global</translation>
     </message>
     <message>
         <source>Elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevación</translation>
     </message>
     <message>
         <source>Vertices</source>
-        <translation type="unfinished"></translation>
+        <translation>Vértices</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenido</translation>
     </message>
     <message>
         <source>Style</source>
@@ -13990,15 +13990,15 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlace</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>Size</source>
@@ -14006,46 +14006,46 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Degree</source>
-        <translation type="unfinished"></translation>
+        <translation>Grado</translation>
     </message>
     <message>
         <source>Alignment point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto de alineación</translation>
     </message>
     <message>
         <source>Horizontal mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo horizontal</translation>
     </message>
     <message>
         <source>Obliquing</source>
-        <translation type="unfinished"></translation>
+        <translation>Oblicuidad</translation>
     </message>
     <message>
         <source>Vertical mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo vertical</translation>
     </message>
     <message>
         <source>Width factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de anchura</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto base</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensaje</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Choose a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una carpeta</translation>
     </message>
     <message>
         <source>Help</source>
@@ -14087,689 +14087,691 @@ No se puede guardar la configuración del usuario.
     <name>Settings</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>Style of windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de las ventanas</translation>
     </message>
     <message>
         <source>0=Light|1=Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Claro|1=Oscuro</translation>
     </message>
     <message>
         <source>The colours of windows and dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>Los colores de ventanas y diálogos</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>0=System|1=English|2=Deutsch|3=Français|4=Español|5=Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Sistema|1=English|2=Deutsch|3=Français|4=Español|5=Italiano</translation>
     </message>
     <message>
         <source>Of windows, dialogs and prompts; it counts from the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>De ventanas, diálogos y solicitudes; vale desde el próximo inicio</translation>
     </message>
     <message>
         <source>Ground of drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo de los dibujos</translation>
     </message>
     <message>
         <source>0=Black|1=White</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Negro|1=Blanco</translation>
     </message>
     <message>
         <source>What drawings lie on</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre qué están los dibujos</translation>
     </message>
     <message>
         <source>Length of the cross-hair, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud del cursor en cruz, por ciento</translation>
     </message>
     <message>
         <source>Right button</source>
-        <translation type="unfinished"></translation>
+        <translation>Botón derecho</translation>
     </message>
     <message>
         <source>File dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>Diálogos de archivos</translation>
     </message>
     <message>
         <source>Attributes of a block are asked for in a dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Los atributos de un bloque se piden en un diálogo</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzado</translation>
     </message>
     <message>
         <source>End points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos finales</translation>
     </message>
     <message>
         <source>Middle points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos medios</translation>
     </message>
     <message>
         <source>Centres</source>
-        <translation type="unfinished"></translation>
+        <translation>Centros</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Nodos</translation>
     </message>
     <message>
         <source>Quadrants</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrantes</translation>
     </message>
     <message>
         <source>Intersections</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersecciones</translation>
     </message>
     <message>
         <source>Insertion points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos de inserción</translation>
     </message>
     <message>
         <source>Perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>Perpendicular</translation>
     </message>
     <message>
         <source>Tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>Más cercano</translation>
     </message>
     <message>
         <source>Reach of snaps, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcance de las referencias, píxeles</translation>
     </message>
     <message>
         <source>Ortho</source>
-        <translation type="unfinished"></translation>
+        <translation>Orto</translation>
     </message>
     <message>
         <source>Grid shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejilla visible</translation>
     </message>
     <message>
         <source>Snap to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzado a la rejilla</translation>
     </message>
     <message>
         <source>Typed coordinates and snaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordenadas escritas y referencias</translation>
     </message>
     <message>
         <source>0=Snaps move typed points|1=Typed points stay|2=Typed points stay, but in scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Las referencias mueven los puntos escritos|1=Los puntos escritos se quedan|2=Se quedan, salvo en scripts</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualización</translation>
     </message>
     <message>
         <source>Lineweights</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosores de línea</translation>
     </message>
     <message>
         <source>Lineweight of &quot;Default&quot;, hundredths of a millimetre</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de línea de &quot;Por defecto&quot;, centésimas de milímetro</translation>
     </message>
     <message>
         <source>Areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Las áreas se rellenan</translation>
     </message>
     <message>
         <source>Texts as boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos como rectángulos</translation>
     </message>
     <message>
         <source>Frames of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcos de imágenes</translation>
     </message>
     <message>
         <source>0=Hidden|1=Shown and plotted|2=Shown only</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Ocultos|1=Visibles y trazados|2=Solo visibles</translation>
     </message>
     <message>
         <source>Frames of masks</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcos de máscaras</translation>
     </message>
     <message>
         <source>Scale of linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de los tipos de línea</translation>
     </message>
     <message>
         <source>Font in place of missing ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente en lugar de las que faltan</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección</translation>
     </message>
     <message>
         <source>Choose first, then the command</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar primero, luego el comando</translation>
     </message>
     <message>
         <source>What is picked is added</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo designado se añade</translation>
     </message>
     <message>
         <source>0=With Shift only|1=Always|2=Always, and stays chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Solo con Mayús|1=Siempre|2=Siempre, y sigue designado</translation>
     </message>
     <message>
         <source>Groups are chosen whole</source>
-        <translation type="unfinished"></translation>
+        <translation>Los grupos se designan enteros</translation>
     </message>
     <message>
         <source>Hatches are chosen with their boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Los sombreados se designan con su contorno</translation>
     </message>
     <message>
         <source>Size of the pick box, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la caja de selección, píxeles</translation>
     </message>
     <message>
         <source>Chosen entities are marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Las entidades designadas se marcan</translation>
     </message>
     <message>
         <source>Marks under the pointer while nothing runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcas bajo el cursor cuando no se ejecuta nada</translation>
     </message>
     <message>
         <source>Marks under the pointer while a command asks</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcas bajo el cursor cuando un comando pregunta</translation>
     </message>
     <message>
         <source>Grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinzamientos</translation>
     </message>
     <message>
         <source>0=None|1=Shown|2=Shown, of segments too</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Ninguno|1=Visibles|2=Visibles, también de segmentos</translation>
     </message>
     <message>
         <source>Size of grips, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de los pinzamientos, píxeles</translation>
     </message>
     <message>
         <source>No grips beyond so many entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin pinzamientos a partir de este número de entidades</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidades</translation>
     </message>
     <message>
         <source>Lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitudes</translation>
     </message>
     <message>
         <source>1=Scientific|2=Decimal|3=Engineering|4=Architectural|5=Fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>1=Científico|2=Decimal|3=Ingeniería|4=Arquitectura|5=Fraccionario</translation>
     </message>
     <message>
         <source>Places of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimales de longitudes</translation>
     </message>
     <message>
         <source>Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulos</translation>
     </message>
     <message>
         <source>0=Degrees|1=Degrees, minutes, seconds|2=Grads|3=Radians|4=Surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Grados|1=Grados, minutos, segundos|2=Centesimales|3=Radianes|4=Unidades geodésicas</translation>
     </message>
     <message>
         <source>Places of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimales de ángulos</translation>
     </message>
     <message>
         <source>A drawing unit is</source>
-        <translation type="unfinished"></translation>
+        <translation>Una unidad de dibujo es</translation>
     </message>
     <message>
         <source>0=Not said|1=An inch|2=A foot|4=A millimetre|5=A centimetre|6=A metre|7=A kilometre</source>
-        <translation type="unfinished"></translation>
+        <translation>0=No indicada|1=Una pulgada|2=Un pie|4=Un milímetro|5=Un centímetro|6=Un metro|7=Un kilómetro</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado</translation>
     </message>
     <message>
         <source>A backup is kept of what is saved over</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conserva copia de lo que se sobrescribe</translation>
     </message>
     <message>
         <source>Minutes between saves by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos entre guardados automáticos</translation>
     </message>
     <message>
         <source>External references tell of changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Las referencias externas avisan de cambios</translation>
     </message>
     <message>
         <source>0=No|1=With a mark|2=With a message</source>
-        <translation type="unfinished"></translation>
+        <translation>0=No|1=Con una marca|2=Con un mensaje</translation>
     </message>
     <message>
         <source>Lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisp</translation>
     </message>
     <message>
         <source>Programs loaded with each drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas que se cargan con cada dibujo</translation>
     </message>
     <message>
         <source>Full paths, between semicolons, in this order; they count from the next drawing on</source>
-        <translation type="unfinished"></translation>
+        <translation>Rutas completas, separadas por punto y coma, en este orden; valen desde el próximo dibujo</translation>
     </message>
     <message>
         <source>Most memory of programs, MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria máxima de los programas, MB</translation>
     </message>
     <message>
         <source>What programs do is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Se muestra lo que hacen los programas</translation>
     </message>
     <message>
         <source>Folders and trust</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas y confianza</translation>
     </message>
     <message>
         <source>Folders whose programs may run</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas cuyos programas pueden ejecutarse</translation>
     </message>
     <message>
         <source>Folders whose files drawings may name</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas cuyos archivos pueden nombrar los dibujos</translation>
     </message>
 </context>
 <context>
     <name>SnapMenu</name>
     <message>
         <source>&amp;Endpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto &amp;final</translation>
     </message>
     <message>
         <source>&amp;Midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto &amp;medio</translation>
     </message>
     <message>
         <source>&amp;Center</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Centro</translation>
     </message>
     <message>
         <source>N&amp;ode</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;odo</translation>
     </message>
     <message>
         <source>&amp;Quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;uadrante</translation>
     </message>
     <message>
         <source>&amp;Intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intersección</translation>
     </message>
     <message>
         <source>&amp;Apparent intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersección fic&amp;ticia</translation>
     </message>
     <message>
         <source>E&amp;xtension</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xtensión</translation>
     </message>
     <message>
         <source>In&amp;sertion point</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;serción</translation>
     </message>
     <message>
         <source>&amp;Perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Perpendicular</translation>
     </message>
     <message>
         <source>&amp;Tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tan&amp;gente</translation>
     </message>
     <message>
         <source>Nea&amp;rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Más ce&amp;rcano</translation>
     </message>
     <message>
         <source>&amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ninguno</translation>
     </message>
     <message>
         <source>Mid&amp;way between two points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto medio &amp;entre dos puntos</translation>
     </message>
     <message>
         <source>&amp;From a point</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desde un punto</translation>
     </message>
 </context>
 <context>
     <name>Suggestions</name>
     <message>
         <source>command of a program</source>
-        <translation type="unfinished"></translation>
+        <translation>comando de un programa</translation>
     </message>
 </context>
 <context>
     <name>TrustQuestion</name>
     <message>
         <source>&amp;Load once</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cargar una vez</translation>
     </message>
     <message>
         <source>&amp;Trust this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Con&amp;fiar en esta carpeta</translation>
     </message>
     <message>
         <source>Load this program? It can do whatever you can.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cargar este programa? Puede hacer todo lo que usted puede.</translation>
     </message>
 </context>
 <context>
     <name>Uses</name>
     <message>
         <source>%1 takes %2 from %3 to %4, not &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 toma %2 de %3 a %4, no &quot;%5&quot;</translation>
     </message>
     <message>
         <source>%1 is %2, not &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es %2, no &quot;%3&quot;</translation>
     </message>
     <message>
         <source>or</source>
-        <translation type="unfinished"></translation>
+        <translation>o</translation>
     </message>
     <message>
         <source>%1 has no meaning here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene aquí significado</translation>
     </message>
     <message>
         <source>there is no option %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna opción %1%2</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un valor</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite valor</translation>
     </message>
     <message>
         <source>there is no command %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún comando %1%2</translation>
     </message>
     <message>
         <source>convert needs two files</source>
-        <translation type="unfinished"></translation>
+        <translation>convert necesita dos archivos</translation>
     </message>
     <message>
         <source>the sheet of a layout as its page setup has it; &quot;model&quot; for the page of model space; &quot;all&quot; for every sheet: a page each in a pdf, a file each as png and svg, with its name: OUT-NAME.png</source>
-        <translation type="unfinished"></translation>
+        <translation>la hoja de una presentación según su configuración de página; &quot;model&quot; para la página del espacio modelo; &quot;all&quot; para todas las hojas: una página cada una en un pdf, un archivo cada una en png y svg, con su nombre: OUT-NAME.png</translation>
     </message>
     <message>
         <source>another sheet, on which everything is to be seen: A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres as 420x297; -landscape or -portrait behind it turns it</source>
-        <translation type="unfinished"></translation>
+        <translation>otra hoja, en la que se verá todo: A0 a A6, B0 a B6, ANSI-A a ANSI-E, ARCH-A a ARCH-E1 o milímetros como 420x297; -landscape o -portrait detrás la gira</translation>
     </message>
     <message>
         <source>millimetres on the sheet to drawing units, in place of what the page says or as fits</source>
-        <translation type="unfinished"></translation>
+        <translation>milímetros en la hoja por unidades de dibujo, en lugar de lo que diga la página o de ajustar</translation>
     </message>
     <message>
         <source>show what lies between these corners, in drawing units</source>
-        <translation type="unfinished"></translation>
+        <translation>mostrar lo que hay entre estas esquinas, en unidades de dibujo</translation>
     </message>
     <message>
         <source>png, svg: so many pixels, 1 to 16000 each way; a sheet goes into their middle</source>
-        <translation type="unfinished"></translation>
+        <translation>png, svg: tantos píxeles, de 1 a 16000 en cada sentido; una hoja va en su centro</translation>
     </message>
     <message>
         <source>png, svg: pixels an inch of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>png, svg: píxeles por pulgada de la hoja</translation>
     </message>
     <message>
         <source>what it lies on</source>
-        <translation type="unfinished"></translation>
+        <translation>sobre qué está</translation>
     </message>
     <message>
         <source>only layers whose names match, as in a layer filter: &quot;walls,door*&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>solo capas cuyo nombre coincida, como en un filtro de capas: &quot;walls,door*&quot;</translation>
     </message>
     <message>
         <source>pdf, svg: texts as areas, or as text that can be searched</source>
-        <translation type="unfinished"></translation>
+        <translation>pdf, svg: textos como áreas, o como texto en el que se puede buscar</translation>
     </message>
     <message>
         <source>a table of plot styles (ctb, stb) in place of what the page names; &quot;none&quot; for none. Without a file there are monochrome, grayscale and screening 25%, 50%, 75%, 100%</source>
-        <translation type="unfinished"></translation>
+        <translation>una tabla de estilos de trazado (ctb, stb) en lugar de la que nombra la página; &quot;none&quot; para ninguna. Sin archivo existen monochrome, grayscale y screening 25%, 50%, 75%, 100%</translation>
     </message>
     <message>
         <source>all lines as thin as can be</source>
-        <translation type="unfinished"></translation>
+        <translation>todas las líneas tan finas como sea posible</translation>
     </message>
     <message>
         <source>the most it may take; OUT stays as it was when it takes longer</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que puede tardar; OUT se queda como estaba si tarda más</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sin límite</translation>
     </message>
     <message>
         <source>write OUT although another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir OUT aunque otro programa lo tenga abierto</translation>
     </message>
     <message>
         <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>terminar con el estado 3 si falta algo en la imagen, que se escribe de todos modos</translation>
     </message>
     <message>
         <source>write a DXF file in the binary form; without it, as text</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir un archivo DXF en forma binaria; sin esto, como texto</translation>
     </message>
     <message>
         <source>open a damaged IN as far as it is sound, and tell on standard error what was dropped; OUT must be another file</source>
-        <translation type="unfinished"></translation>
+        <translation>abrir un IN dañado en lo que esté sano, e indicar en la salida de errores lo que se descartó; OUT debe ser otro archivo</translation>
     </message>
     <message>
         <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimir una línea de JSON: input, output, y de imágenes complete, drawn, invisible, inPart y notDrawn (un número por tipo) y cutShort; con --layout todo ello por cada página, con layout y output; con --recover lo mismo de lo descartado, reparado y añadido</translation>
     </message>
     <message>
         <source>writes a drawing as DXF, PNG, SVG or PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe un dibujo como DXF, PNG, SVG o PDF</translation>
     </message>
     <message>
         <source>the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo</translation>
     </message>
     <message>
         <source>the file to write, as what its extension says</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo que se escribe, según su extensión</translation>
     </message>
     <message>
         <source>Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre un dibujo y lo escribe según la extensión de OUT: dxf, png, svg o pdf. Lo que una imagen no muestra, o solo en parte, se indica en la salida de errores, por tipo.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
     <message>
         <source>Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, with the lineweights that it would have on a sheet 297 mm long; pdf shows it on A4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin las opciones de hoja, png y svg muestran todo el espacio modelo en 1600 por 1200 píxeles, con los grosores de línea que tendría en una hoja de 297 mm de largo; pdf lo muestra en A4.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>por defecto: %1</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was more to show than is drawn in one go: a few lines of a drawing can make millions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida: 0 hecho, 1 una herramienta, expresión o sesión falló o superó un límite, 2 uso incorrecto, 3 falló parte de un lote o, con --strict, falta parte de una imagen, 4 un archivo no se pudo leer o escribir, 5 se escribió una imagen, pero había más que mostrar de lo que se dibuja de una vez: unas líneas de un dibujo pueden dar millones.</translation>
     </message>
     <message>
         <source>Usage: </source>
-        <translation type="unfinished"></translation>
+        <translation>Uso: </translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandos:</translation>
     </message>
     <message>
         <source>Drafting tools without their dialogs:</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas de dibujo sin sus diálogos:</translation>
     </message>
     <message>
         <source>Options for every use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones para todo uso:</translation>
     </message>
     <message>
         <source>there is no kind of finding &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna clase de hallazgo &quot;%1&quot;</translation>
     </message>
     <message>
         <source>lisp needs at least one file for this</source>
-        <translation type="unfinished"></translation>
+        <translation>para esto lisp necesita al menos un archivo</translation>
     </message>
     <message>
         <source>--json, --only and --except go with --check</source>
-        <translation type="unfinished"></translation>
+        <translation>--json, --only y --except van con --check</translation>
     </message>
     <message>
         <source>--filter and --junit go with --test</source>
-        <translation type="unfinished"></translation>
+        <translation>--filter y --junit van con --test</translation>
     </message>
     <message>
         <source>--profile goes with programs that are run</source>
-        <translation type="unfinished"></translation>
+        <translation>--profile va con programas que se ejecutan</translation>
     </message>
     <message>
         <source>--check and --test do not go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--check y --test no van juntos</translation>
     </message>
     <message>
         <source>Kinds of findings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Clases de hallazgos:</translation>
     </message>
     <message>
         <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
 
 What these files load must lie in a trusted folder: the installation, the folder of the user&apos;s data, those that the system variable TRUSTEDPATHS lists, and those named here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga los archivos Lisp por orden e imprime lo que imprimen. &quot;-&quot; lee expresiones de la entrada estándar. Sin --drawing se abre un dibujo nuevo. Nada pregunta a nadie: las solicitudes se cancelan, y un diálogo termina el programa con el estado 1.
+
+Lo que cargan estos archivos debe estar en una carpeta de confianza: la instalación, la carpeta de datos del usuario, las que lista la variable de sistema TRUSTEDPATHS y las nombradas aquí.</translation>
     </message>
     <message>
         <source>the drawing to work on</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo en el que se trabaja</translation>
     </message>
     <message>
         <source>a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>uno nuevo</translation>
     </message>
     <message>
         <source>the most all of it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que puede tardar todo</translation>
     </message>
     <message>
         <source>write files as well that another program has open, or has changed since they were opened</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir también archivos que otro programa tenga abiertos, o haya cambiado desde que se abrieron</translation>
     </message>
     <message>
         <source>tell on standard error where the time went, function by function</source>
-        <translation type="unfinished"></translation>
+        <translation>indicar en la salida de errores en qué se fue el tiempo, función por función</translation>
     </message>
     <message>
         <source>write that as folded stacks as well, of which flame graphs are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>escribirlo también como pilas plegadas, de las que se dibujan gráficos de llamas</translation>
     </message>
     <message>
         <source>Without a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin archivo</translation>
     </message>
     <message>
         <source>It is a prompt: expressions are evaluated as they are typed, and their values printed. Tab completes names, &quot;help NAME&quot; or &quot;?NAME&quot; tells about one, Ctrl+C stops what runs, Ctrl+D ends. What is piped in is evaluated form by form; errors go to standard error with their line, the forms behind one are evaluated all the same, and the status is 1 then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es un intérprete interactivo: las expresiones se evalúan según se escriben y se imprimen sus valores. Tab completa nombres, &quot;help NAME&quot; o &quot;?NAME&quot; informa de uno, Ctrl+C detiene lo que se ejecuta, Ctrl+D termina. Lo que entra por una tubería se evalúa forma por forma; los errores van a la salida de errores con su línea, las formas siguientes se evalúan de todos modos, y entonces el estado es 1.</translation>
     </message>
     <message>
         <source>With --check</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --check</translation>
     </message>
     <message>
         <source>The files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos se leen y no se ejecutan, y se indica lo que parece incorrecto en ellos, una línea cada vez: FILE:LINE:COLUMN: error o warning: qué es [KIND]. Lo que define uno de ellos lo conocen los demás. Termina con el estado 1 si se indicó algo.</translation>
     </message>
     <message>
         <source>read the files and tell what looks wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>leer los archivos e indicar lo que parece incorrecto</translation>
     </message>
     <message>
         <source>tell it as one line of JSON: findings, each with file, line, column, severity, kind and message, and the numbers of errors and warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>indicarlo como una línea de JSON: findings, cada uno con file, line, column, severity, kind y message, y los números de errores y advertencias</translation>
     </message>
     <message>
         <source>tell only these kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>indicar solo estas clases</translation>
     </message>
     <message>
         <source>tell all kinds but these</source>
-        <translation type="unfinished"></translation>
+        <translation>indicar todas las clases menos estas</translation>
     </message>
     <message>
         <source>With --test</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --test</translation>
     </message>
     <message>
         <source>The tests that the files define by (deftest name form...) are run, each in a new drawing (or DRAWING) into which its file was loaded before, and told on standard output in version 14 of the Test Anything Protocol. The time limit is that of each test. Ends with status 1 when one failed or there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las pruebas que los archivos definen con (deftest name form...) se ejecutan, cada una en un dibujo nuevo (o DRAWING) en el que antes se cargó su archivo, y se indican en la salida estándar en la versión 14 del Test Anything Protocol. El límite de tiempo es el de cada prueba. Termina con el estado 1 si una falló o no había ninguna.</translation>
     </message>
     <message>
         <source>run the tests that the files define</source>
-        <translation type="unfinished"></translation>
+        <translation>ejecutar las pruebas que definen los archivos</translation>
     </message>
     <message>
         <source>run only tests of such names: * stands for any characters, ? for one</source>
-        <translation type="unfinished"></translation>
+        <translation>ejecutar solo pruebas de esos nombres: * vale por cualesquiera caracteres, ? por uno</translation>
     </message>
     <message>
         <source>write a report in JUnit&apos;s XML instead</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir en su lugar un informe en el XML de JUnit</translation>
     </message>
     <message>
         <source>runs, checks or tests Lisp files, or is a prompt for Lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>ejecuta, comprueba o prueba archivos Lisp, o es un intérprete de Lisp</translation>
     </message>
     <message>
         <source>a Lisp file, or - for standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo Lisp, o - para la entrada estándar</translation>
     </message>
     <message>
         <source>names takes no word</source>
-        <translation type="unfinished"></translation>
+        <translation>names no admite ninguna palabra</translation>
     </message>
     <message>
         <source>help takes one command</source>
-        <translation type="unfinished"></translation>
+        <translation>help admite un comando</translation>
     </message>
     <message>
         <source>lists what Lisp programs find here</source>
-        <translation type="unfinished"></translation>
+        <translation>lista lo que los programas Lisp encuentran aquí</translation>
     </message>
     <message>
         <source>Prints what Lisp programs find here in a new drawing, a line each with tabs between its fields, sorted:
@@ -14779,190 +14781,196 @@ What these files load must lie in a trusted folder: the installation, the folder
   variable  NAME  KIND       WHAT IT IS
 
 Documents are made from this, and scripts/demand compares it with what programs ask for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime lo que los programas Lisp encuentran aquí en un dibujo nuevo, una línea cada uno con tabuladores entre sus campos, ordenado:
+
+  function  NAME  ARGUMENTS  LO QUE DA
+  command   NAME  -          LO QUE HACE
+  variable  NAME  KIND       LO QUE ES
+
+De ello se hacen documentos, y scripts/demand lo compara con lo que piden los programas.</translation>
     </message>
     <message>
         <source>tells about a command</source>
-        <translation type="unfinished"></translation>
+        <translation>informa de un comando</translation>
     </message>
     <message>
         <source>which one; without it, the program as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>cuál; sin él, el programa entero</translation>
     </message>
     <message>
         <source>The same as --help behind the command.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo mismo que --help detrás del comando.</translation>
     </message>
     <message>
         <source>run needs a session</source>
-        <translation type="unfinished"></translation>
+        <translation>run necesita una sesión</translation>
     </message>
     <message>
         <source>open damaged drawings as far as they are sound, and tell on standard error what was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>abrir dibujos dañados en lo que estén sanos, e indicar en la salida de errores lo que se descartó</translation>
     </message>
     <message>
         <source>write the drawings that the session changed there, under their own names; of a session with cases, what it saves itself</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir ahí los dibujos que cambió la sesión, con sus propios nombres; de una sesión con casos, lo que ella misma guarda</translation>
     </message>
     <message>
         <source>write a picture of each drawing as it is in the end to the out folder, or else beside the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir una imagen de cada dibujo tal como queda al final en la carpeta de salida, o si no junto al dibujo</translation>
     </message>
     <message>
         <source>an independent reader for sessions that ask one (default: the environment&apos;s ORTAKIT_AUDIT); see scripts/audit</source>
-        <translation type="unfinished"></translation>
+        <translation>un lector independiente para sesiones que pidan uno (por defecto: ORTAKIT_AUDIT del entorno); véase scripts/audit</translation>
     </message>
     <message>
         <source>where pictures go that the session takes, and those of --png</source>
-        <translation type="unfinished"></translation>
+        <translation>adónde van las imágenes que toma la sesión, y las de --png</translation>
     </message>
     <message>
         <source>the most the session may take with one drawing; one that does not stop then ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que la sesión puede tardar con un dibujo; una que no pare entonces termina el programa</translation>
     </message>
     <message>
         <source>plays a recorded session over drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>reproduce una sesión grabada sobre dibujos</translation>
     </message>
     <message>
         <source>the recorded session</source>
-        <translation type="unfinished"></translation>
+        <translation>la sesión grabada</translation>
     </message>
     <message>
         <source>what it is played over</source>
-        <translation type="unfinished"></translation>
+        <translation>sobre qué se reproduce</translation>
     </message>
     <message>
         <source>Plays a recorded session over each drawing, one after the other, each opened afresh; without a drawing, over the one that the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each of them. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduce una sesión grabada sobre cada dibujo, uno tras otro, abierto cada uno de nuevo; sin dibujo, sobre el que indica la sesión. Los dibujos mismos se quedan como están. Imprime una línea por cada uno, y de una sesión con casos por cada caso. Lo que una imagen no muestra, o solo en parte, se indica en la salida de errores, por tipo.</translation>
     </message>
     <message>
         <source>look of windows and dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>aspecto de ventanas y diálogos</translation>
     </message>
     <message>
         <source>language of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>idioma de los textos</translation>
     </message>
     <message>
         <source>$ORTAKIT_LANGUAGE; else the window&apos;s setting or the desktop&apos;s language, and English where there is no window or a session is played</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_LANGUAGE; si no, el parámetro de la ventana o el idioma del escritorio, e inglés donde no hay ventana o se reproduce una sesión</translation>
     </message>
     <message>
         <source>folder of the user&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>carpeta de datos del usuario</translation>
     </message>
     <message>
         <source>$ORTAKIT_HOME, or the system&apos;s place for such data</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_HOME, o el lugar del sistema para esos datos</translation>
     </message>
     <message>
         <source>the plug-in module</source>
-        <translation type="unfinished"></translation>
+        <translation>el módulo de extensión</translation>
     </message>
     <message>
         <source>$ORTAKIT_MODULE, or the one installed with the program</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_MODULE, o el instalado con el programa</translation>
     </message>
     <message>
         <source>folder of the Lisp tools</source>
-        <translation type="unfinished"></translation>
+        <translation>carpeta de las herramientas Lisp</translation>
     </message>
     <message>
         <source>$ORTAKIT_TOOLS, or the one installed with the program</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_TOOLS, o la instalada con el programa</translation>
     </message>
     <message>
         <source>let drawings name files of this folder and those below; may be given again. Else they are read from the drawing&apos;s own folder, those below and trusted ones only</source>
-        <translation type="unfinished"></translation>
+        <translation>permitir que los dibujos nombren archivos de esta carpeta y las de debajo; se puede repetir. Si no, solo se leen de la carpeta del propio dibujo, las de debajo y las de confianza</translation>
     </message>
     <message>
         <source>tell this and end</source>
-        <translation type="unfinished"></translation>
+        <translation>indicar esto y terminar</translation>
     </message>
     <message>
         <source>tell the version and end</source>
-        <translation type="unfinished"></translation>
+        <translation>indicar la versión y terminar</translation>
     </message>
     <message>
         <source> (did you mean %1?)</source>
-        <translation type="unfinished"></translation>
+        <translation> (¿quiso decir %1?)</translation>
     </message>
     <message>
         <source>run programs of this folder and those below as well; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>ejecutar también programas de esta carpeta y las de debajo; se puede repetir</translation>
     </message>
     <message>
         <source>the most memory Lisp may take, more being an error of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>la memoria máxima que puede tomar Lisp. Más es un error del programa</translation>
     </message>
     <message>
         <source>the system variable LISPHEAPMAX, which is 2048 as long as nobody changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>la variable de sistema LISPHEAPMAX, que es 2048 mientras nadie la cambie</translation>
     </message>
     <message>
         <source>open damaged drawings as far as they are sound; they have no file until they are saved under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>abrir dibujos dañados en lo que estén sanos; no tienen archivo hasta que se guarden con un nombre</translation>
     </message>
     <message>
         <source>open what a program that was killed left of changed drawings, without asking</source>
-        <translation type="unfinished"></translation>
+        <translation>abrir sin preguntar lo que dejó de dibujos cambiados un programa interrumpido</translation>
     </message>
     <message>
         <source>play a recorded session in the window first</source>
-        <translation type="unfinished"></translation>
+        <translation>reproducir antes en la ventana una sesión grabada</translation>
     </message>
     <message>
         <source>how long each line of the session waits, so that you can watch it</source>
-        <translation type="unfinished"></translation>
+        <translation>cuánto espera cada línea de la sesión, para poder mirarla</translation>
     </message>
     <message>
         <source>write what you do down as a session that plays</source>
-        <translation type="unfinished"></translation>
+        <translation>anotar lo que hace como una sesión que se reproduce</translation>
     </message>
     <message>
         <source>write a picture of the window to DIR/window.png and end</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir una imagen de la ventana en DIR/window.png y terminar</translation>
     </message>
     <message>
         <source>the most a session may take</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que puede tardar una sesión</translation>
     </message>
     <message>
         <source>opens drawings in a window</source>
-        <translation type="unfinished"></translation>
+        <translation>abre dibujos en una ventana</translation>
     </message>
     <message>
         <source>a drawing to open</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo que se abre</translation>
     </message>
     <message>
         <source>Opens the drawings in a window, or works on them without one. &quot;ortakit help COMMAND&quot; tells more about a command. A drawing whose name is that of a command is written with its folder: ./run</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre los dibujos en una ventana, o trabaja en ellos sin ella. &quot;ortakit help COMMAND&quot; dice más de un comando. Un dibujo que se llame como un comando se escribe con su carpeta: ./run</translation>
     </message>
     <message>
         <source>Options of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de la ventana</translation>
     </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
     <message>
         <source>not saved yet: a name is asked for</source>
-        <translation type="unfinished"></translation>
+        <translation>aún no guardado: se pide un nombre</translation>
     </message>
     <message>
         <source>Save changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar cambios</translation>
     </message>
     <message>
         <source>Changed drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos cambiados</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo</translation>
     </message>
     <message>
         <source>File</source>
@@ -14970,65 +14978,65 @@ Documents are made from this, and scripts/demand compares it with what programs 
     </message>
     <message>
         <source>&amp;Save selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar seleccionados</translation>
     </message>
     <message>
         <source>&amp;Discard all changes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar todos los cambios</translation>
     </message>
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos dibujos han cambiado. Los que no estén marcados se cierran sin guardar.</translation>
     </message>
 </context>
 <context>
     <name>host::app::CommandLine</name>
     <message>
         <source>Command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea de comandos</translation>
     </message>
     <message>
         <source>What was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo impreso</translation>
     </message>
     <message>
         <source>Command:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando:</translation>
     </message>
     <message>
         <source>Search what was entered: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en lo introducido: %1</translation>
     </message>
     <message>
         <source>Not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No encontrado: %1</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Find in what was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en lo impreso</translation>
     </message>
 </context>
 <context>
     <name>host::app::CommandPalette</name>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandos</translation>
     </message>
     <message>
         <source>What is to be done? A command, a menu entry, a system variable</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué se va a hacer? Un comando, una entrada de menú, una variable de sistema</translation>
     </message>
     <message>
         <source>What is sought</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se busca</translation>
     </message>
     <message>
         <source>Commands that fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandos que coinciden</translation>
     </message>
 </context>
 <context>
@@ -15037,43 +15045,47 @@ Documents are made from this, and scripts/demand compares it with what programs 
         <source>
 A command is running; Esc stops it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Hay un comando en curso; Esc lo detiene.
+</translation>
     </message>
     <message>
         <source>
 No drawing is open.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay ningún dibujo abierto.
+</translation>
     </message>
     <message>
         <source>(_&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>(_&gt;</translation>
     </message>
     <message>
         <source>Command:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando:</translation>
     </message>
     <message>
         <source>No session can be played now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no se puede reproducir ninguna sesión.</translation>
     </message>
 </context>
 <context>
     <name>host::app::DrawingAudit</name>
     <message>
         <source>the reader takes no names with line feeds</source>
-        <translation type="unfinished"></translation>
+        <translation>el lector no admite nombres con saltos de línea</translation>
     </message>
     <message>
         <source>the reader %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el lector %1 no responde</translation>
     </message>
 </context>
 <context>
     <name>host::app::DrawingCanvas</name>
     <message>
         <source>simplified</source>
-        <translation type="unfinished"></translation>
+        <translation>simplificado</translation>
     </message>
 </context>
 <context>
@@ -15084,44 +15096,44 @@ No drawing is open.
     </message>
     <message>
         <source>%1 (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (solo lectura)</translation>
     </message>
 </context>
 <context>
     <name>host::app::InPlaceEdit</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
 </context>
 <context>
     <name>host::app::LayerBox</name>
     <message>
         <source>Filter of names</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de nombres</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Capas</translation>
     </message>
 </context>
 <context>
     <name>host::app::LayerPanel</name>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Capas</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo</translation>
     </message>
     <message>
         <source>A layer that looks like the chosen one</source>
-        <translation type="unfinished"></translation>
+        <translation>Una capa que se parece a la elegida</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -15129,87 +15141,87 @@ No drawing is open.
     </message>
     <message>
         <source>Takes unused layers out of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita del dibujo las capas sin usar</translation>
     </message>
     <message>
         <source>Make &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer a&amp;ctual</translation>
     </message>
     <message>
         <source>Filter of names</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de nombres</translation>
     </message>
     <message>
         <source>Filter: part of a name, or a pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: parte de un nombre o un patrón</translation>
     </message>
     <message>
         <source>Which layers are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué capas se muestran</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Usadas</translation>
     </message>
     <message>
         <source>Of references</source>
-        <translation type="unfinished"></translation>
+        <translation>De referencias</translation>
     </message>
     <message>
         <source>Not frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>No inutilizadas</translation>
     </message>
     <message>
         <source>Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Visibles</translation>
     </message>
     <message>
         <source>%1 of %2 layers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 capas</translation>
     </message>
     <message>
         <source>%1, %2 chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 elegidas</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... y %1 más</translation>
     </message>
     <message>
         <source>Nothing can be changed while a command runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede cambiar nada mientras hay un comando en curso.</translation>
     </message>
     <message>
         <source>No drawing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún dibujo abierto.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value for this.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un valor para esto.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; belongs to an external reference and cannot be current.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; pertenece a una referencia externa y no puede ser la actual.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is frozen and cannot be current.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; está inutilizada y no puede ser la actual.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capa &quot;%1&quot; está en uso.</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renombrar</translation>
     </message>
     <message>
         <source>C&amp;olor...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olor...</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
@@ -15220,199 +15232,222 @@ No drawing is open.
     <name>host::app::LayoutTabs</name>
     <message>
         <source>Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentaciones</translation>
     </message>
 </context>
 <context>
     <name>host::app::LineReader</name>
     <message>
         <source>too much on the line: &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>sobra en la línea: &quot;%1&quot;</translation>
     </message>
     <message>
         <source>something is missing at the end of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>falta algo al final de la línea</translation>
     </message>
 </context>
 <context>
     <name>host::app::LispConsole</name>
     <message>
         <source>A Lisp expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Una expresión Lisp</translation>
     </message>
     <message>
         <source>Lisp expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión Lisp</translation>
     </message>
     <message>
         <source>Search what was entered: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en lo introducido: %1</translation>
     </message>
     <message>
         <source>Not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No encontrado: %1</translation>
     </message>
 </context>
 <context>
     <name>host::app::MainWindow</name>
     <message>
         <source>Lisp console</source>
-        <translation type="unfinished"></translation>
+        <translation>Consola Lisp</translation>
     </message>
     <message>
         <source>
 A command is running; Esc stops it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Hay un comando en curso; Esc lo detiene.
+</translation>
     </message>
     <message>
         <source>
 No drawing is open.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay ningún dibujo abierto.
+</translation>
     </message>
     <message>
         <source>%1 is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una carpeta.</translation>
     </message>
     <message>
         <source>%1 is a picture or document, no drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una imagen o un documento, no un dibujo.</translation>
     </message>
     <message>
         <source>No tools were found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han encontrado herramientas</translation>
     </message>
     <message>
         <source>
 The help pages were not found.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado las páginas de ayuda.
+</translation>
     </message>
     <message>
         <source>About Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Ortakit</translation>
     </message>
     <message>
         <source>Ortakit %1
 
 Drafting tools for CAD drawings, with a host of their own.
 Qt %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortakit %1
+
+Herramientas de dibujo para dibujos CAD, con un entorno propio.
+Qt %2</translation>
     </message>
     <message>
         <source>Command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea de comandos</translation>
     </message>
     <message>
         <source>
 There is more to show than is drawn in one go: the picture lacks part of it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Hay más que mostrar de lo que se dibuja de una vez: a la imagen le falta una parte.
+</translation>
     </message>
     <message>
         <source>%1 is no full path of a program.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es la ruta completa de un programa.</translation>
     </message>
     <message>
         <source>This cannot be kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no se puede guardar en %1.</translation>
     </message>
     <message>
         <source>not while something runs</source>
-        <translation type="unfinished"></translation>
+        <translation>no mientras algo está en curso</translation>
     </message>
     <message>
         <source>not possible now</source>
-        <translation type="unfinished"></translation>
+        <translation>no es posible ahora</translation>
     </message>
     <message>
         <source>command of a program</source>
-        <translation type="unfinished"></translation>
+        <translation>comando de un programa</translation>
     </message>
     <message>
         <source>system variable: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>variable de sistema: %1</translation>
     </message>
     <message>
         <source>Open &amp;recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;recientes</translation>
     </message>
     <message>
         <source>%1 (pinned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (fijado)</translation>
     </message>
     <message>
         <source>&amp;Last time&apos;s drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dibujos de la última vez</translation>
     </message>
     <message>
         <source>Open them at each &amp;start</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrirlos en cada &amp;inicio</translation>
     </message>
     <message>
         <source>&amp;Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vaciar la lista</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Stop &amp;recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener &amp;grabación</translation>
     </message>
     <message>
         <source>
 Recording to %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Grabando en %1.
+</translation>
     </message>
     <message>
         <source>&amp;Record session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grabar sesión...</translation>
     </message>
     <message>
         <source>
 Recorded in %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Grabado en %1.
+</translation>
     </message>
     <message>
         <source>
 The recording was not written: %1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+La grabación no se ha escrito: %1: %2
+</translation>
     </message>
     <message>
         <source>Record session</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabar sesión</translation>
     </message>
     <message>
         <source>Recorded sessions (*.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones grabadas (*.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>
 No copy of %1 is kept for after a crash: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se guarda copia de %1 para después de una interrupción: %2.
+</translation>
     </message>
     <message>
         <source>
 %1 was recovered by another program.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 lo recuperó otro programa.
+</translation>
     </message>
     <message>
         <source>
 Recovered as it was on %1. It is not in its file until it is saved.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Recuperado tal como estaba el %1. No está en su archivo hasta que se guarde.
+</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -15420,57 +15455,57 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Repeat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir %1</translation>
     </message>
     <message>
         <source>Recent input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada reciente</translation>
     </message>
     <message>
         <source>Choose nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>No designar nada</translation>
     </message>
 </context>
 <context>
     <name>host::app::ParagraphDialog</name>
     <message>
         <source>Edit paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar párrafo</translation>
     </message>
     <message>
         <source>Text of the paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto del párrafo</translation>
     </message>
     <message>
         <source>Each line is a paragraph. Codes are shown as they are: {\C1;red}, %%c, %%d.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada línea es un párrafo. Los códigos se muestran como son: {\C1;red}, %%c, %%d.</translation>
     </message>
     <message>
         <source>Ctrl+Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Intro</translation>
     </message>
 </context>
 <context>
     <name>host::app::PrintDialog</name>
     <message>
         <source>&amp;Centred</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Centrado</translation>
     </message>
     <message>
         <source>&amp;Lineweights</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosores de &amp;línea</translation>
     </message>
     <message>
         <source>&amp;Remember in the layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recordar en la presentación</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir %1</translation>
     </message>
     <message>
         <source>Page setup of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de página de %1</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -15478,27 +15513,27 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Im&amp;primir</translation>
     </message>
     <message>
         <source>%1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo %1</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>What is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se muestra</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>Limits</source>
@@ -15506,139 +15541,141 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>The layout&apos;s sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>La hoja de la presentación</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>As the layout says</source>
-        <translation type="unfinished"></translation>
+        <translation>Según la presentación</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Black and white</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco y negro</translation>
     </message>
     <message>
         <source>Greys</source>
-        <translation type="unfinished"></translation>
+        <translation>Grises</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dispositivo</translation>
     </message>
     <message>
         <source>P&amp;aper</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;apel</translation>
     </message>
     <message>
         <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Orientación</translation>
     </message>
     <message>
         <source>A&amp;rea</source>
-        <translation type="unfinished"></translation>
+        <translation>Ár&amp;ea</translation>
     </message>
     <message>
         <source>Lower left corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina inferior izquierda</translation>
     </message>
     <message>
         <source>Upper right corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina superior derecha</translation>
     </message>
     <message>
         <source>&amp;Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;scala</translation>
     </message>
     <message>
         <source>O&amp;ffset (mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Des&amp;fase (mm)</translation>
     </message>
     <message>
         <source>Colo&amp;urs</source>
-        <translation type="unfinished"></translation>
+        <translation>Colo&amp;res</translation>
     </message>
     <message>
         <source>Cop&amp;ies</source>
-        <translation type="unfinished"></translation>
+        <translation>Cop&amp;ias</translation>
     </message>
 </context>
 <context>
     <name>host::app::PropertiesPanel</name>
     <message>
         <source>Which of the chosen entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuáles de las entidades designadas</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Nothing chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada designado</translation>
     </message>
     <message>
         <source>No drawing is open</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún dibujo abierto</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>%1 of %2 are on locked layers and stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 están en capas bloqueadas y se quedan como están.</translation>
     </message>
     <message>
         <source>Nothing was changed: what is chosen is on locked layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: lo designado está en capas bloqueadas.</translation>
     </message>
 </context>
 <context>
     <name>host::app::RecoveryDialog</name>
     <message>
         <source>never saved</source>
-        <translation type="unfinished"></translation>
+        <translation>nunca guardado</translation>
     </message>
     <message>
         <source>%1
 (changed since by another program)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+(cambiado desde entonces por otro programa)</translation>
     </message>
     <message>
         <source>%1
 (not there any more)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+(ya no está)</translation>
     </message>
     <message>
         <source>Recover drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar dibujos</translation>
     </message>
     <message>
         <source>The program ended without closing these drawings. What had not been saved of them was kept in copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa terminó sin cerrar estos dibujos. Lo que no se había guardado de ellos se conservó en copias.</translation>
     </message>
     <message>
         <source>Drawings to recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos que se recuperan</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado</translation>
     </message>
     <message>
         <source>Size</source>
@@ -15650,23 +15687,23 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Open selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir seleccionados</translation>
     </message>
     <message>
         <source>&amp;Discard selected...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar seleccionados...</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más tarde</translation>
     </message>
     <message>
         <source>The copies are offered again at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>Las copias se vuelven a ofrecer en el próximo inicio</translation>
     </message>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(sin nombre)</translation>
     </message>
     <message numerus="yes">
         <source>Discard what was not saved of %n drawing(s)? It cannot be brought back.</source>
@@ -15680,226 +15717,226 @@ Recovered as it was on %1. It is not in its file until it is saved.
     <name>host::app::ResultsModel</name>
     <message>
         <source>done</source>
-        <translation type="unfinished"></translation>
+        <translation>hecho</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>omitido</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>What and why</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué y por qué</translation>
     </message>
 </context>
 <context>
     <name>host::app::ResultsPanel</name>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar...</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Which results are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué resultados se muestran</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho</translation>
     </message>
     <message>
         <source>Skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitidos</translation>
     </message>
     <message>
         <source>No tool has listed results in this drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna herramienta ha listado resultados en este dibujo.</translation>
     </message>
     <message>
         <source>It is not in the drawing any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya no está en el dibujo.</translation>
     </message>
     <message>
         <source>It is not in the space that is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>No está en el espacio que se muestra.</translation>
     </message>
     <message>
         <source>Save results</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar resultados</translation>
     </message>
     <message>
         <source>Text (*.txt);;JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto (*.txt);;JSON (*.json)</translation>
     </message>
     <message>
         <source>Written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrito: %1</translation>
     </message>
 </context>
 <context>
     <name>host::app::ScriptReader</name>
     <message>
         <source>part: it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: no tiene fin</translation>
     </message>
     <message>
         <source>part: the part before it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: la parte anterior no tiene fin</translation>
     </message>
     <message>
         <source>end: no part was begun</source>
-        <translation type="unfinished"></translation>
+        <translation>end: no se empezó ninguna parte</translation>
     </message>
     <message>
         <source>drawing: only the first line says which drawing it is</source>
-        <translation type="unfinished"></translation>
+        <translation>drawing: solo la primera línea dice qué dibujo es</translation>
     </message>
     <message>
         <source>part: there is a part %1 already</source>
-        <translation type="unfinished"></translation>
+        <translation>part: ya hay una parte %1</translation>
     </message>
     <message>
         <source>part: a part cannot be written in a part</source>
-        <translation type="unfinished"></translation>
+        <translation>part: una parte no se puede escribir dentro de otra</translation>
     </message>
     <message>
         <source>play: there is no part %1</source>
-        <translation type="unfinished"></translation>
+        <translation>play: no hay ninguna parte %1</translation>
     </message>
     <message>
         <source>play: the part %1 plays itself</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 se reproduce a sí misma</translation>
     </message>
     <message>
         <source>play: too many parts are played one in the other</source>
-        <translation type="unfinished"></translation>
+        <translation>play: hay demasiadas partes unas dentro de otras</translation>
     </message>
     <message>
         <source>play: the part %1 takes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 toma %2</translation>
     </message>
     <message>
         <source>part %1, line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>parte %1, línea %2</translation>
     </message>
     <message>
         <source>play: the parts write too much</source>
-        <translation type="unfinished"></translation>
+        <translation>play: las partes escriben demasiado</translation>
     </message>
     <message>
         <source>no arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>sin argumentos</translation>
     </message>
 </context>
 <context>
     <name>host::app::SessionPlayer</name>
     <message>
         <source>the session took longer than %1 s; open is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la sesión tardó más de %1 s; está abierto %2</translation>
     </message>
     <message>
         <source>no dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>ningún diálogo</translation>
     </message>
     <message>
         <source>${%1} is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>${%1} no se conoce</translation>
     </message>
     <message>
         <source>the prompt &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la solicitud &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the session ends while %1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>la sesión termina mientras %1 está abierto</translation>
     </message>
     <message>
         <source>%1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está abierto</translation>
     </message>
     <message>
         <source>%1 is still open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sigue abierto</translation>
     </message>
     <message>
         <source>a view needs two corners</source>
-        <translation type="unfinished"></translation>
+        <translation>una vista necesita dos esquinas</translation>
     </message>
     <message>
         <source>the run before it ended without an error</source>
-        <translation type="unfinished"></translation>
+        <translation>la ejecución anterior terminó sin error</translation>
     </message>
     <message>
         <source>no prompt and no dialog is open that this could be meant for</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna solicitud ni diálogo abierto al que se pueda referir</translation>
     </message>
     <message>
         <source>there is no panel &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún panel &quot;%1&quot;</translation>
     </message>
     <message>
         <source>it stands in front of a command or lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>está delante de un comando o de lisp</translation>
     </message>
     <message>
         <source>the error is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el error es &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the run ended with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la ejecución terminó con &quot;%1&quot;</translation>
     </message>
     <message>
         <source>cancelled at %1, </source>
-        <translation type="unfinished"></translation>
+        <translation>cancelado en %1, </translation>
     </message>
     <message>
         <source>the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo difiere de como era: %1</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada que deshacer</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada que rehacer</translation>
     </message>
     <message>
         <source>it is nil</source>
-        <translation type="unfinished"></translation>
+        <translation>es nil</translation>
     </message>
 </context>
 <context>
     <name>host::app::SettingEditor</name>
     <message>
         <source>Add to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a: %1</translation>
     </message>
     <message>
         <source>Lisp programs (*.lsp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas Lisp (*.lsp)</translation>
     </message>
 </context>
 <context>
     <name>host::app::SettingsWindow</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Search</source>
@@ -15907,152 +15944,152 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Search the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la configuración</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Secciones</translation>
     </message>
     <message>
         <source>System variables are shown while a drawing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las variables de sistema se muestran mientras hay un dibujo abierto.</translation>
     </message>
     <message>
         <source>A command is running; Esc stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay un comando en curso; Esc lo detiene.</translation>
     </message>
     <message>
         <source>%1 cannot be &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no puede ser &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::app::StartPage</name>
     <message>
         <source>Recent drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos recientes</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplos</translation>
     </message>
     <message>
         <source>Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortakit</translation>
     </message>
     <message>
         <source>First steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeros pasos</translation>
     </message>
     <message>
         <source>&amp;New drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo &amp;nuevo</translation>
     </message>
     <message>
         <source>&amp;Open drawings...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir dibujos...</translation>
     </message>
     <message>
         <source>Open &amp;last time&apos;s drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir dibujos de la ú&amp;ltima vez</translation>
     </message>
     <message>
         <source>Look at a sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver un ejemplo</translation>
     </message>
     <message>
         <source>Draw a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar una línea</translation>
     </message>
     <message>
         <source>Read the help</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer la ayuda</translation>
     </message>
     <message>
         <source>(not there any more)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ya no está)</translation>
     </message>
     <message>
         <source>%1 (pinned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (fijado)</translation>
     </message>
     <message>
         <source>Un&amp;pin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Soltar</translation>
     </message>
     <message>
         <source>&amp;Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fijar</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar de la lista</translation>
     </message>
 </context>
 <context>
     <name>host::app::StatusSwitches</name>
     <message>
         <source>%1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 activado</translation>
     </message>
     <message>
         <source>%1 off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 desactivado</translation>
     </message>
     <message>
         <source>GRID</source>
-        <translation type="unfinished"></translation>
+        <translation>REJILLA</translation>
     </message>
     <message>
         <source>Shows the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra la rejilla</translation>
     </message>
     <message>
         <source>SNAP</source>
-        <translation type="unfinished"></translation>
+        <translation>FORZC</translation>
     </message>
     <message>
         <source>Points snap to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos se ajustan a la rejilla</translation>
     </message>
     <message>
         <source>ORTHO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORTO</translation>
     </message>
     <message>
         <source>Points lie along the axes from the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos siguen los ejes desde el último</translation>
     </message>
     <message>
         <source>POLAR</source>
-        <translation type="unfinished"></translation>
+        <translation>POLAR</translation>
     </message>
     <message>
         <source>Points lock to angles from the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos se fijan a ángulos desde el último</translation>
     </message>
     <message>
         <source>OSNAP</source>
-        <translation type="unfinished"></translation>
+        <translation>REFENT</translation>
     </message>
     <message>
         <source>Points snap to entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos se ajustan a las entidades</translation>
     </message>
     <message>
         <source>DYN</source>
-        <translation type="unfinished"></translation>
+        <translation>DIN</translation>
     </message>
     <message>
         <source>Length and angle stand at the pointer; Tab locks what was typed</source>
-        <translation type="unfinished"></translation>
+        <translation>La longitud y el ángulo están junto al cursor; Tab fija lo escrito</translation>
     </message>
 </context>
 <context>
     <name>host::app::StyleBar</name>
     <message>
         <source>Current properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades actuales</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -16068,41 +16105,41 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de línea</translation>
     </message>
 </context>
 <context>
     <name>host::app::SuggestionList</name>
     <message>
         <source>Suggestions</source>
-        <translation type="unfinished"></translation>
+        <translation>Sugerencias</translation>
     </message>
 </context>
 <context>
     <name>host::app::TextEditing</name>
     <message>
         <source>It is on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Está en una capa bloqueada.</translation>
     </message>
     <message>
         <source>A text without letters could not be found again: it stays as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texto sin letras no se podría volver a encontrar: se queda como estaba.</translation>
     </message>
     <message>
         <source>Edit attribute definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar definición de atributo</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Solicitud</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor por defecto</translation>
     </message>
     <message>
         <source>A tag has no blanks.</source>
@@ -16110,50 +16147,50 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>The value is constant: the block says it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor es constante: lo dice el bloque.</translation>
     </message>
     <message>
         <source>Several lines, with \P between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Varias líneas, con \P entre ellas.</translation>
     </message>
     <message>
         <source>Attributes of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atributos de %1</translation>
     </message>
 </context>
 <context>
     <name>host::app::TrustBar</name>
     <message>
         <source>%1 was not read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se ha leído: %2</translation>
     </message>
     <message>
         <source>%1 was not loaded: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se ha cargado: %2</translation>
     </message>
     <message>
         <source>%1 was not started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se ha iniciado: %2</translation>
     </message>
     <message>
         <source>Allow &amp;once</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir &amp;una vez</translation>
     </message>
     <message>
         <source>Trust the folde&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Confia&amp;r en la carpeta</translation>
     </message>
     <message>
         <source>What was kept from running or being read</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que no se ha dejado ejecutar o leer</translation>
     </message>
     <message>
         <source>Files and programs that were kept back</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos y programas retenidos</translation>
     </message>
     <message>
         <source>Detai&amp;ls</source>
-        <translation type="unfinished"></translation>
+        <translation>Deta&amp;lles</translation>
     </message>
     <message>
         <source>Close</source>
@@ -16161,49 +16198,49 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elementos retenidos: se nombran aquí, pero no están en carpetas de confianza.</translation>
     </message>
 </context>
 <context>
     <name>host::app::ValuesDialog</name>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Solicitud</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
 </context>
 <context>
     <name>host::app::WindowDialogs</name>
     <message>
         <source>Printed on %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impreso en %1.</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir en archivo</translation>
     </message>
     <message>
         <source>%1 files (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos %1 (*.%2)</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo</translation>
     </message>
     <message>
         <source>&amp;Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renombrar...</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -16211,19 +16248,19 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Move &amp;left</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover a la &amp;izquierda</translation>
     </message>
     <message>
         <source>Move righ&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover a la &amp;derecha</translation>
     </message>
     <message>
         <source>&amp;Page setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar &amp;página...</translation>
     </message>
     <message>
         <source>Rename layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar presentación</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
@@ -16234,49 +16271,49 @@ Recovered as it was on %1. It is not in its file until it is saved.
     <name>host::app::Workbench</name>
     <message>
         <source>The folder of the Lisp tools was not found; there are no tools.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado la carpeta de las herramientas Lisp; no hay herramientas.</translation>
     </message>
     <message>
         <source>There is no folder %1; there are no tools.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna carpeta %1; no hay herramientas.</translation>
     </message>
     <message>
         <source>The plug-in module was not found; tools with dialogs will not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado el módulo de extensión; las herramientas con diálogos no funcionarán.</translation>
     </message>
     <message>
         <source>%1 Tools with dialogs will not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Las herramientas con diálogos no funcionarán.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>host::kernel::Autosave</name>
     <message>
         <source>the folder %1 takes no files</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta %1 no admite archivos</translation>
     </message>
 </context>
 <context>
     <name>host::kernel::ColourDialog</name>
     <message>
         <source>Select Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar color</translation>
     </message>
     <message>
         <source>By&amp;Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Por&amp;Capa</translation>
     </message>
     <message>
         <source>By&amp;Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Por&amp;Bloque</translation>
     </message>
     <message>
         <source>&amp;More Colors...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más colores...</translation>
     </message>
     <message>
         <source>&amp;Color:</source>
@@ -16287,46 +16324,46 @@ Recovered as it was on %1. It is not in its file until it is saved.
     <name>host::kernel::DrawingBackup</name>
     <message>
         <source>No backup of %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin copia de seguridad de %1: %2.</translation>
     </message>
     <message>
         <source>the backup would take the place of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>la copia de seguridad ocuparía el lugar del dibujo</translation>
     </message>
     <message>
         <source>there is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna carpeta %1</translation>
     </message>
 </context>
 <context>
     <name>host::view::Export</name>
     <message>
         <source>Cannot make a picture of this size for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede hacer una imagen de este tamaño para %1</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
     <message>
         <source>The sheet would be %1 by %2 pixels; %3 each way are the most</source>
-        <translation type="unfinished"></translation>
+        <translation>La hoja tendría %1 por %2 píxeles; lo máximo en cada sentido son %3</translation>
     </message>
     <message>
         <source>There is no block named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún bloque llamado %1</translation>
     </message>
     <message>
         <source>There is no layout named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna presentación llamada %1</translation>
     </message>
     <message>
         <source>it is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encuentra</translation>
     </message>
     <message>
         <source>the plot styles %1 are left out: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>los estilos de trazado %1 se omiten: %2</translation>
     </message>
 </context>
 </TS>

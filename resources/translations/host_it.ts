@@ -10423,167 +10423,167 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     <name>Keywords</name>
     <message>
         <source>2points</source>
-        <translation type="unfinished"></translation>
+        <translation>2punti</translation>
     </message>
     <message>
         <source>3point</source>
-        <translation type="unfinished"></translation>
+        <translation>3Punti</translation>
     </message>
     <message>
         <source>3points</source>
-        <translation type="unfinished"></translation>
+        <translation>3punti</translation>
     </message>
     <message>
         <source>ANnotative</source>
-        <translation type="unfinished"></translation>
+        <translation>ANnotativo</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Sopra</translation>
     </message>
     <message>
         <source>Above objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Sopra gli oggetti</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi</translation>
     </message>
     <message>
         <source>Add area</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi area</translation>
     </message>
     <message>
         <source>Add leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi direttrici</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzate</translation>
     </message>
     <message>
         <source>Advanced options</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzate</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>Ang</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo</translation>
     </message>
     <message>
         <source>Annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>aNnotazione</translation>
     </message>
     <message>
         <source>Annotative</source>
-        <translation type="unfinished"></translation>
+        <translation>Annotativo</translation>
     </message>
     <message>
         <source>Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Comunque</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica</translation>
     </message>
     <message>
         <source>Arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza arco</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Area</translation>
     </message>
     <message>
         <source>Array</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie</translation>
     </message>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Freccia</translation>
     </message>
     <message>
         <source>As</source>
-        <translation type="unfinished"></translation>
+        <translation>Come</translation>
     </message>
     <message>
         <source>As displayed</source>
-        <translation type="unfinished"></translation>
+        <translation>Come visualizzato</translation>
     </message>
     <message>
         <source>Aspect</source>
-        <translation type="unfinished"></translation>
+        <translation>aspeTto</translation>
     </message>
     <message>
         <source>Associativity</source>
-        <translation type="unfinished"></translation>
+        <translation>Associatività</translation>
     </message>
     <message>
         <source>At least</source>
-        <translation type="unfinished"></translation>
+        <translation>Minima</translation>
     </message>
     <message>
         <source>Attach</source>
-        <translation type="unfinished"></translation>
+        <translation>Attacca</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>BAck</source>
-        <translation type="unfinished"></translation>
+        <translation>REtro</translation>
     </message>
     <message>
         <source>BEgin</source>
-        <translation type="unfinished"></translation>
+        <translation>INizio</translation>
     </message>
     <message>
         <source>BYBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>DABlocco</translation>
     </message>
     <message>
         <source>BYLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>DALayer</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Base</source>
-        <translation type="unfinished"></translation>
+        <translation>Base</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto base</translation>
     </message>
     <message>
         <source>Below</source>
-        <translation type="unfinished"></translation>
+        <translation>soTto</translation>
     </message>
     <message>
         <source>Binary</source>
-        <translation type="unfinished"></translation>
+        <translation>Binario</translation>
     </message>
     <message>
         <source>Bind</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci</translation>
     </message>
     <message>
         <source>Bisect</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisettrice</translation>
     </message>
     <message>
         <source>Block</source>
@@ -10591,7 +10591,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Block selection</source>
-        <translation type="unfinished"></translation>
+        <translation>selezione Blocchi</translation>
     </message>
     <message>
         <source>Blocks</source>
@@ -10599,11 +10599,11 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>eNtrambi</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Basso</translation>
     </message>
     <message>
         <source>Boundaries</source>
@@ -10611,15 +10611,15 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Boundary set</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppo contorni</translation>
     </message>
     <message>
         <source>Break</source>
-        <translation type="unfinished"></translation>
+        <translation>speZza</translation>
     </message>
     <message>
         <source>ByBlock</source>
@@ -10631,27 +10631,27 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>CEnter</source>
-        <translation type="unfinished"></translation>
+        <translation>CEntro</translation>
     </message>
     <message>
         <source>CLose</source>
-        <translation type="unfinished"></translation>
+        <translation>CHiudi</translation>
     </message>
     <message>
         <source>COlor</source>
-        <translation type="unfinished"></translation>
+        <translation>COlore</translation>
     </message>
     <message>
         <source>COlorbook</source>
-        <translation type="unfinished"></translation>
+        <translation>LIbrocolori</translation>
     </message>
     <message>
         <source>CV</source>
-        <translation type="unfinished"></translation>
+        <translation>VC</translation>
     </message>
     <message>
         <source>Calligraphy</source>
-        <translation type="unfinished"></translation>
+        <translation>Calligrafia</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -10659,27 +10659,27 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Chamfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cima</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia</translation>
     </message>
     <message>
         <source>Chord</source>
-        <translation type="unfinished"></translation>
+        <translation>Corda</translation>
     </message>
     <message>
         <source>Circumscribed about circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Circoscritto al cerchio</translation>
     </message>
     <message>
         <source>Clear overrides</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella sostituzioni</translation>
     </message>
     <message>
         <source>Close</source>
@@ -10691,115 +10691,115 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Combine</source>
-        <translation type="unfinished"></translation>
+        <translation>coMbina</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>coMandi</translation>
     </message>
     <message>
         <source>Constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante</translation>
     </message>
     <message>
         <source>Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenuto</translation>
     </message>
     <message>
         <source>Content first</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenuto prima</translation>
     </message>
     <message>
         <source>Content type</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di Contenuto</translation>
     </message>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllo</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea</translation>
     </message>
     <message>
         <source>Crossing</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersezione</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrente</translation>
     </message>
     <message>
         <source>Current ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>UCS corrente</translation>
     </message>
     <message>
         <source>DElta</source>
-        <translation type="unfinished"></translation>
+        <translation>DElta</translation>
     </message>
     <message>
         <source>DEtailviewstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>DEttagliovistastili</translation>
     </message>
     <message>
         <source>DIsassociate</source>
-        <translation type="unfinished"></translation>
+        <translation>DIssocia</translation>
     </message>
     <message>
         <source>DRaw</source>
-        <translation type="unfinished"></translation>
+        <translation>ORdine</translation>
     </message>
     <message>
         <source>DRaw order</source>
-        <translation type="unfinished"></translation>
+        <translation>ORdine di disegno</translation>
     </message>
     <message>
         <source>DXF</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF</translation>
     </message>
     <message>
         <source>DYnamic</source>
-        <translation type="unfinished"></translation>
+        <translation>DInamico</translation>
     </message>
     <message>
         <source>Decurve</source>
-        <translation type="unfinished"></translation>
+        <translation>Decurva</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Default</translation>
     </message>
     <message>
         <source>Degree</source>
-        <translation type="unfinished"></translation>
+        <translation>Grado</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descrizione</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Stacca</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diametro</translation>
     </message>
     <message>
         <source>Dimensions</source>
@@ -10807,139 +10807,139 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Dimstyle</source>
-        <translation type="unfinished"></translation>
+        <translation>stileQuota</translation>
     </message>
     <message>
         <source>Dimstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stiliQuota</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Direzione</translation>
     </message>
     <message>
         <source>Displacement</source>
-        <translation type="unfinished"></translation>
+        <translation>sPostamento</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Schermo</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distanza</translation>
     </message>
     <message>
         <source>Distribute</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribuisci</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>Dinamico</translation>
     </message>
     <message>
         <source>EXport</source>
-        <translation type="unfinished"></translation>
+        <translation>ESporta</translation>
     </message>
     <message>
         <source>Edge</source>
-        <translation type="unfinished"></translation>
+        <translation>sPigolo</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Edita</translation>
     </message>
     <message>
         <source>Edit vertex</source>
-        <translation type="unfinished"></translation>
+        <translation>Edita vertice</translation>
     </message>
     <message>
         <source>Elev</source>
-        <translation type="unfinished"></translation>
+        <translation>Elev</translation>
     </message>
     <message>
         <source>Elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevazione</translation>
     </message>
     <message>
         <source>Empty text objects</source>
-        <translation type="unfinished"></translation>
+        <translation>tEsti vuoti</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>Endtoend</source>
-        <translation type="unfinished"></translation>
+        <translation>Estremi</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entità</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>Everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>Exactly</source>
-        <translation type="unfinished"></translation>
+        <translation>Esatta</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>Explode</source>
-        <translation type="unfinished"></translation>
+        <translation>Esplodi</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Estendi</translation>
     </message>
     <message>
         <source>Extents</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensioni</translation>
     </message>
     <message>
         <source>Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Faccia</translation>
     </message>
     <message>
         <source>Fence</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercetta</translation>
     </message>
     <message>
         <source>Fillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccordo</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo</translation>
     </message>
     <message>
         <source>First angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo angolo</translation>
     </message>
     <message>
         <source>First point</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo punto</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Adatta</translation>
     </message>
     <message>
         <source>Fit tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolleranza di adattamento</translation>
     </message>
     <message>
         <source>Format</source>
@@ -10947,87 +10947,87 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Freehand</source>
-        <translation type="unfinished"></translation>
+        <translation>Manolibera</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Congela</translation>
     </message>
     <message>
         <source>Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Fronte</translation>
     </message>
     <message>
         <source>Frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>conGelato</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>aPertura</translation>
     </message>
     <message>
         <source>Gap tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>tolleranza aPertura</translation>
     </message>
     <message>
         <source>Go</source>
-        <translation type="unfinished"></translation>
+        <translation>Vai</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Griglia</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppo</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppi</translation>
     </message>
     <message>
         <source>HELP</source>
-        <translation type="unfinished"></translation>
+        <translation>GUIDA</translation>
     </message>
     <message>
         <source>Halfwidth</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezzalarghezza</translation>
     </message>
     <message>
         <source>Hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>Tratteggi</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>alTezza</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Nascosto</translation>
     </message>
     <message>
         <source>Hideplot</source>
-        <translation type="unfinished"></translation>
+        <translation>Nasconditraccia</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniziale</translation>
     </message>
     <message>
         <source>Hor</source>
-        <translation type="unfinished"></translation>
+        <translation>Or</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignora</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa</translation>
     </message>
     <message>
         <source>Inches</source>
@@ -11035,95 +11035,95 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Included angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscritto angolo</translation>
     </message>
     <message>
         <source>Inscribed in circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscritto nel cerchio</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci</translation>
     </message>
     <message>
         <source>Invert clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverti ritaglio</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>Invisibile</translation>
     </message>
     <message>
         <source>Island</source>
-        <translation type="unfinished"></translation>
+        <translation>Isole</translation>
     </message>
     <message>
         <source>Island detection</source>
-        <translation type="unfinished"></translation>
+        <translation>rilevamento Isole</translation>
     </message>
     <message>
         <source>Isometric</source>
-        <translation type="unfinished"></translation>
+        <translation>Isometrico</translation>
     </message>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>uNisci</translation>
     </message>
     <message>
         <source>Jointype</source>
-        <translation type="unfinished"></translation>
+        <translation>tipoUnione</translation>
     </message>
     <message>
         <source>Justification</source>
-        <translation type="unfinished"></translation>
+        <translation>Giustificazione</translation>
     </message>
     <message>
         <source>Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>Giustifica</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>Nodi</translation>
     </message>
     <message>
         <source>LAYOut</source>
-        <translation type="unfinished"></translation>
+        <translation>LAYOut</translation>
     </message>
     <message>
         <source>LAyer</source>
-        <translation type="unfinished"></translation>
+        <translation>LAyer</translation>
     </message>
     <message>
         <source>LAyers</source>
-        <translation type="unfinished"></translation>
+        <translation>LAyer</translation>
     </message>
     <message>
         <source>LOck</source>
-        <translation type="unfinished"></translation>
+        <translation>BLocca</translation>
     </message>
     <message>
         <source>LType</source>
-        <translation type="unfinished"></translation>
+        <translation>TLinea</translation>
     </message>
     <message>
         <source>LTypes</source>
-        <translation type="unfinished"></translation>
+        <translation>TLinee</translation>
     </message>
     <message>
         <source>LWeight</source>
-        <translation type="unfinished"></translation>
+        <translation>SLinea</translation>
     </message>
     <message>
         <source>Landing</source>
-        <translation type="unfinished"></translation>
+        <translation>coLlegamento</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -11131,23 +11131,23 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
     <message>
         <source>Leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Direttrice</translation>
     </message>
     <message>
         <source>Leader type</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di Direttrice</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinistra</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza</translation>
     </message>
     <message>
         <source>Limits</source>
@@ -11155,95 +11155,95 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea</translation>
     </message>
     <message>
         <source>Line spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Interlinea</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>cArica</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca</translation>
     </message>
     <message>
         <source>Lock and fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca e sfuma</translation>
     </message>
     <message>
         <source>Ltype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tlinea</translation>
     </message>
     <message>
         <source>Ltype gen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipolinea gen</translation>
     </message>
     <message>
         <source>MATerial</source>
-        <translation type="unfinished"></translation>
+        <translation>MATeriale</translation>
     </message>
     <message>
         <source>MAterials</source>
-        <translation type="unfinished"></translation>
+        <translation>MAteriali</translation>
     </message>
     <message>
         <source>MUltileaderstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>MUltidirettricistili</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>cRea</translation>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Materiale</translation>
     </message>
     <message>
         <source>Maxpoints</source>
-        <translation type="unfinished"></translation>
+        <translation>Maxpunti</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Metodo</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimetri</translation>
     </message>
     <message>
         <source>Mlinestyles</source>
-        <translation type="unfinished"></translation>
+        <translation>MLineestili</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Muovi</translation>
     </message>
     <message>
         <source>Mtext</source>
-        <translation type="unfinished"></translation>
+        <translation>testoM</translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplo</translation>
     </message>
     <message>
         <source>Multiple points</source>
-        <translation type="unfinished"></translation>
+        <translation>Multipli punti</translation>
     </message>
     <message>
         <source>NAmed</source>
-        <translation type="unfinished"></translation>
+        <translation>NOme</translation>
     </message>
     <message>
         <source>NEW</source>
-        <translation type="unfinished"></translation>
+        <translation>NUOVO</translation>
     </message>
     <message>
         <source>Name</source>
@@ -11251,87 +11251,87 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo</translation>
     </message>
     <message>
         <source>New boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo contorno</translation>
     </message>
     <message>
         <source>Newfrz</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovocong</translation>
     </message>
     <message>
         <source>Newvpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>nuovocongFinestra</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Successivo</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>No columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna colonna</translation>
     </message>
     <message>
         <source>No extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Nonestendere</translation>
     </message>
     <message>
         <source>No leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna direttrice</translation>
     </message>
     <message>
         <source>No plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Non stampare</translation>
     </message>
     <message>
         <source>No trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Nontagliare</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Not</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>OBject</source>
-        <translation type="unfinished"></translation>
+        <translation>OGgetto</translation>
     </message>
     <message>
         <source>OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>OFF</translation>
     </message>
     <message>
         <source>ON</source>
-        <translation type="unfinished"></translation>
+        <translation>ON</translation>
     </message>
     <message>
         <source>Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Oggetto</translation>
     </message>
     <message>
         <source>Object type</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di Oggetto</translation>
     </message>
     <message>
         <source>Objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Oggetti</translation>
     </message>
     <message>
         <source>Oblique</source>
-        <translation type="unfinished"></translation>
+        <translation>Obliqua</translation>
     </message>
     <message>
         <source>Off</source>
@@ -11347,11 +11347,11 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>One</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>aPri</translation>
     </message>
     <message>
         <source>Options</source>
@@ -11359,295 +11359,295 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Orphaned data</source>
-        <translation type="unfinished"></translation>
+        <translation>dati Orfani</translation>
     </message>
     <message>
         <source>Orthographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortogonale</translation>
     </message>
     <message>
         <source>Outer</source>
-        <translation type="unfinished"></translation>
+        <translation>esTerno</translation>
     </message>
     <message>
         <source>Overlaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Sovrapposizioni</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>sOvrapponi</translation>
     </message>
     <message>
         <source>PStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>STStampa</translation>
     </message>
     <message>
         <source>Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametro</translation>
     </message>
     <message>
         <source>Partial</source>
-        <translation type="unfinished"></translation>
+        <translation>Parziale</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Percorso</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale</translation>
     </message>
     <message>
         <source>Pick points</source>
-        <translation type="unfinished"></translation>
+        <translation>scegli Punti</translation>
     </message>
     <message>
         <source>Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Plotstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>STiliStampa</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punti</translation>
     </message>
     <message>
         <source>Polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Polare</translation>
     </message>
     <message>
         <source>Polygonal</source>
-        <translation type="unfinished"></translation>
+        <translation>Poligonale</translation>
     </message>
     <message>
         <source>Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Polilinea</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>pRedefinito</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Precedente</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>proieZione</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>QUIT</source>
-        <translation type="unfinished"></translation>
+        <translation>ESCI</translation>
     </message>
     <message>
         <source>Quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrante</translation>
     </message>
     <message>
         <source>REName</source>
-        <translation type="unfinished"></translation>
+        <translation>RINomina</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggio</translation>
     </message>
     <message>
         <source>Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapporto</translation>
     </message>
     <message>
         <source>Rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Rettangolare</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Riferimento</translation>
     </message>
     <message>
         <source>Regapps</source>
-        <translation type="unfinished"></translation>
+        <translation>APplreg</translation>
     </message>
     <message>
         <source>Regen</source>
-        <translation type="unfinished"></translation>
+        <translation>Rigen</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Regione</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Remove leaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi direttrici</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>riNomina</translation>
     </message>
     <message>
         <source>Rendered</source>
-        <translation type="unfinished"></translation>
+        <translation>Renderizzato</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Sostituisci</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reimposta</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Retain</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni</translation>
     </message>
     <message>
         <source>Retain boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni contorno</translation>
     </message>
     <message>
         <source>Reverse</source>
-        <translation type="unfinished"></translation>
+        <translation>inVerti</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Destra</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota</translation>
     </message>
     <message>
         <source>Rotated</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruotata</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotazione</translation>
     </message>
     <message>
         <source>SAveas</source>
-        <translation type="unfinished"></translation>
+        <translation>SAlvacome</translation>
     </message>
     <message>
         <source>SEctionviewstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>SEzionevistastili</translation>
     </message>
     <message>
         <source>SHapes</source>
-        <translation type="unfinished"></translation>
+        <translation>FOrme</translation>
     </message>
     <message>
         <source>SIngle</source>
-        <translation type="unfinished"></translation>
+        <translation>SIngola</translation>
     </message>
     <message>
         <source>STatus</source>
-        <translation type="unfinished"></translation>
+        <translation>STAto</translation>
     </message>
     <message>
         <source>STraight</source>
-        <translation type="unfinished"></translation>
+        <translation>REtto</translation>
     </message>
     <message>
         <source>STyle</source>
-        <translation type="unfinished"></translation>
+        <translation>STile</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>sCala</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondo</translation>
     </message>
     <message>
         <source>Second angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondo angolo</translation>
     </message>
     <message>
         <source>Second pt</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondo punto</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona</translation>
     </message>
     <message>
         <source>Select objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona oggetti</translation>
     </message>
     <message>
         <source>Select polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona polilinea</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionabile</translation>
     </message>
     <message>
         <source>Set</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta</translation>
     </message>
     <message>
         <source>Set new origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta nuova origine</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Shadeplot</source>
-        <translation type="unfinished"></translation>
+        <translation>stampaOmbreggiata</translation>
     </message>
     <message>
         <source>Single</source>
-        <translation type="unfinished"></translation>
+        <translation>Singolo</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap</translation>
     </message>
     <message>
         <source>Solid</source>
-        <translation type="unfinished"></translation>
+        <translation>Solido</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Spacing</source>
@@ -11655,31 +11655,31 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>Spline curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline curva</translation>
     </message>
     <message>
         <source>Square root</source>
-        <translation type="unfinished"></translation>
+        <translation>Radice quadrata</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>Statico</translation>
     </message>
     <message>
         <source>Straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Retta</translation>
     </message>
     <message>
         <source>Straighten</source>
-        <translation type="unfinished"></translation>
+        <translation>raDdrizza</translation>
     </message>
     <message>
         <source>Style</source>
@@ -11687,75 +11687,75 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Subtract area</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottrai area</translation>
     </message>
     <message>
         <source>TRansparency</source>
-        <translation type="unfinished"></translation>
+        <translation>TRasparenza</translation>
     </message>
     <message>
         <source>Tablestyle</source>
-        <translation type="unfinished"></translation>
+        <translation>stileTabella</translation>
     </message>
     <message>
         <source>Tablestyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stiliTAbella</translation>
     </message>
     <message>
         <source>Tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente</translation>
     </message>
     <message>
         <source>Template</source>
-        <translation type="unfinished"></translation>
+        <translation>moDello</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Thaw</source>
-        <translation type="unfinished"></translation>
+        <translation>Scongela</translation>
     </message>
     <message>
         <source>Thawed</source>
-        <translation type="unfinished"></translation>
+        <translation>Scongelato</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>sPessore</translation>
     </message>
     <message>
         <source>Through</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolleranza</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Alto</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Totale</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Trasparenza</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia</translation>
     </message>
     <message>
         <source>Truecolor</source>
-        <translation type="unfinished"></translation>
+        <translation>Truecolor</translation>
     </message>
     <message>
         <source>Ttr (tan tan radius)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ttr (tan tan raggio)</translation>
     </message>
     <message>
         <source>Type</source>
@@ -11763,79 +11763,79 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ucs</translation>
     </message>
     <message>
         <source>Under</source>
-        <translation type="unfinished"></translation>
+        <translation>soTto</translation>
     </message>
     <message>
         <source>Under objects</source>
-        <translation type="unfinished"></translation>
+        <translation>soTto gli oggetti</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>annUlla</translation>
     </message>
     <message>
         <source>Uniform</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniforme</translation>
     </message>
     <message>
         <source>Unload</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>sbLocca</translation>
     </message>
     <message>
         <source>Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa</translation>
     </message>
     <message>
         <source>Use current origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa origine corrente</translation>
     </message>
     <message>
         <source>Use current spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa spaziatura corrente</translation>
     </message>
     <message>
         <source>User defined</source>
-        <translation type="unfinished"></translation>
+        <translation>Utente</translation>
     </message>
     <message>
         <source>VIew</source>
-        <translation type="unfinished"></translation>
+        <translation>VIsta</translation>
     </message>
     <message>
         <source>VPort</source>
-        <translation type="unfinished"></translation>
+        <translation>FInestra</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabili</translation>
     </message>
     <message>
         <source>Ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>View</source>
@@ -11843,347 +11843,347 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestre</translation>
     </message>
     <message>
         <source>Visual styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di Visualizzazione</translation>
     </message>
     <message>
         <source>Visualstyles</source>
-        <translation type="unfinished"></translation>
+        <translation>stiliVIsuali</translation>
     </message>
     <message>
         <source>Vpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Congfinestra</translation>
     </message>
     <message>
         <source>Vpvisdflt</source>
-        <translation type="unfinished"></translation>
+        <translation>Visdeffinestra</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>larGhezza</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra</translation>
     </message>
     <message>
         <source>Wireframe</source>
-        <translation type="unfinished"></translation>
+        <translation>Wireframe</translation>
     </message>
     <message>
         <source>World</source>
-        <translation type="unfinished"></translation>
+        <translation>Globale</translation>
     </message>
     <message>
         <source>XY</source>
-        <translation type="unfinished"></translation>
+        <translation>XY</translation>
     </message>
     <message>
         <source>XYZ</source>
-        <translation type="unfinished"></translation>
+        <translation>XYZ</translation>
     </message>
     <message>
         <source>Xaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>asseX</translation>
     </message>
     <message>
         <source>Xdatum</source>
-        <translation type="unfinished"></translation>
+        <translation>coordX</translation>
     </message>
     <message>
         <source>YZ</source>
-        <translation type="unfinished"></translation>
+        <translation>YZ</translation>
     </message>
     <message>
         <source>Yaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>asseY</translation>
     </message>
     <message>
         <source>Ydatum</source>
-        <translation type="unfinished"></translation>
+        <translation>coordY</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>ZAxis</source>
-        <translation type="unfinished"></translation>
+        <translation>AZ</translation>
     </message>
     <message>
         <source>ZX</source>
-        <translation type="unfinished"></translation>
+        <translation>ZX</translation>
     </message>
     <message>
         <source>Zaxis</source>
-        <translation type="unfinished"></translation>
+        <translation>asseZ</translation>
     </message>
     <message>
         <source>Zdepth</source>
-        <translation type="unfinished"></translation>
+        <translation>Zprofondità</translation>
     </message>
     <message>
         <source>Zero</source>
-        <translation type="unfinished"></translation>
+        <translation>Zero</translation>
     </message>
     <message>
         <source>Zero-length geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>geometria di lunghezza Zero</translation>
     </message>
     <message>
         <source>beHind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dietro</translation>
     </message>
     <message>
         <source>bounDary</source>
-        <translation type="unfinished"></translation>
+        <translation>daVanti</translation>
     </message>
     <message>
         <source>bring in front of bounDary</source>
-        <translation type="unfinished"></translation>
+        <translation>portare daVanti al contorno</translation>
     </message>
     <message>
         <source>bring to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>portare in Fronte</translation>
     </message>
     <message>
         <source>cLose</source>
-        <translation type="unfinished"></translation>
+        <translation>cHiudi</translation>
     </message>
     <message>
         <source>chord Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza corda</translation>
     </message>
     <message>
         <source>do Not assign</source>
-        <translation type="unfinished"></translation>
+        <translation>Non assegnare</translation>
     </message>
     <message>
         <source>draW</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna</translation>
     </message>
     <message>
         <source>draW boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna contorno</translation>
     </message>
     <message>
         <source>eRase</source>
-        <translation type="unfinished"></translation>
+        <translation>cAncella</translation>
     </message>
     <message>
         <source>eXcept current</source>
-        <translation type="unfinished"></translation>
+        <translation>tranne la coRrente</translation>
     </message>
     <message>
         <source>eXit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>eXit options</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci dalle opzioni</translation>
     </message>
     <message>
         <source>end Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangenza finale</translation>
     </message>
     <message>
         <source>generate Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>genera Polilinea</translation>
     </message>
     <message>
         <source>hatch COlor</source>
-        <translation type="unfinished"></translation>
+        <translation>COlore tratteggio</translation>
     </message>
     <message>
         <source>lAnding</source>
-        <translation type="unfinished"></translation>
+        <translation>coLlegamento</translation>
     </message>
     <message>
         <source>leader Landing first</source>
-        <translation type="unfinished"></translation>
+        <translation>coLlegamento prima</translation>
     </message>
     <message>
         <source>leader lAnding</source>
-        <translation type="unfinished"></translation>
+        <translation>coLlegamento</translation>
     </message>
     <message>
         <source>lineType</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipolinea</translation>
     </message>
     <message>
         <source>lineWeight</source>
-        <translation type="unfinished"></translation>
+        <translation>spessoreLinea</translation>
     </message>
     <message>
         <source>ltScale</source>
-        <translation type="unfinished"></translation>
+        <translation>scaLatl</translation>
     </message>
     <message>
         <source>mEthod</source>
-        <translation type="unfinished"></translation>
+        <translation>meTodo</translation>
     </message>
     <message>
         <source>mOde</source>
-        <translation type="unfinished"></translation>
+        <translation>mOdo</translation>
     </message>
     <message>
         <source>multileadersTyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Multidirettricestile</translation>
     </message>
     <message>
         <source>plotStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>stilestamPa</translation>
     </message>
     <message>
         <source>rEconcile</source>
-        <translation type="unfinished"></translation>
+        <translation>ricOncilia</translation>
     </message>
     <message>
         <source>remove Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>rimuovi Contorni</translation>
     </message>
     <message>
         <source>sPline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>send beHind boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>inviare Dietro al contorno</translation>
     </message>
     <message>
         <source>send to Back</source>
-        <translation type="unfinished"></translation>
+        <translation>inviare In fondo</translation>
     </message>
     <message>
         <source>separate Hatches</source>
-        <translation type="unfinished"></translation>
+        <translation>Tratteggi separati</translation>
     </message>
     <message>
         <source>specify Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Specifica spaziatura</translation>
     </message>
     <message>
         <source>stAte</source>
-        <translation type="unfinished"></translation>
+        <translation>statO</translation>
     </message>
     <message>
         <source>start Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangenza iniziale</translation>
     </message>
     <message>
         <source>textSTyles</source>
-        <translation type="unfinished"></translation>
+        <translation>STilitesto</translation>
     </message>
     <message>
         <source>toLerance</source>
-        <translation type="unfinished"></translation>
+        <translation>toLleranza</translation>
     </message>
     <message>
         <source>ALL</source>
-        <translation type="unfinished"></translation>
+        <translation>TUTTO</translation>
     </message>
     <message>
         <source>ALl</source>
-        <translation type="unfinished"></translation>
+        <translation>TUtto</translation>
     </message>
     <message>
         <source>AUto</source>
-        <translation type="unfinished"></translation>
+        <translation>AUto</translation>
     </message>
     <message>
         <source>BC</source>
-        <translation type="unfinished"></translation>
+        <translation>BC</translation>
     </message>
     <message>
         <source>BL</source>
-        <translation type="unfinished"></translation>
+        <translation>BS</translation>
     </message>
     <message>
         <source>BOX</source>
-        <translation type="unfinished"></translation>
+        <translation>RIquadro</translation>
     </message>
     <message>
         <source>BR</source>
-        <translation type="unfinished"></translation>
+        <translation>BD</translation>
     </message>
     <message>
         <source>CPolygon</source>
-        <translation type="unfinished"></translation>
+        <translation>IPoligono</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>Included</source>
-        <translation type="unfinished"></translation>
+        <translation>Inscritto</translation>
     </message>
     <message>
         <source>MC</source>
-        <translation type="unfinished"></translation>
+        <translation>MC</translation>
     </message>
     <message>
         <source>MIrror</source>
-        <translation type="unfinished"></translation>
+        <translation>SPecchio</translation>
     </message>
     <message>
         <source>ML</source>
-        <translation type="unfinished"></translation>
+        <translation>MS</translation>
     </message>
     <message>
         <source>MOve</source>
-        <translation type="unfinished"></translation>
+        <translation>MUovi</translation>
     </message>
     <message>
         <source>MR</source>
-        <translation type="unfinished"></translation>
+        <translation>MD</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Medio</translation>
     </message>
     <message>
         <source>Pick</source>
-        <translation type="unfinished"></translation>
+        <translation>Punti</translation>
     </message>
     <message>
         <source>Plotstyle</source>
-        <translation type="unfinished"></translation>
+        <translation>stileStampa</translation>
     </message>
     <message>
         <source>SCale</source>
-        <translation type="unfinished"></translation>
+        <translation>SCala</translation>
     </message>
     <message>
         <source>STretch</source>
-        <translation type="unfinished"></translation>
+        <translation>STira</translation>
     </message>
     <message>
         <source>TC</source>
-        <translation type="unfinished"></translation>
+        <translation>AC</translation>
     </message>
     <message>
         <source>TL</source>
-        <translation type="unfinished"></translation>
+        <translation>AS</translation>
     </message>
     <message>
         <source>TR</source>
-        <translation type="unfinished"></translation>
+        <translation>AD</translation>
     </message>
     <message>
         <source>Tangency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangenza</translation>
     </message>
     <message>
         <source>Ttr</source>
-        <translation type="unfinished"></translation>
+        <translation>Ttr</translation>
     </message>
     <message>
         <source>WPolygon</source>
-        <translation type="unfinished"></translation>
+        <translation>FPoligono</translation>
     </message>
 </context>
 <context>
@@ -12198,15 +12198,15 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Congela</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca</translation>
     </message>
     <message>
         <source>Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Color</source>
@@ -12218,86 +12218,86 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore linea</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Trasparenza</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descrizione</translation>
     </message>
     <message>
         <source>Viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra</translation>
     </message>
     <message>
         <source>thawed</source>
-        <translation type="unfinished"></translation>
+        <translation>scongelato</translation>
     </message>
     <message>
         <source>frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>congelato</translation>
     </message>
     <message>
         <source>unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>sbloccato</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>bloccato</translation>
     </message>
     <message>
         <source>plots</source>
-        <translation type="unfinished"></translation>
+        <translation>si stampa</translation>
     </message>
     <message>
         <source>no plot</source>
-        <translation type="unfinished"></translation>
+        <translation>non si stampa</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>attivo</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>disattivo</translation>
     </message>
 </context>
 <context>
     <name>Menus</name>
     <message>
         <source>&amp;About Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informazioni su Ortakit</translation>
     </message>
     <message>
         <source>&amp;Aiming</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puntamento</translation>
     </message>
     <message>
         <source>&amp;Black ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo &amp;nero</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chiudi</translation>
     </message>
     <message>
         <source>&amp;Construction lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linee di &amp;costruzione</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sommario</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copia</translation>
     </message>
     <message>
         <source>&amp;Dark style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile &amp;scuro</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -12305,103 +12305,103 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>&amp;Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Disegna</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifica</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esporta</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adatta</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guida</translation>
     </message>
     <message>
         <source>&amp;In space</source>
-        <translation type="unfinished"></translation>
+        <translation>Nello s&amp;pazio</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inserisci</translation>
     </message>
     <message>
         <source>&amp;Light style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile c&amp;hiaro</translation>
     </message>
     <message>
         <source>&amp;Lock display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blocca visualizzazione</translation>
     </message>
     <message>
         <source>&amp;Make</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crea</translation>
     </message>
     <message>
         <source>&amp;Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;labora</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuovo</translation>
     </message>
     <message>
         <source>&amp;Next under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Su&amp;ccessivo sotto il puntatore</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri...</translation>
     </message>
     <message>
         <source>&amp;PNG picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine &amp;PNG...</translation>
     </message>
     <message>
         <source>&amp;Pan</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pan</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incolla</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stampa...</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proprietà</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>&amp;Record session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registra sessione...</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ripristina</translation>
     </message>
     <message>
         <source>&amp;Regenerate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rigenera</translation>
     </message>
     <message>
         <source>&amp;SVG drawing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegno &amp;SVG...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -12409,175 +12409,175 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>&amp;Start page</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina &amp;iniziale</translation>
     </message>
     <message>
         <source>&amp;Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barre degli strumenti</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strumenti</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annulla</translation>
     </message>
     <message>
         <source>&amp;Unlock display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sblocca visualizzazione</translation>
     </message>
     <message>
         <source>&amp;Upkeep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manutenzione</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visualizza</translation>
     </message>
     <message>
         <source>&amp;Views and planes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Viste e piani</translation>
     </message>
     <message>
         <source>&amp;Zoom by its options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zoom con opzioni</translation>
     </message>
     <message>
         <source>1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>1:1</translation>
     </message>
     <message>
         <source>1:10</source>
-        <translation type="unfinished"></translation>
+        <translation>1:10</translation>
     </message>
     <message>
         <source>1:100</source>
-        <translation type="unfinished"></translation>
+        <translation>1:100</translation>
     </message>
     <message>
         <source>1:2</source>
-        <translation type="unfinished"></translation>
+        <translation>1:2</translation>
     </message>
     <message>
         <source>1:20</source>
-        <translation type="unfinished"></translation>
+        <translation>1:20</translation>
     </message>
     <message>
         <source>1:5</source>
-        <translation type="unfinished"></translation>
+        <translation>1:5</translation>
     </message>
     <message>
         <source>1:50</source>
-        <translation type="unfinished"></translation>
+        <translation>1:50</translation>
     </message>
     <message>
         <source>Align</source>
-        <translation type="unfinished"></translation>
+        <translation>Allinea</translation>
     </message>
     <message>
         <source>Align multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Allinea multidirettrici</translation>
     </message>
     <message>
         <source>Aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>Allineata</translation>
     </message>
     <message>
         <source>Along the axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Lungo gli assi</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo</translation>
     </message>
     <message>
         <source>Arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza arco</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Area</translation>
     </message>
     <message>
         <source>Array</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie</translation>
     </message>
     <message>
         <source>As another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Come un altro</translation>
     </message>
     <message>
         <source>At steps along a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>A intervalli lungo una curva</translation>
     </message>
     <message>
         <source>Attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Attributi</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto base</translation>
     </message>
     <message>
         <source>Between sheet and model</source>
-        <translation type="unfinished"></translation>
+        <translation>Fra layout e modello</translation>
     </message>
     <message>
         <source>Boundary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Break</source>
-        <translation type="unfinished"></translation>
+        <translation>Spezza</translation>
     </message>
     <message>
         <source>Bring back what was &amp;erased</source>
-        <translation type="unfinished"></translation>
+        <translation>Recupera ciò che è stato &amp;cancellato</translation>
     </message>
     <message>
         <source>Center mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrassegno del centro</translation>
     </message>
     <message>
         <source>Chamfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cima</translation>
     </message>
     <message>
         <source>Choose &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona &amp;tutto</translation>
     </message>
     <message>
         <source>Choose &amp;similar</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona &amp;simili</translation>
     </message>
     <message>
         <source>Chooses what can be seen and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona ciò che si può vedere e modificare</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerchio</translation>
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritaglia</translation>
     </message>
     <message>
         <source>Closes all drawings and the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude tutti i disegni e il programma</translation>
     </message>
     <message>
         <source>Closes the drawing in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiude il disegno in primo piano</translation>
     </message>
     <message>
         <source>Co&amp;mmands...</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;mandi...</translation>
     </message>
     <message>
         <source>Color</source>
@@ -12585,39 +12585,39 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Coordinates of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordinate di un punto</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Copy with &amp;base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia con punto &amp;base</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taglia</translation>
     </message>
     <message>
         <source>Dark windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestre scure</translation>
     </message>
     <message>
         <source>Define an attribute</source>
-        <translation type="unfinished"></translation>
+        <translation>Definisci un attributo</translation>
     </message>
     <message>
         <source>Delete layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina layer</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diametro</translation>
     </message>
     <message>
         <source>Dime&amp;nsion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quotatura</translation>
     </message>
     <message>
         <source>Dimension style</source>
@@ -12625,71 +12625,71 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distanza</translation>
     </message>
     <message>
         <source>Divide a curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividi una curva</translation>
     </message>
     <message>
         <source>Divide the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividi lo schermo</translation>
     </message>
     <message>
         <source>Draw order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine di disegno</translation>
     </message>
     <message>
         <source>Drawing limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limiti del disegno</translation>
     </message>
     <message>
         <source>Drawing status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato del disegno</translation>
     </message>
     <message>
         <source>Draws on black</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna su nero</translation>
     </message>
     <message>
         <source>Draws on white</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna su bianco</translation>
     </message>
     <message>
         <source>Edit multileaders</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica multidirettrici</translation>
     </message>
     <message>
         <source>Edit text and extension lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica testo e linee di estensione</translation>
     </message>
     <message>
         <source>Elevation and thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevazione e spessore</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellisse</translation>
     </message>
     <message>
         <source>End isolating</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina isolamento</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>Erases what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella ciò che è selezionato</translation>
     </message>
     <message>
         <source>Explode</source>
-        <translation type="unfinished"></translation>
+        <translation>Esplodi</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Estendi</translation>
     </message>
     <message>
         <source>External reference</source>
@@ -12697,127 +12697,127 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>F&amp;ormat</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ormato</translation>
     </message>
     <message>
         <source>Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Faccia</translation>
     </message>
     <message>
         <source>Filled area</source>
-        <translation type="unfinished"></translation>
+        <translation>Area piena</translation>
     </message>
     <message>
         <source>Fillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccorda</translation>
     </message>
     <message>
         <source>Finds commands, menu entries and system variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova comandi, voci di menu e variabili di sistema</translation>
     </message>
     <message>
         <source>Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>Congela</translation>
     </message>
     <message>
         <source>From the same begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalla stessa origine</translation>
     </message>
     <message>
         <source>Gives what was printed most of the window, and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Dà a ciò che è stato stampato quasi tutta la finestra, e ritorno</translation>
     </message>
     <message>
         <source>Goes through what lies on top of each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorre ciò che sta uno sopra l&apos;altro</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Griglia</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppo</translation>
     </message>
     <message>
         <source>Hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Tratteggio</translation>
     </message>
     <message>
         <source>Horizontal or vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale o verticale</translation>
     </message>
     <message>
         <source>How the layout that is shown lies on its paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Come il layout mostrato sta sulla sua carta</translation>
     </message>
     <message>
         <source>I&amp;n space</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nello spazio</translation>
     </message>
     <message>
         <source>In a row</source>
-        <translation type="unfinished"></translation>
+        <translation>In serie</translation>
     </message>
     <message>
         <source>In&amp;quiry</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interroga</translation>
     </message>
     <message>
         <source>Insert a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci un blocco</translation>
     </message>
     <message>
         <source>Into the viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Nella finestra</translation>
     </message>
     <message>
         <source>Isolate</source>
-        <translation type="unfinished"></translation>
+        <translation>Isola</translation>
     </message>
     <message>
         <source>Isometric plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Piano isometrico</translation>
     </message>
     <message>
         <source>Jogged radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggio ridotto</translation>
     </message>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci</translation>
     </message>
     <message>
         <source>Layer, color, linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer, colore, tipo di linea</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>Layers of &amp;objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer di &amp;oggetti</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
     <message>
         <source>Leader</source>
-        <translation type="unfinished"></translation>
+        <translation>Direttrice</translation>
     </message>
     <message>
         <source>Lengthen</source>
-        <translation type="unfinished"></translation>
+        <translation>Allunga</translation>
     </message>
     <message>
         <source>Light windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestre chiare</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -12825,95 +12825,95 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore linea</translation>
     </message>
     <message>
         <source>Lisp &amp;console</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Console Lisp</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenca</translation>
     </message>
     <message>
         <source>Load shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica forme</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocca</translation>
     </message>
     <message>
         <source>Lon&amp;g command history</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronolo&amp;gia comandi estesa</translation>
     </message>
     <message>
         <source>Look for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca errori</translation>
     </message>
     <message>
         <source>Look from a direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda da una direzione</translation>
     </message>
     <message>
         <source>Look straight at a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda perpendicolarmente un piano</translation>
     </message>
     <message>
         <source>Make a block</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un blocco</translation>
     </message>
     <message>
         <source>Make current</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendi corrente</translation>
     </message>
     <message>
         <source>Makes a new drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un nuovo disegno</translation>
     </message>
     <message>
         <source>Merge layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci layer</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Specchia</translation>
     </message>
     <message>
         <source>Mirror in a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Specchia rispetto a un piano</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta</translation>
     </message>
     <message>
         <source>Move in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta nello spazio</translation>
     </message>
     <message>
         <source>Move the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta il testo</translation>
     </message>
     <message>
         <source>Multileader</source>
-        <translation type="unfinished"></translation>
+        <translation>Multidirettrice</translation>
     </message>
     <message>
         <source>Multiline</source>
-        <translation type="unfinished"></translation>
+        <translation>Multilinea</translation>
     </message>
     <message>
         <source>Named views</source>
-        <translation type="unfinished"></translation>
+        <translation>Viste con nome</translation>
     </message>
     <message>
         <source>O&amp;bjects</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;ggetti</translation>
     </message>
     <message>
         <source>Object snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap ad oggetto</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -12921,115 +12921,115 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Onto the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Sul layout</translation>
     </message>
     <message>
         <source>Opens drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre disegni</translation>
     </message>
     <message>
         <source>Ordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordinata</translation>
     </message>
     <message>
         <source>Override variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Sostituisci variabili</translation>
     </message>
     <message>
         <source>P&amp;DF page...</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina P&amp;DF...</translation>
     </message>
     <message>
         <source>Pa&amp;ge setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impo&amp;sta pagina...</translation>
     </message>
     <message>
         <source>Paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Paragrafo</translation>
     </message>
     <message>
         <source>Paste as b&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Incolla come b&amp;locco</translation>
     </message>
     <message>
         <source>Paste where it &amp;was</source>
-        <translation type="unfinished"></translation>
+        <translation>Incolla dove &amp;era</translation>
     </message>
     <message>
         <source>Place a shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Colloca una forma</translation>
     </message>
     <message>
         <source>Poin&amp;ts</source>
-        <translation type="unfinished"></translation>
+        <translation>Pu&amp;nti</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Poligono</translation>
     </message>
     <message>
         <source>Polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>Polilinea</translation>
     </message>
     <message>
         <source>Polyline in space</source>
-        <translation type="unfinished"></translation>
+        <translation>Polilinea nello spazio</translation>
     </message>
     <message>
         <source>Prints the layout that is shown, or writes it as a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa il layout mostrato, o lo scrive come pagina</translation>
     </message>
     <message>
         <source>Purge</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina inutilizzati</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggio</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rettangolo</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Regione</translation>
     </message>
     <message>
         <source>Remove duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi duplicati</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina</translation>
     </message>
     <message>
         <source>Revision cloud</source>
-        <translation type="unfinished"></translation>
+        <translation>Fumetto di revisione</translation>
     </message>
     <message>
         <source>Ring</source>
-        <translation type="unfinished"></translation>
+        <translation>Anello</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota</translation>
     </message>
     <message>
         <source>Rotate round an axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota attorno a un asse</translation>
     </message>
     <message>
         <source>Run a s&amp;cript</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui uno s&amp;cript</translation>
     </message>
     <message>
         <source>S&amp;ettings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Im&amp;postazioni...</translation>
     </message>
     <message>
         <source>Save &amp;as...</source>
@@ -13037,43 +13037,43 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Saves the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il disegno</translation>
     </message>
     <message>
         <source>Saves the drawing under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il disegno con un altro nome</translation>
     </message>
     <message>
         <source>Says what this program is</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice che cos&apos;è questo programma</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala</translation>
     </message>
     <message>
         <source>Shows a place to try Lisp at</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra un posto per provare Lisp</translation>
     </message>
     <message>
         <source>Shows all that is drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutto ciò che è disegnato</translation>
     </message>
     <message>
         <source>Shows all through the viewport that is worked through</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutto attraverso la finestra in cui si lavora</translation>
     </message>
     <message>
         <source>Shows less, larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra di meno, più grande</translation>
     </message>
     <message>
         <source>Shows more, smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra di più, più piccolo</translation>
     </message>
     <message>
         <source>Shows recent drawings, samples and first steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra disegni recenti, esempi e primi passi</translation>
     </message>
     <message>
         <source>Shows the help pages</source>
@@ -13081,43 +13081,43 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Shows what is in a box</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra ciò che è in un riquadro</translation>
     </message>
     <message>
         <source>Snap to a grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggancia a una griglia</translation>
     </message>
     <message>
         <source>Snaps, display, selection, units, folders and trust</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap, visualizzazione, selezione, unità, cartelle e attendibilità</translation>
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Stira</translation>
     </message>
     <message>
         <source>Synchronize attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizza attributi</translation>
     </message>
     <message>
         <source>System &amp;variables</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variabili di sistema</translation>
     </message>
     <message>
         <source>Take back the last layer change</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla l&apos;ultima modifica dei layer</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Text of one line</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo di una riga</translation>
     </message>
     <message>
         <source>Text style</source>
@@ -13125,345 +13125,345 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Texts to a paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Testi in paragrafo</translation>
     </message>
     <message>
         <source>Thaw all</source>
-        <translation type="unfinished"></translation>
+        <translation>Scongela tutti</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:1</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:10</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:10</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:100</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:100</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:2</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:2</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:20</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:20</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:5</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:5</translation>
     </message>
     <message>
         <source>The viewport that is worked through shows a scale of 1:50</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra in cui si lavora mostra una scala di 1:50</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempi</translation>
     </message>
     <message>
         <source>To the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Al layer corrente</translation>
     </message>
     <message>
         <source>To the layer of another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Al layer di un altro</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia</translation>
     </message>
     <message>
         <source>Turn all on</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva tutti</translation>
     </message>
     <message>
         <source>Turn off</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattiva</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished"></translation>
+        <translation>Unità</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Sblocca</translation>
     </message>
     <message>
         <source>Update expressions of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiorna espressioni dei testi</translation>
     </message>
     <message>
         <source>User coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema di coordinate utente</translation>
     </message>
     <message>
         <source>Viewports of &amp;a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestre di &amp;un layout</translation>
     </message>
     <message>
         <source>W&amp;hite ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo &amp;bianco</translation>
     </message>
     <message>
         <source>With one end</source>
-        <translation type="unfinished"></translation>
+        <translation>Con un estremo</translation>
     </message>
     <message>
         <source>Without ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza fine</translation>
     </message>
     <message>
         <source>Write a block to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi un blocco su file</translation>
     </message>
     <message>
         <source>Writes down what you do as a session that plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Annota ciò che si fa come una sessione riproducibile</translation>
     </message>
     <message>
         <source>Writes what is drawn as a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive ciò che è disegnato come pagina</translation>
     </message>
     <message>
         <source>Writes what is drawn as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive ciò che è disegnato come immagine</translation>
     </message>
     <message>
         <source>Writes what is drawn as lines and areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive ciò che è disegnato come linee e aree</translation>
     </message>
     <message>
         <source>Zoom &amp;extents</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom &amp;estensioni</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ingrandisci</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Riduci</translation>
     </message>
     <message>
         <source>Zoom &amp;window</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom &amp;finestra</translation>
     </message>
 </context>
 <context>
     <name>Panels</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultati</translation>
     </message>
 </context>
 <context>
     <name>Playback</name>
     <message>
         <source>nobody is there to answer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno può rispondere a %1</translation>
     </message>
     <message>
         <source>it took longer than %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>ha impiegato più di %1 s</translation>
     </message>
     <message>
         <source> saying &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation> che dice &quot;%1&quot;</translation>
     </message>
     <message>
         <source>${%1} is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>${%1} non è noto</translation>
     </message>
     <message>
         <source>%1 cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere selezionato</translation>
     </message>
     <message>
         <source>%1 cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1 non si può scrivere</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;; it shows &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta &quot;%2&quot;; mostra &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 has no button &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha un pulsante &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no cell %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha una cella %2, %3</translation>
     </message>
     <message>
         <source>%1 has no item &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha un elemento &quot;%2&quot;; ha %3</translation>
     </message>
     <message>
         <source>%1 has no row &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha una riga &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no tab &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha una scheda &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 has no value to set</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha un valore da impostare</translation>
     </message>
     <message>
         <source>%1 has no widget &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha un controllo &quot;%2&quot;; ha %3</translation>
     </message>
     <message>
         <source>%1 has the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha la tastiera</translation>
     </message>
     <message>
         <source>%1 is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è disattivato</translation>
     </message>
     <message>
         <source>%1 is no UTF-8 text</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è un testo UTF-8</translation>
     </message>
     <message>
         <source>%1 is no list, table or tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è un elenco, una tabella o un albero</translation>
     </message>
     <message>
         <source>%1 is not visible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è visibile</translation>
     </message>
     <message>
         <source>%1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è aperto</translation>
     </message>
     <message>
         <source>%1 is still open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è ancora aperto</translation>
     </message>
     <message>
         <source>%1 is too long for a session</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è troppo lungo per una sessione</translation>
     </message>
     <message>
         <source>%1 stays as it is; another button of its group must be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 resta com&apos;è; occorre selezionare un altro pulsante del suo gruppo</translation>
     </message>
     <message>
         <source>%1 takes no file name</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta un nome di file</translation>
     </message>
     <message>
         <source>%1 took &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha preso &quot;%2&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither yes nor no (on, off)</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è né yes né no (on, off)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no handle</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un handle</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no key</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un tasto</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no point; write x,y or x,y,z</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un punto; scrivere x,y o x,y,z</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number from 0 up</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un numero intero da 0 in su</translation>
     </message>
     <message>
         <source>a quote is not closed, or text follows right behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>le virgolette non sono chiuse, o sono seguite subito da testo</translation>
     </message>
     <message>
         <source>a view needs two corners</source>
-        <translation type="unfinished"></translation>
+        <translation>una vista richiede due angoli</translation>
     </message>
     <message>
         <source>cancelled at %1, </source>
-        <translation type="unfinished"></translation>
+        <translation>annullato a %1, </translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>nella cella %1, %2 di %3 non si può scrivere</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 does not take &quot;%4&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la cella %1, %2 di %3 non accetta &quot;%4&quot;</translation>
     </message>
     <message>
         <source>dialog %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dialogo %1</translation>
     </message>
     <message>
         <source>done again, the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dopo il ripristino il disegno è diverso da com&apos;era: %1</translation>
     </message>
     <message>
         <source>drawing: only the first line says which drawing it is</source>
-        <translation type="unfinished"></translation>
+        <translation>drawing: solo la prima riga dice quale disegno è</translation>
     </message>
     <message>
         <source>end: no part was begun</source>
-        <translation type="unfinished"></translation>
+        <translation>end: nessuna parte è cominciata</translation>
     </message>
     <message>
         <source>it is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>è disattivato</translation>
     </message>
     <message>
         <source>it is enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>è attivato</translation>
     </message>
     <message>
         <source>it is nil</source>
-        <translation type="unfinished"></translation>
+        <translation>è nil</translation>
     </message>
     <message>
         <source>it is not visible</source>
-        <translation type="unfinished"></translation>
+        <translation>non è visibile</translation>
     </message>
     <message>
         <source>it is visible</source>
-        <translation type="unfinished"></translation>
+        <translation>è visibile</translation>
     </message>
     <message>
         <source>it shows &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra &quot;%1&quot;</translation>
     </message>
     <message>
         <source>it stands in front of a command or lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>sta davanti a un comando o a lisp</translation>
     </message>
     <message>
         <source>line %1%2 (%3): </source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1%2 (%3): </translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -13471,254 +13471,254 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: la sessione ha casi, ognuno dei quali vuole il disegno riaperto</translation>
     </message>
     <message>
         <source>no arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun argomento</translation>
     </message>
     <message>
         <source>no dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun dialogo</translation>
     </message>
     <message>
         <source>no folder was given to write to (--out)</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stata indicata una cartella in cui scrivere (--out)</translation>
     </message>
     <message>
         <source>no program was given that reads drawings (--audit, or the environment&apos;s ORTAKIT_AUDIT)</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato indicato un programma che legga disegni (--audit, o ORTAKIT_AUDIT dell&apos;ambiente)</translation>
     </message>
     <message>
         <source>no prompt and no dialog is open that this could be meant for</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna richiesta e nessun dialogo aperto a cui potrebbe riferirsi</translation>
     </message>
     <message>
         <source>nothing has the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>nulla ha la tastiera</translation>
     </message>
     <message>
         <source>nothing with a name</source>
-        <translation type="unfinished"></translation>
+        <translation>nulla con un nome</translation>
     </message>
     <message>
         <source>part %1, line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>parte %1, riga %2</translation>
     </message>
     <message>
         <source>part: a part cannot be written in a part</source>
-        <translation type="unfinished"></translation>
+        <translation>part: una parte non può essere scritta in una parte</translation>
     </message>
     <message>
         <source>part: it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: non ha fine</translation>
     </message>
     <message>
         <source>part: the part before it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: la parte precedente non ha fine</translation>
     </message>
     <message>
         <source>part: there is a part %1 already</source>
-        <translation type="unfinished"></translation>
+        <translation>part: c&apos;è già una parte %1</translation>
     </message>
     <message>
         <source>play: the part %1 plays itself</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 riproduce se stessa</translation>
     </message>
     <message>
         <source>play: the part %1 takes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 prende %2</translation>
     </message>
     <message>
         <source>play: the parts write too much</source>
-        <translation type="unfinished"></translation>
+        <translation>play: le parti scrivono troppo</translation>
     </message>
     <message>
         <source>play: there is no part %1</source>
-        <translation type="unfinished"></translation>
+        <translation>play: non c&apos;è una parte %1</translation>
     </message>
     <message>
         <source>play: too many parts are played one in the other</source>
-        <translation type="unfinished"></translation>
+        <translation>play: troppe parti vengono riprodotte l&apos;una nell&apos;altra</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga &quot;%1&quot; di %2 non può essere selezionata</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 is not visible</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga &quot;%1&quot; di %2 non è visibile</translation>
     </message>
     <message>
         <source>something is missing at the end of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>manca qualcosa alla fine della riga</translation>
     </message>
     <message>
         <source>the changes are &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le modifiche sono &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno è diverso da com&apos;era: %1</translation>
     </message>
     <message>
         <source>the drawing has no entity with the handle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno non ha un&apos;entità con l&apos;handle %1</translation>
     </message>
     <message>
         <source>the drawing is unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno non è cambiato</translation>
     </message>
     <message>
         <source>the drawing was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno è cambiato</translation>
     </message>
     <message>
         <source>the error is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;errore è &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file does not hold it; its text is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il file non lo contiene; il suo testo è &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file is there</source>
-        <translation type="unfinished"></translation>
+        <translation>il file c&apos;è</translation>
     </message>
     <message>
         <source>the file&apos;s text is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il testo del file è &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the files differ at byte %1: &quot;%2&quot; and &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>i file sono diversi al byte %1: &quot;%2&quot; e &quot;%3&quot;</translation>
     </message>
     <message>
         <source>the items are &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>gli elementi sono &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the line goes on (it ends in a backslash), but the session ends</source>
-        <translation type="unfinished"></translation>
+        <translation>la riga continua (finisce con una barra rovesciata), ma la sessione finisce</translation>
     </message>
     <message>
         <source>the list went away while rows were selected</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;elenco è sparito mentre si selezionavano righe</translation>
     </message>
     <message>
         <source>the menu has no entry &quot;%1&quot;; it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il menu non ha una voce &quot;%1&quot;; ha %2</translation>
     </message>
     <message>
         <source>the menu&apos;s entry &quot;%1&quot; is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>la voce &quot;%1&quot; del menu è disattivata</translation>
     </message>
     <message>
         <source>the order of its records</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ordine dei suoi record</translation>
     </message>
     <message>
         <source>the prompt &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la richiesta &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the reader %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il lettore %1 non risponde</translation>
     </message>
     <message>
         <source>the reader takes no names with line feeds</source>
-        <translation type="unfinished"></translation>
+        <translation>il lettore non accetta nomi con ritorni a capo</translation>
     </message>
     <message>
         <source>the run before it ended without an error</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;esecuzione precedente è finita senza errore</translation>
     </message>
     <message>
         <source>the run changed nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;esecuzione non ha modificato nulla</translation>
     </message>
     <message>
         <source>the run ended with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;esecuzione è finita con &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the session ends while %1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>la sessione finisce mentre %1 è aperto</translation>
     </message>
     <message>
         <source>the session took longer than %1 s; open is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la sessione ha impiegato più di %1 s; è aperto %2</translation>
     </message>
     <message>
         <source>the title is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il titolo è &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the widget went away while it was typed into</source>
-        <translation type="unfinished"></translation>
+        <translation>il controllo è sparito mentre vi si digitava</translation>
     </message>
     <message>
         <source>there are %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ci sono %1</translation>
     </message>
     <message>
         <source>there is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;è %1</translation>
     </message>
     <message>
         <source>there is no panel &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è un pannello &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nulla da ripristinare</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nulla da annullare</translation>
     </message>
     <message>
         <source>there was no run before it</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è stata un&apos;esecuzione precedente</translation>
     </message>
     <message>
         <source>too much on the line: &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>di troppo sulla riga: &quot;%1&quot;</translation>
     </message>
     <message>
         <source>undone, the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dopo l&apos;annullamento il disegno è diverso da com&apos;era: %1</translation>
     </message>
     <message>
         <source>unknown word &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>parola sconosciuta &quot;%1&quot;</translation>
     </message>
     <message>
         <source>what cannot be read again</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che non può essere riletto</translation>
     </message>
     <message>
         <source>what was printed is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è stato stampato è &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
     <name>Properties</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generale</translation>
     </message>
     <message>
         <source>Geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Geometria</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Misc</source>
-        <translation type="unfinished"></translation>
+        <translation>Varie</translation>
     </message>
     <message>
         <source>Color</source>
@@ -13738,11 +13738,11 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore linea</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore</translation>
     </message>
     <message>
         <source>Text style</source>
@@ -13754,131 +13754,131 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Of what is drawn next</source>
-        <translation type="unfinished"></translation>
+        <translation>Di ciò che si disegnerà</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no color.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un colore.</translation>
     </message>
     <message>
         <source>There is no layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un layer &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>There is no linetype &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un tipo di linea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no lineweight.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è uno spessore di linea.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no transparency: ByLayer, ByBlock or 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è una trasparenza: DaLayer, DaBlocco o da 0 a 90.</translation>
     </message>
     <message>
         <source>%1: the current color is one of the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: il colore corrente è uno della tabella.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un angolo.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un numero.</translation>
     </message>
     <message>
         <source>%1: it must be more than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: deve essere maggiore di 0.</translation>
     </message>
     <message>
         <source>%1: it must not be 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: non deve essere 0.</translation>
     </message>
     <message>
         <source>*varies*</source>
-        <translation type="unfinished"></translation>
+        <translation>*varie*</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un numero intero.</translation>
     </message>
     <message>
         <source>Other...</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro...</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Trasparenza</translation>
     </message>
     <message>
         <source>Plot style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di stampa</translation>
     </message>
     <message>
         <source>Corner 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertice 1</translation>
     </message>
     <message>
         <source>Corner 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertice 2</translation>
     </message>
     <message>
         <source>Corner 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertice 3</translation>
     </message>
     <message>
         <source>Corner 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertice 4</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggio</translation>
     </message>
     <message>
         <source>Start angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo iniziale</translation>
     </message>
     <message>
         <source>End angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo finale</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>Total angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo totale</translation>
     </message>
     <message>
         <source>Arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza arco</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Area</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altezza</translation>
     </message>
     <message>
         <source>Position</source>
@@ -13886,63 +13886,63 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiesta</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotazione</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diametro</translation>
     </message>
     <message>
         <source>Circumference</source>
-        <translation type="unfinished"></translation>
+        <translation>Circonferenza</translation>
     </message>
     <message>
         <source>Text override</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo sostitutivo</translation>
     </message>
     <message>
         <source>Measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Misura</translation>
     </message>
     <message>
         <source>Major axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Asse maggiore</translation>
     </message>
     <message>
         <source>Radius ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapporto raggi</translation>
     </message>
     <message>
         <source>Start parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametro iniziale</translation>
     </message>
     <message>
         <source>End parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametro finale</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo</translation>
     </message>
     <message>
         <source>Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala</translation>
     </message>
     <message>
         <source>Name</source>
@@ -13950,35 +13950,35 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Scale X</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala X</translation>
     </message>
     <message>
         <source>Scale Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala Y</translation>
     </message>
     <message>
         <source>Scale Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala Z</translation>
     </message>
     <message>
         <source>Delta</source>
-        <translation type="unfinished"></translation>
+        <translation>Delta</translation>
     </message>
     <message>
         <source>Global width</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza globale</translation>
     </message>
     <message>
         <source>Elevation</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevazione</translation>
     </message>
     <message>
         <source>Vertices</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertici</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenuto</translation>
     </message>
     <message>
         <source>Style</source>
@@ -13990,15 +13990,15 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Associazione</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Direzione</translation>
     </message>
     <message>
         <source>Size</source>
@@ -14006,46 +14006,46 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Degree</source>
-        <translation type="unfinished"></translation>
+        <translation>Grado</translation>
     </message>
     <message>
         <source>Alignment point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto di allineamento</translation>
     </message>
     <message>
         <source>Horizontal mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo orizzontale</translation>
     </message>
     <message>
         <source>Obliquing</source>
-        <translation type="unfinished"></translation>
+        <translation>Inclinazione</translation>
     </message>
     <message>
         <source>Vertical mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo verticale</translation>
     </message>
     <message>
         <source>Width factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Fattore di larghezza</translation>
     </message>
     <message>
         <source>Base point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto base</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Messaggio</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file (*)</translation>
     </message>
     <message>
         <source>Choose a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli una cartella</translation>
     </message>
     <message>
         <source>Help</source>
@@ -14087,689 +14087,691 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     <name>Settings</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra</translation>
     </message>
     <message>
         <source>Style of windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile delle finestre</translation>
     </message>
     <message>
         <source>0=Light|1=Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Chiaro|1=Scuro</translation>
     </message>
     <message>
         <source>The colours of windows and dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>I colori di finestre e dialoghi</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua</translation>
     </message>
     <message>
         <source>0=System|1=English|2=Deutsch|3=Français|4=Español|5=Italiano</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Sistema|1=English|2=Deutsch|3=Français|4=Español|5=Italiano</translation>
     </message>
     <message>
         <source>Of windows, dialogs and prompts; it counts from the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>Di finestre, dialoghi e richieste; vale dal prossimo avvio</translation>
     </message>
     <message>
         <source>Ground of drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo dei disegni</translation>
     </message>
     <message>
         <source>0=Black|1=White</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Nero|1=Bianco</translation>
     </message>
     <message>
         <source>What drawings lie on</source>
-        <translation type="unfinished"></translation>
+        <translation>Su che cosa stanno i disegni</translation>
     </message>
     <message>
         <source>Length of the cross-hair, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza del puntatore a croce, percento</translation>
     </message>
     <message>
         <source>Right button</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto destro</translation>
     </message>
     <message>
         <source>File dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialoghi dei file</translation>
     </message>
     <message>
         <source>Attributes of a block are asked for in a dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli attributi di un blocco vengono chiesti in un dialogo</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap</translation>
     </message>
     <message>
         <source>End points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punti finali</translation>
     </message>
     <message>
         <source>Middle points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punti medi</translation>
     </message>
     <message>
         <source>Centres</source>
-        <translation type="unfinished"></translation>
+        <translation>Centri</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Nodi</translation>
     </message>
     <message>
         <source>Quadrants</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadranti</translation>
     </message>
     <message>
         <source>Intersections</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersezioni</translation>
     </message>
     <message>
         <source>Insertion points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punti di inserimento</translation>
     </message>
     <message>
         <source>Perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>Perpendicolare</translation>
     </message>
     <message>
         <source>Tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangente</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>Più vicino</translation>
     </message>
     <message>
         <source>Reach of snaps, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Portata degli snap, pixel</translation>
     </message>
     <message>
         <source>Ortho</source>
-        <translation type="unfinished"></translation>
+        <translation>Orto</translation>
     </message>
     <message>
         <source>Grid shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Griglia mostrata</translation>
     </message>
     <message>
         <source>Snap to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Snap alla griglia</translation>
     </message>
     <message>
         <source>Typed coordinates and snaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordinate digitate e snap</translation>
     </message>
     <message>
         <source>0=Snaps move typed points|1=Typed points stay|2=Typed points stay, but in scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Gli snap spostano i punti digitati|1=I punti digitati restano|2=Restano, tranne negli script</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizzazione</translation>
     </message>
     <message>
         <source>Lineweights</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessori di linea</translation>
     </message>
     <message>
         <source>Lineweight of &quot;Default&quot;, hundredths of a millimetre</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore di linea di &quot;Default&quot;, centesimi di millimetro</translation>
     </message>
     <message>
         <source>Areas are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Le aree vengono riempite</translation>
     </message>
     <message>
         <source>Texts as boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Testi come riquadri</translation>
     </message>
     <message>
         <source>Frames of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Cornici di immagini</translation>
     </message>
     <message>
         <source>0=Hidden|1=Shown and plotted|2=Shown only</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Nascoste|1=Mostrate e stampate|2=Solo mostrate</translation>
     </message>
     <message>
         <source>Frames of masks</source>
-        <translation type="unfinished"></translation>
+        <translation>Cornici di maschere</translation>
     </message>
     <message>
         <source>Scale of linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala dei tipi di linea</translation>
     </message>
     <message>
         <source>Font in place of missing ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Font al posto di quelli mancanti</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezione</translation>
     </message>
     <message>
         <source>Choose first, then the command</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima la scelta, poi il comando</translation>
     </message>
     <message>
         <source>What is picked is added</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che si sceglie si aggiunge</translation>
     </message>
     <message>
         <source>0=With Shift only|1=Always|2=Always, and stays chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Solo con Maiusc|1=Sempre|2=Sempre, e resta scelto</translation>
     </message>
     <message>
         <source>Groups are chosen whole</source>
-        <translation type="unfinished"></translation>
+        <translation>I gruppi vengono scelti interi</translation>
     </message>
     <message>
         <source>Hatches are chosen with their boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>I tratteggi vengono scelti con i contorni</translation>
     </message>
     <message>
         <source>Size of the pick box, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione della casella di selezione, pixel</translation>
     </message>
     <message>
         <source>Chosen entities are marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Le entità scelte vengono evidenziate</translation>
     </message>
     <message>
         <source>Marks under the pointer while nothing runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Evidenzia sotto il puntatore quando nulla è in corso</translation>
     </message>
     <message>
         <source>Marks under the pointer while a command asks</source>
-        <translation type="unfinished"></translation>
+        <translation>Evidenzia sotto il puntatore quando un comando chiede</translation>
     </message>
     <message>
         <source>Grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Grip</translation>
     </message>
     <message>
         <source>0=None|1=Shown|2=Shown, of segments too</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Nessuno|1=Mostrati|2=Mostrati, anche dei segmenti</translation>
     </message>
     <message>
         <source>Size of grips, pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione dei grip, pixel</translation>
     </message>
     <message>
         <source>No grips beyond so many entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun grip oltre questo numero di entità</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished"></translation>
+        <translation>Unità</translation>
     </message>
     <message>
         <source>Lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezze</translation>
     </message>
     <message>
         <source>1=Scientific|2=Decimal|3=Engineering|4=Architectural|5=Fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>1=Scientifico|2=Decimale|3=Ingegneria|4=Architettonico|5=Frazionario</translation>
     </message>
     <message>
         <source>Places of lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimali delle lunghezze</translation>
     </message>
     <message>
         <source>Angles</source>
-        <translation type="unfinished"></translation>
+        <translation>Angoli</translation>
     </message>
     <message>
         <source>0=Degrees|1=Degrees, minutes, seconds|2=Grads|3=Radians|4=Surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Gradi|1=Gradi, primi, secondi|2=Centesimali|3=Radianti|4=Unità topografiche</translation>
     </message>
     <message>
         <source>Places of angles</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimali degli angoli</translation>
     </message>
     <message>
         <source>A drawing unit is</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;unità disegno è</translation>
     </message>
     <message>
         <source>0=Not said|1=An inch|2=A foot|4=A millimetre|5=A centimetre|6=A metre|7=A kilometre</source>
-        <translation type="unfinished"></translation>
+        <translation>0=Non indicata|1=Un pollice|2=Un piede|4=Un millimetro|5=Un centimetro|6=Un metro|7=Un chilometro</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvataggio</translation>
     </message>
     <message>
         <source>A backup is kept of what is saved over</source>
-        <translation type="unfinished"></translation>
+        <translation>Si conserva un backup di ciò che si sovrascrive</translation>
     </message>
     <message>
         <source>Minutes between saves by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuti fra i salvataggi automatici</translation>
     </message>
     <message>
         <source>External references tell of changes</source>
-        <translation type="unfinished"></translation>
+        <translation>I riferimenti esterni segnalano modifiche</translation>
     </message>
     <message>
         <source>0=No|1=With a mark|2=With a message</source>
-        <translation type="unfinished"></translation>
+        <translation>0=No|1=Con un segno|2=Con un messaggio</translation>
     </message>
     <message>
         <source>Lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisp</translation>
     </message>
     <message>
         <source>Programs loaded with each drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmi caricati con ogni disegno</translation>
     </message>
     <message>
         <source>Full paths, between semicolons, in this order; they count from the next drawing on</source>
-        <translation type="unfinished"></translation>
+        <translation>Percorsi completi, separati da punto e virgola, in quest&apos;ordine; valgono dal prossimo disegno</translation>
     </message>
     <message>
         <source>Most memory of programs, MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria massima dei programmi, MB</translation>
     </message>
     <message>
         <source>What programs do is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Viene mostrato ciò che fanno i programmi</translation>
     </message>
     <message>
         <source>Folders and trust</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartelle e attendibilità</translation>
     </message>
     <message>
         <source>Folders whose programs may run</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartelle i cui programmi possono essere eseguiti</translation>
     </message>
     <message>
         <source>Folders whose files drawings may name</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartelle i cui file possono essere nominati dai disegni</translation>
     </message>
 </context>
 <context>
     <name>SnapMenu</name>
     <message>
         <source>&amp;Endpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto &amp;finale</translation>
     </message>
     <message>
         <source>&amp;Midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto &amp;medio</translation>
     </message>
     <message>
         <source>&amp;Center</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Centro</translation>
     </message>
     <message>
         <source>N&amp;ode</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;odo</translation>
     </message>
     <message>
         <source>&amp;Quadrant</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quadrante</translation>
     </message>
     <message>
         <source>&amp;Intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intersezione</translation>
     </message>
     <message>
         <source>&amp;Apparent intersection</source>
-        <translation type="unfinished"></translation>
+        <translation>Intersezione &amp;apparente</translation>
     </message>
     <message>
         <source>E&amp;xtension</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Estensione</translation>
     </message>
     <message>
         <source>In&amp;sertion point</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;serimento</translation>
     </message>
     <message>
         <source>&amp;Perpendicular</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Perpendicolare</translation>
     </message>
     <message>
         <source>&amp;Tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tangente</translation>
     </message>
     <message>
         <source>Nea&amp;rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Più &amp;vicino</translation>
     </message>
     <message>
         <source>&amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nessuno</translation>
     </message>
     <message>
         <source>Mid&amp;way between two points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto medio fra &amp;due punti</translation>
     </message>
     <message>
         <source>&amp;From a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Da &amp;un punto</translation>
     </message>
 </context>
 <context>
     <name>Suggestions</name>
     <message>
         <source>command of a program</source>
-        <translation type="unfinished"></translation>
+        <translation>comando di un programma</translation>
     </message>
 </context>
 <context>
     <name>TrustQuestion</name>
     <message>
         <source>&amp;Load once</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carica una volta</translation>
     </message>
     <message>
         <source>&amp;Trust this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Considera attendi&amp;bile la cartella</translation>
     </message>
     <message>
         <source>Load this program? It can do whatever you can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caricare questo programma? Può fare tutto ciò che può fare l&apos;utente.</translation>
     </message>
 </context>
 <context>
     <name>Uses</name>
     <message>
         <source>%1 takes %2 from %3 to %4, not &quot;%5&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 prende %2 da %3 a %4, non &quot;%5&quot;</translation>
     </message>
     <message>
         <source>%1 is %2, not &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è %2, non &quot;%3&quot;</translation>
     </message>
     <message>
         <source>or</source>
-        <translation type="unfinished"></translation>
+        <translation>o</translation>
     </message>
     <message>
         <source>%1 has no meaning here</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 qui non ha significato</translation>
     </message>
     <message>
         <source>there is no option %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è un&apos;opzione %1%2</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 richiede un valore</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta un valore</translation>
     </message>
     <message>
         <source>there is no command %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è un comando %1%2</translation>
     </message>
     <message>
         <source>convert needs two files</source>
-        <translation type="unfinished"></translation>
+        <translation>convert richiede due file</translation>
     </message>
     <message>
         <source>the sheet of a layout as its page setup has it; &quot;model&quot; for the page of model space; &quot;all&quot; for every sheet: a page each in a pdf, a file each as png and svg, with its name: OUT-NAME.png</source>
-        <translation type="unfinished"></translation>
+        <translation>il foglio di un layout secondo la sua impostazione di pagina; &quot;model&quot; per la pagina dello spazio modello; &quot;all&quot; per tutti i fogli: una pagina ciascuno in un pdf, un file ciascuno come png e svg, con il suo nome: OUT-NAME.png</translation>
     </message>
     <message>
         <source>another sheet, on which everything is to be seen: A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres as 420x297; -landscape or -portrait behind it turns it</source>
-        <translation type="unfinished"></translation>
+        <translation>un altro foglio, su cui si vedrà tutto: da A0 a A6, da B0 a B6, da ANSI-A ad ANSI-E, da ARCH-A ad ARCH-E1 o millimetri come 420x297; -landscape o -portrait dopo lo gira</translation>
     </message>
     <message>
         <source>millimetres on the sheet to drawing units, in place of what the page says or as fits</source>
-        <translation type="unfinished"></translation>
+        <translation>millimetri sul foglio per unità disegno, al posto di ciò che dice la pagina o dell&apos;adattamento</translation>
     </message>
     <message>
         <source>show what lies between these corners, in drawing units</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra ciò che sta fra questi angoli, in unità disegno</translation>
     </message>
     <message>
         <source>png, svg: so many pixels, 1 to 16000 each way; a sheet goes into their middle</source>
-        <translation type="unfinished"></translation>
+        <translation>png, svg: tanti pixel, da 1 a 16000 per verso; un foglio va al loro centro</translation>
     </message>
     <message>
         <source>png, svg: pixels an inch of the sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>png, svg: pixel per pollice del foglio</translation>
     </message>
     <message>
         <source>what it lies on</source>
-        <translation type="unfinished"></translation>
+        <translation>su che cosa sta</translation>
     </message>
     <message>
         <source>only layers whose names match, as in a layer filter: &quot;walls,door*&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>solo layer i cui nomi corrispondono, come in un filtro dei layer: &quot;walls,door*&quot;</translation>
     </message>
     <message>
         <source>pdf, svg: texts as areas, or as text that can be searched</source>
-        <translation type="unfinished"></translation>
+        <translation>pdf, svg: testi come aree, o come testo in cui si può cercare</translation>
     </message>
     <message>
         <source>a table of plot styles (ctb, stb) in place of what the page names; &quot;none&quot; for none. Without a file there are monochrome, grayscale and screening 25%, 50%, 75%, 100%</source>
-        <translation type="unfinished"></translation>
+        <translation>una tabella di stili di stampa (ctb, stb) al posto di quella nominata dalla pagina; &quot;none&quot; per nessuna. Senza file ci sono monochrome, grayscale e screening 25%, 50%, 75%, 100%</translation>
     </message>
     <message>
         <source>all lines as thin as can be</source>
-        <translation type="unfinished"></translation>
+        <translation>tutte le linee più sottili possibile</translation>
     </message>
     <message>
         <source>the most it may take; OUT stays as it was when it takes longer</source>
-        <translation type="unfinished"></translation>
+        <translation>il tempo massimo; OUT resta com&apos;era se ci vuole di più</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun limite</translation>
     </message>
     <message>
         <source>write OUT although another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi OUT anche se un altro programma lo tiene aperto</translation>
     </message>
     <message>
         <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>termina con stato 3 se nell&apos;immagine manca qualcosa, ma viene scritta comunque</translation>
     </message>
     <message>
         <source>write a DXF file in the binary form; without it, as text</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi un file DXF in forma binaria; senza, come testo</translation>
     </message>
     <message>
         <source>open a damaged IN as far as it is sound, and tell on standard error what was dropped; OUT must be another file</source>
-        <translation type="unfinished"></translation>
+        <translation>apri un IN danneggiato per quanto è integro, e indica sullo standard error ciò che è stato scartato; OUT deve essere un altro file</translation>
     </message>
     <message>
         <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation type="unfinished"></translation>
+        <translation>stampa una riga di JSON: input, output, e delle immagini complete, drawn, invisible, inPart e notDrawn (un numero per ogni tipo) e cutShort; con --layout tutto per ognuna delle pagine, con layout e output; con --recover lo stesso di ciò che è stato scartato, riparato e aggiunto</translation>
     </message>
     <message>
         <source>writes a drawing as DXF, PNG, SVG or PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive un disegno come DXF, PNG, SVG o PDF</translation>
     </message>
     <message>
         <source>the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno</translation>
     </message>
     <message>
         <source>the file to write, as what its extension says</source>
-        <translation type="unfinished"></translation>
+        <translation>il file da scrivere, secondo la sua estensione</translation>
     </message>
     <message>
         <source>Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre un disegno e lo scrive secondo l&apos;estensione di OUT: dxf, png, svg o pdf. Ciò che un&apos;immagine non mostra, o solo in parte, viene indicato sullo standard error, per tipo.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini</translation>
     </message>
     <message>
         <source>Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, with the lineweights that it would have on a sheet 297 mm long; pdf shows it on A4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza le opzioni di un foglio, png e svg mostrano tutto lo spazio modello in 1600 per 1200 pixel, con gli spessori di linea che avrebbe su un foglio lungo 297 mm; pdf lo mostra su A4.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>da %1 a %2</translation>
     </message>
     <message>
         <source>default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>default: %1</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was more to show than is drawn in one go: a few lines of a drawing can make millions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato di uscita: 0 fatto, 1 uno strumento, un&apos;espressione o una sessione è fallita o ha superato un limite, 2 uso errato, 3 parte di un lotto è fallita o, con --strict, manca parte di un&apos;immagine, 4 un file non è stato letto o scritto, 5 un&apos;immagine è stata scritta, ma c&apos;era più da mostrare di quanto si disegni in una volta: poche righe di un disegno possono farne milioni.</translation>
     </message>
     <message>
         <source>Usage: </source>
-        <translation type="unfinished"></translation>
+        <translation>Uso: </translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi:</translation>
     </message>
     <message>
         <source>Drafting tools without their dialogs:</source>
-        <translation type="unfinished"></translation>
+        <translation>Strumenti di disegno senza i loro dialoghi:</translation>
     </message>
     <message>
         <source>Options for every use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni per ogni uso:</translation>
     </message>
     <message>
         <source>there is no kind of finding &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è un genere di segnalazione &quot;%1&quot;</translation>
     </message>
     <message>
         <source>lisp needs at least one file for this</source>
-        <translation type="unfinished"></translation>
+        <translation>per questo lisp richiede almeno un file</translation>
     </message>
     <message>
         <source>--json, --only and --except go with --check</source>
-        <translation type="unfinished"></translation>
+        <translation>--json, --only ed --except vanno con --check</translation>
     </message>
     <message>
         <source>--filter and --junit go with --test</source>
-        <translation type="unfinished"></translation>
+        <translation>--filter e --junit vanno con --test</translation>
     </message>
     <message>
         <source>--profile goes with programs that are run</source>
-        <translation type="unfinished"></translation>
+        <translation>--profile va con programmi che vengono eseguiti</translation>
     </message>
     <message>
         <source>--check and --test do not go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--check e --test non vanno insieme</translation>
     </message>
     <message>
         <source>Kinds of findings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Generi di segnalazioni:</translation>
     </message>
     <message>
         <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
 
 What these files load must lie in a trusted folder: the installation, the folder of the user&apos;s data, those that the system variable TRUSTEDPATHS lists, and those named here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica i file Lisp in ordine e stampa ciò che stampano. &quot;-&quot; legge espressioni dallo standard input. Senza --drawing è aperto un nuovo disegno. Nulla chiede a una persona: le richieste vengono annullate, e un dialogo termina il programma con stato 1.
+
+Ciò che questi file caricano deve stare in una cartella attendibile: l&apos;installazione, la cartella dei dati dell&apos;utente, quelle elencate dalla variabile di sistema TRUSTEDPATHS e quelle nominate qui.</translation>
     </message>
     <message>
         <source>the drawing to work on</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno su cui lavorare</translation>
     </message>
     <message>
         <source>a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>uno nuovo</translation>
     </message>
     <message>
         <source>the most all of it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>il tempo massimo per tutto</translation>
     </message>
     <message>
         <source>write files as well that another program has open, or has changed since they were opened</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi anche file che un altro programma tiene aperti, o ha modificato da quando sono stati aperti</translation>
     </message>
     <message>
         <source>tell on standard error where the time went, function by function</source>
-        <translation type="unfinished"></translation>
+        <translation>indica sullo standard error dove è andato il tempo, funzione per funzione</translation>
     </message>
     <message>
         <source>write that as folded stacks as well, of which flame graphs are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivilo anche come stack compressi, da cui si disegnano i flame graph</translation>
     </message>
     <message>
         <source>Without a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza file</translation>
     </message>
     <message>
         <source>It is a prompt: expressions are evaluated as they are typed, and their values printed. Tab completes names, &quot;help NAME&quot; or &quot;?NAME&quot; tells about one, Ctrl+C stops what runs, Ctrl+D ends. What is piped in is evaluated form by form; errors go to standard error with their line, the forms behind one are evaluated all the same, and the status is 1 then.</source>
-        <translation type="unfinished"></translation>
+        <translation>È un interprete interattivo: le espressioni vengono valutate mentre si digitano, e i loro valori stampati. Tab completa i nomi, &quot;help NAME&quot; o &quot;?NAME&quot; informa su uno, Ctrl+C ferma ciò che è in corso, Ctrl+D termina. Ciò che arriva da una pipe viene valutato forma per forma; gli errori vanno sullo standard error con la loro riga, le forme successive vengono valutate comunque, e lo stato allora è 1.</translation>
     </message>
     <message>
         <source>With --check</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --check</translation>
     </message>
     <message>
         <source>The files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.</source>
-        <translation type="unfinished"></translation>
+        <translation>I file vengono letti e non eseguiti, e viene indicato ciò che in essi sembra errato, una riga ciascuno: FILE:LINE:COLUMN: error o warning: che cos&apos;è [KIND]. Ciò che uno definisce è noto agli altri. Termina con stato 1 se è stato indicato qualcosa.</translation>
     </message>
     <message>
         <source>read the files and tell what looks wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>leggi i file e indica ciò che sembra errato</translation>
     </message>
     <message>
         <source>tell it as one line of JSON: findings, each with file, line, column, severity, kind and message, and the numbers of errors and warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>indicalo come una riga di JSON: findings, ognuno con file, line, column, severity, kind e message, e i numeri di errori e avvisi</translation>
     </message>
     <message>
         <source>tell only these kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>indica solo questi generi</translation>
     </message>
     <message>
         <source>tell all kinds but these</source>
-        <translation type="unfinished"></translation>
+        <translation>indica tutti i generi tranne questi</translation>
     </message>
     <message>
         <source>With --test</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --test</translation>
     </message>
     <message>
         <source>The tests that the files define by (deftest name form...) are run, each in a new drawing (or DRAWING) into which its file was loaded before, and told on standard output in version 14 of the Test Anything Protocol. The time limit is that of each test. Ends with status 1 when one failed or there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>I test che i file definiscono con (deftest name form...) vengono eseguiti, ognuno in un nuovo disegno (o DRAWING) in cui prima è stato caricato il suo file, e riportati sullo standard output nella versione 14 del Test Anything Protocol. Il limite di tempo è quello di ogni test. Termina con stato 1 se uno è fallito o non ce n&apos;era nessuno.</translation>
     </message>
     <message>
         <source>run the tests that the files define</source>
-        <translation type="unfinished"></translation>
+        <translation>esegui i test che i file definiscono</translation>
     </message>
     <message>
         <source>run only tests of such names: * stands for any characters, ? for one</source>
-        <translation type="unfinished"></translation>
+        <translation>esegui solo test con tali nomi: * sta per qualsiasi carattere, ? per uno</translation>
     </message>
     <message>
         <source>write a report in JUnit&apos;s XML instead</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi invece un rapporto nell&apos;XML di JUnit</translation>
     </message>
     <message>
         <source>runs, checks or tests Lisp files, or is a prompt for Lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>esegue, controlla o prova file Lisp, o è un interprete interattivo di Lisp</translation>
     </message>
     <message>
         <source>a Lisp file, or - for standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>un file Lisp, o - per lo standard input</translation>
     </message>
     <message>
         <source>names takes no word</source>
-        <translation type="unfinished"></translation>
+        <translation>names non accetta parole</translation>
     </message>
     <message>
         <source>help takes one command</source>
-        <translation type="unfinished"></translation>
+        <translation>help accetta un comando</translation>
     </message>
     <message>
         <source>lists what Lisp programs find here</source>
-        <translation type="unfinished"></translation>
+        <translation>elenca ciò che i programmi Lisp trovano qui</translation>
     </message>
     <message>
         <source>Prints what Lisp programs find here in a new drawing, a line each with tabs between its fields, sorted:
@@ -14779,190 +14781,196 @@ What these files load must lie in a trusted folder: the installation, the folder
   variable  NAME  KIND       WHAT IT IS
 
 Documents are made from this, and scripts/demand compares it with what programs ask for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa ciò che i programmi Lisp trovano qui in un nuovo disegno, una riga ciascuno con tabulazioni fra i campi, ordinato:
+
+  function  NAME  ARGUMENTS  CHE COSA DÀ
+  command   NAME  -          CHE COSA FA
+  variable  NAME  KIND       CHE COS&apos;È
+
+Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i programmi chiedono.</translation>
     </message>
     <message>
         <source>tells about a command</source>
-        <translation type="unfinished"></translation>
+        <translation>informa su un comando</translation>
     </message>
     <message>
         <source>which one; without it, the program as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>quale; senza, il programma nel suo insieme</translation>
     </message>
     <message>
         <source>The same as --help behind the command.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo stesso di --help dopo il comando.</translation>
     </message>
     <message>
         <source>run needs a session</source>
-        <translation type="unfinished"></translation>
+        <translation>run richiede una sessione</translation>
     </message>
     <message>
         <source>open damaged drawings as far as they are sound, and tell on standard error what was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>apri disegni danneggiati per quanto sono integri, e indica sullo standard error ciò che è stato scartato</translation>
     </message>
     <message>
         <source>write the drawings that the session changed there, under their own names; of a session with cases, what it saves itself</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi lì i disegni modificati dalla sessione, con i loro nomi; di una sessione con casi, ciò che essa stessa salva</translation>
     </message>
     <message>
         <source>write a picture of each drawing as it is in the end to the out folder, or else beside the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi un&apos;immagine di ogni disegno com&apos;è alla fine nella cartella di uscita, o altrimenti accanto al disegno</translation>
     </message>
     <message>
         <source>an independent reader for sessions that ask one (default: the environment&apos;s ORTAKIT_AUDIT); see scripts/audit</source>
-        <translation type="unfinished"></translation>
+        <translation>un lettore indipendente per sessioni che ne chiedono uno (default: ORTAKIT_AUDIT dell&apos;ambiente); vedere scripts/audit</translation>
     </message>
     <message>
         <source>where pictures go that the session takes, and those of --png</source>
-        <translation type="unfinished"></translation>
+        <translation>dove vanno le immagini che la sessione prende, e quelle di --png</translation>
     </message>
     <message>
         <source>the most the session may take with one drawing; one that does not stop then ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>il tempo massimo della sessione con un disegno; una che allora non si ferma termina il programma</translation>
     </message>
     <message>
         <source>plays a recorded session over drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>riproduce una sessione registrata su disegni</translation>
     </message>
     <message>
         <source>the recorded session</source>
-        <translation type="unfinished"></translation>
+        <translation>la sessione registrata</translation>
     </message>
     <message>
         <source>what it is played over</source>
-        <translation type="unfinished"></translation>
+        <translation>su che cosa viene riprodotta</translation>
     </message>
     <message>
         <source>Plays a recorded session over each drawing, one after the other, each opened afresh; without a drawing, over the one that the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each of them. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduce una sessione registrata su ogni disegno, uno dopo l&apos;altro, ognuno riaperto; senza disegno, su quello indicato dalla sessione. I disegni stessi restano come sono. Stampa una riga per ognuno, e di una sessione con casi per ogni caso. Ciò che un&apos;immagine non mostra, o solo in parte, viene indicato sullo standard error, per tipo.</translation>
     </message>
     <message>
         <source>look of windows and dialogs</source>
-        <translation type="unfinished"></translation>
+        <translation>aspetto di finestre e dialoghi</translation>
     </message>
     <message>
         <source>language of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>lingua dei testi</translation>
     </message>
     <message>
         <source>$ORTAKIT_LANGUAGE; else the window&apos;s setting or the desktop&apos;s language, and English where there is no window or a session is played</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_LANGUAGE; altrimenti l&apos;impostazione della finestra o la lingua del desktop, e inglese dove non c&apos;è finestra o si riproduce una sessione</translation>
     </message>
     <message>
         <source>folder of the user&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>cartella dei dati dell&apos;utente</translation>
     </message>
     <message>
         <source>$ORTAKIT_HOME, or the system&apos;s place for such data</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_HOME, o il posto del sistema per tali dati</translation>
     </message>
     <message>
         <source>the plug-in module</source>
-        <translation type="unfinished"></translation>
+        <translation>il modulo plug-in</translation>
     </message>
     <message>
         <source>$ORTAKIT_MODULE, or the one installed with the program</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_MODULE, o quello installato con il programma</translation>
     </message>
     <message>
         <source>folder of the Lisp tools</source>
-        <translation type="unfinished"></translation>
+        <translation>cartella degli strumenti Lisp</translation>
     </message>
     <message>
         <source>$ORTAKIT_TOOLS, or the one installed with the program</source>
-        <translation type="unfinished"></translation>
+        <translation>$ORTAKIT_TOOLS, o quella installata con il programma</translation>
     </message>
     <message>
         <source>let drawings name files of this folder and those below; may be given again. Else they are read from the drawing&apos;s own folder, those below and trusted ones only</source>
-        <translation type="unfinished"></translation>
+        <translation>consenti ai disegni di nominare file di questa cartella e di quelle sottostanti; ripetibile. Altrimenti vengono letti solo dalla cartella del disegno, da quelle sottostanti e da quelle attendibili</translation>
     </message>
     <message>
         <source>tell this and end</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra questo e termina</translation>
     </message>
     <message>
         <source>tell the version and end</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra la versione e termina</translation>
     </message>
     <message>
         <source> (did you mean %1?)</source>
-        <translation type="unfinished"></translation>
+        <translation> (forse %1?)</translation>
     </message>
     <message>
         <source>run programs of this folder and those below as well; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>esegui anche programmi di questa cartella e di quelle sottostanti; ripetibile</translation>
     </message>
     <message>
         <source>the most memory Lisp may take, more being an error of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>la memoria massima che Lisp può prendere. Di più è un errore del programma</translation>
     </message>
     <message>
         <source>the system variable LISPHEAPMAX, which is 2048 as long as nobody changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>la variabile di sistema LISPHEAPMAX, che è 2048 finché nessuno la cambia</translation>
     </message>
     <message>
         <source>open damaged drawings as far as they are sound; they have no file until they are saved under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>apri disegni danneggiati per quanto sono integri; non hanno un file finché non vengono salvati con un nome</translation>
     </message>
     <message>
         <source>open what a program that was killed left of changed drawings, without asking</source>
-        <translation type="unfinished"></translation>
+        <translation>apri senza chiedere ciò che un programma interrotto ha lasciato di disegni modificati</translation>
     </message>
     <message>
         <source>play a recorded session in the window first</source>
-        <translation type="unfinished"></translation>
+        <translation>riproduci prima nella finestra una sessione registrata</translation>
     </message>
     <message>
         <source>how long each line of the session waits, so that you can watch it</source>
-        <translation type="unfinished"></translation>
+        <translation>quanto attende ogni riga della sessione, per poterla osservare</translation>
     </message>
     <message>
         <source>write what you do down as a session that plays</source>
-        <translation type="unfinished"></translation>
+        <translation>annota ciò che si fa come una sessione riproducibile</translation>
     </message>
     <message>
         <source>write a picture of the window to DIR/window.png and end</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivi un&apos;immagine della finestra in DIR/window.png e termina</translation>
     </message>
     <message>
         <source>the most a session may take</source>
-        <translation type="unfinished"></translation>
+        <translation>il tempo massimo di una sessione</translation>
     </message>
     <message>
         <source>opens drawings in a window</source>
-        <translation type="unfinished"></translation>
+        <translation>apre disegni in una finestra</translation>
     </message>
     <message>
         <source>a drawing to open</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno da aprire</translation>
     </message>
     <message>
         <source>Opens the drawings in a window, or works on them without one. &quot;ortakit help COMMAND&quot; tells more about a command. A drawing whose name is that of a command is written with its folder: ./run</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre i disegni in una finestra, o ci lavora senza. &quot;ortakit help COMMAND&quot; dice di più su un comando. Un disegno il cui nome è quello di un comando si scrive con la sua cartella: ./run</translation>
     </message>
     <message>
         <source>Options of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni della finestra</translation>
     </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
     <message>
         <source>not saved yet: a name is asked for</source>
-        <translation type="unfinished"></translation>
+        <translation>non ancora salvato: verrà chiesto un nome</translation>
     </message>
     <message>
         <source>Save changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva modifiche</translation>
     </message>
     <message>
         <source>Changed drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegni modificati</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegno</translation>
     </message>
     <message>
         <source>File</source>
@@ -14970,65 +14978,65 @@ Documents are made from this, and scripts/demand compares it with what programs 
     </message>
     <message>
         <source>&amp;Save selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva selezionati</translation>
     </message>
     <message>
         <source>&amp;Discard all changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Scar&amp;ta tutte le modifiche</translation>
     </message>
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questi disegni sono stati modificati. Quelli non selezionati vengono chiusi senza salvare.</translation>
     </message>
 </context>
 <context>
     <name>host::app::CommandLine</name>
     <message>
         <source>Command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga di comando</translation>
     </message>
     <message>
         <source>What was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che è stato stampato</translation>
     </message>
     <message>
         <source>Command:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando:</translation>
     </message>
     <message>
         <source>Search what was entered: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca in ciò che è stato digitato: %1</translation>
     </message>
     <message>
         <source>Not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non trovato: %1</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova</translation>
     </message>
     <message>
         <source>Find in what was printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova in ciò che è stato stampato</translation>
     </message>
 </context>
 <context>
     <name>host::app::CommandPalette</name>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi</translation>
     </message>
     <message>
         <source>What is to be done? A command, a menu entry, a system variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa si vuole fare? Un comando, una voce di menu, una variabile di sistema</translation>
     </message>
     <message>
         <source>What is sought</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che si cerca</translation>
     </message>
     <message>
         <source>Commands that fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi corrispondenti</translation>
     </message>
 </context>
 <context>
@@ -15037,43 +15045,47 @@ Documents are made from this, and scripts/demand compares it with what programs 
         <source>
 A command is running; Esc stops it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un comando è in corso; Esc lo ferma.
+</translation>
     </message>
     <message>
         <source>
 No drawing is open.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun disegno è aperto.
+</translation>
     </message>
     <message>
         <source>(_&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>(_&gt;</translation>
     </message>
     <message>
         <source>Command:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando:</translation>
     </message>
     <message>
         <source>No session can be played now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora non si può riprodurre una sessione.</translation>
     </message>
 </context>
 <context>
     <name>host::app::DrawingAudit</name>
     <message>
         <source>the reader takes no names with line feeds</source>
-        <translation type="unfinished"></translation>
+        <translation>il lettore non accetta nomi con ritorni a capo</translation>
     </message>
     <message>
         <source>the reader %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il lettore %1 non risponde</translation>
     </message>
 </context>
 <context>
     <name>host::app::DrawingCanvas</name>
     <message>
         <source>simplified</source>
-        <translation type="unfinished"></translation>
+        <translation>semplificato</translation>
     </message>
 </context>
 <context>
@@ -15084,44 +15096,44 @@ No drawing is open.
     </message>
     <message>
         <source>%1 (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (sola lettura)</translation>
     </message>
 </context>
 <context>
     <name>host::app::InPlaceEdit</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
 </context>
 <context>
     <name>host::app::LayerBox</name>
     <message>
         <source>Filter of names</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro dei nomi</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
 </context>
 <context>
     <name>host::app::LayerPanel</name>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuovo</translation>
     </message>
     <message>
         <source>A layer that looks like the chosen one</source>
-        <translation type="unfinished"></translation>
+        <translation>Un layer simile a quello scelto</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -15129,87 +15141,87 @@ No drawing is open.
     </message>
     <message>
         <source>Takes unused layers out of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Toglie dal disegno i layer inutilizzati</translation>
     </message>
     <message>
         <source>Make &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendi &amp;corrente</translation>
     </message>
     <message>
         <source>Filter of names</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro dei nomi</translation>
     </message>
     <message>
         <source>Filter: part of a name, or a pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: parte di un nome o un modello</translation>
     </message>
     <message>
         <source>Which layers are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Quali layer vengono mostrati</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Usati</translation>
     </message>
     <message>
         <source>Of references</source>
-        <translation type="unfinished"></translation>
+        <translation>Di riferimenti</translation>
     </message>
     <message>
         <source>Not frozen</source>
-        <translation type="unfinished"></translation>
+        <translation>Non congelati</translation>
     </message>
     <message>
         <source>Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Visibili</translation>
     </message>
     <message>
         <source>%1 of %2 layers</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2 layer</translation>
     </message>
     <message>
         <source>%1, %2 chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 scelti</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... e altri %1</translation>
     </message>
     <message>
         <source>Nothing can be changed while a command runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla può essere modificato mentre è in corso un comando.</translation>
     </message>
     <message>
         <source>No drawing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun disegno è aperto.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value for this.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un valore per questo.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; belongs to an external reference and cannot be current.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; appartiene a un riferimento esterno e non può essere corrente.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is frozen and cannot be current.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; è congelato e non può essere corrente.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; è in uso.</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rinomina</translation>
     </message>
     <message>
         <source>C&amp;olor...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olore...</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
@@ -15220,199 +15232,222 @@ No drawing is open.
     <name>host::app::LayoutTabs</name>
     <message>
         <source>Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
 </context>
 <context>
     <name>host::app::LineReader</name>
     <message>
         <source>too much on the line: &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>di troppo sulla riga: &quot;%1&quot;</translation>
     </message>
     <message>
         <source>something is missing at the end of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>manca qualcosa alla fine della riga</translation>
     </message>
 </context>
 <context>
     <name>host::app::LispConsole</name>
     <message>
         <source>A Lisp expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;espressione Lisp</translation>
     </message>
     <message>
         <source>Lisp expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Espressione Lisp</translation>
     </message>
     <message>
         <source>Search what was entered: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca in ciò che è stato digitato: %1</translation>
     </message>
     <message>
         <source>Not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non trovato: %1</translation>
     </message>
 </context>
 <context>
     <name>host::app::MainWindow</name>
     <message>
         <source>Lisp console</source>
-        <translation type="unfinished"></translation>
+        <translation>Console Lisp</translation>
     </message>
     <message>
         <source>
 A command is running; Esc stops it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un comando è in corso; Esc lo ferma.
+</translation>
     </message>
     <message>
         <source>
 No drawing is open.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun disegno è aperto.
+</translation>
     </message>
     <message>
         <source>%1 is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è una cartella.</translation>
     </message>
     <message>
         <source>%1 is a picture or document, no drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è un&apos;immagine o un documento, non un disegno.</translation>
     </message>
     <message>
         <source>No tools were found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno strumento trovato</translation>
     </message>
     <message>
         <source>
 The help pages were not found.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le pagine della guida non sono state trovate.
+</translation>
     </message>
     <message>
         <source>About Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Ortakit</translation>
     </message>
     <message>
         <source>Ortakit %1
 
 Drafting tools for CAD drawings, with a host of their own.
 Qt %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortakit %1
+
+Strumenti per disegni CAD, con un proprio host.
+Qt %2</translation>
     </message>
     <message>
         <source>Command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga di comando</translation>
     </message>
     <message>
         <source>
 There is more to show than is drawn in one go: the picture lacks part of it.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+C&apos;è più da mostrare di quanto si disegni in una volta: all&apos;immagine ne manca una parte.
+</translation>
     </message>
     <message>
         <source>%1 is no full path of a program.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è il percorso completo di un programma.</translation>
     </message>
     <message>
         <source>This cannot be kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non può essere conservato in %1.</translation>
     </message>
     <message>
         <source>not while something runs</source>
-        <translation type="unfinished"></translation>
+        <translation>non mentre qualcosa è in corso</translation>
     </message>
     <message>
         <source>not possible now</source>
-        <translation type="unfinished"></translation>
+        <translation>non possibile ora</translation>
     </message>
     <message>
         <source>command of a program</source>
-        <translation type="unfinished"></translation>
+        <translation>comando di un programma</translation>
     </message>
     <message>
         <source>system variable: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>variabile di sistema: %1</translation>
     </message>
     <message>
         <source>Open &amp;recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri &amp;recenti</translation>
     </message>
     <message>
         <source>%1 (pinned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (fissato)</translation>
     </message>
     <message>
         <source>&amp;Last time&apos;s drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Disegni dell&apos;ultima volta</translation>
     </message>
     <message>
         <source>Open them at each &amp;start</source>
-        <translation type="unfinished"></translation>
+        <translation>Aprili a ogni &amp;avvio</translation>
     </message>
     <message>
         <source>&amp;Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;vuota l&apos;elenco</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio</translation>
     </message>
     <message>
         <source>Stop &amp;recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma &amp;registrazione</translation>
     </message>
     <message>
         <source>
 Recording to %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Registrazione in %1.
+</translation>
     </message>
     <message>
         <source>&amp;Record session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registra sessione...</translation>
     </message>
     <message>
         <source>
 Recorded in %1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Registrato in %1.
+</translation>
     </message>
     <message>
         <source>
 The recording was not written: %1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+La registrazione non è stata scritta: %1: %2
+</translation>
     </message>
     <message>
         <source>Record session</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra sessione</translation>
     </message>
     <message>
         <source>Recorded sessions (*.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessioni registrate (*.txt);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>
 No copy of %1 is kept for after a crash: %2.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna copia di %1 viene conservata per dopo un arresto anomalo: %2.
+</translation>
     </message>
     <message>
         <source>
 %1 was recovered by another program.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è stato recuperato da un altro programma.
+</translation>
     </message>
     <message>
         <source>
 Recovered as it was on %1. It is not in its file until it is saved.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
+</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -15420,57 +15455,57 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Repeat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripeti %1</translation>
     </message>
     <message>
         <source>Recent input</source>
-        <translation type="unfinished"></translation>
+        <translation>Input recente</translation>
     </message>
     <message>
         <source>Choose nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseleziona tutto</translation>
     </message>
 </context>
 <context>
     <name>host::app::ParagraphDialog</name>
     <message>
         <source>Edit paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica paragrafo</translation>
     </message>
     <message>
         <source>Text of the paragraph</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo del paragrafo</translation>
     </message>
     <message>
         <source>Each line is a paragraph. Codes are shown as they are: {\C1;red}, %%c, %%d.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni riga è un paragrafo. I codici vengono mostrati come sono: {\C1;red}, %%c, %%d.</translation>
     </message>
     <message>
         <source>Ctrl+Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Invio</translation>
     </message>
 </context>
 <context>
     <name>host::app::PrintDialog</name>
     <message>
         <source>&amp;Centred</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Centrato</translation>
     </message>
     <message>
         <source>&amp;Lineweights</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessori di &amp;linea</translation>
     </message>
     <message>
         <source>&amp;Remember in the layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ricorda nel layout</translation>
     </message>
     <message>
         <source>Print %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa %1</translation>
     </message>
     <message>
         <source>Page setup of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta pagina di %1</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -15478,27 +15513,27 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stampa</translation>
     </message>
     <message>
         <source>%1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>File %1</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>What is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che è mostrato</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>Limits</source>
@@ -15506,139 +15541,141 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>The layout&apos;s sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Il foglio del layout</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Adatta</translation>
     </message>
     <message>
         <source>As the layout says</source>
-        <translation type="unfinished"></translation>
+        <translation>Come indica il layout</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Colori</translation>
     </message>
     <message>
         <source>Black and white</source>
-        <translation type="unfinished"></translation>
+        <translation>Bianco e nero</translation>
     </message>
     <message>
         <source>Greys</source>
-        <translation type="unfinished"></translation>
+        <translation>Grigi</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dispositivo</translation>
     </message>
     <message>
         <source>P&amp;aper</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;arta</translation>
     </message>
     <message>
         <source>&amp;Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Orientamento</translation>
     </message>
     <message>
         <source>A&amp;rea</source>
-        <translation type="unfinished"></translation>
+        <translation>Ar&amp;ea</translation>
     </message>
     <message>
         <source>Lower left corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo inferiore sinistro</translation>
     </message>
     <message>
         <source>Upper right corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo superiore destro</translation>
     </message>
     <message>
         <source>&amp;Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala stampa (&amp;1)</translation>
     </message>
     <message>
         <source>O&amp;ffset (mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;ffset (mm)</translation>
     </message>
     <message>
         <source>Colo&amp;urs</source>
-        <translation type="unfinished"></translation>
+        <translation>Color&amp;i</translation>
     </message>
     <message>
         <source>Cop&amp;ies</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;pie</translation>
     </message>
 </context>
 <context>
     <name>host::app::PropertiesPanel</name>
     <message>
         <source>Which of the chosen entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Quali delle entità scelte</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>Nothing chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla di scelto</translation>
     </message>
     <message>
         <source>No drawing is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun disegno è aperto</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>%1 of %2 are on locked layers and stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2 sono su layer bloccati e restano come sono.</translation>
     </message>
     <message>
         <source>Nothing was changed: what is chosen is on locked layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla è stato modificato: ciò che è scelto è su layer bloccati.</translation>
     </message>
 </context>
 <context>
     <name>host::app::RecoveryDialog</name>
     <message>
         <source>never saved</source>
-        <translation type="unfinished"></translation>
+        <translation>mai salvato</translation>
     </message>
     <message>
         <source>%1
 (changed since by another program)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+(modificato nel frattempo da un altro programma)</translation>
     </message>
     <message>
         <source>%1
 (not there any more)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+(non c&apos;è più)</translation>
     </message>
     <message>
         <source>Recover drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Recupera disegni</translation>
     </message>
     <message>
         <source>The program ended without closing these drawings. What had not been saved of them was kept in copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il programma è terminato senza chiudere questi disegni. Ciò che non ne era stato salvato è stato conservato in copie.</translation>
     </message>
     <message>
         <source>Drawings to recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegni da recuperare</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegno</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiato</translation>
     </message>
     <message>
         <source>Size</source>
@@ -15650,23 +15687,23 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Open selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri selezionati</translation>
     </message>
     <message>
         <source>&amp;Discard selected...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scarta selezionati...</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Più &amp;tardi</translation>
     </message>
     <message>
         <source>The copies are offered again at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>Le copie vengono proposte di nuovo al prossimo avvio</translation>
     </message>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(senza nome)</translation>
     </message>
     <message numerus="yes">
         <source>Discard what was not saved of %n drawing(s)? It cannot be brought back.</source>
@@ -15680,226 +15717,226 @@ Recovered as it was on %1. It is not in its file until it is saved.
     <name>host::app::ResultsModel</name>
     <message>
         <source>done</source>
-        <translation type="unfinished"></translation>
+        <translation>fatto</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>saltato</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Esito</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entità</translation>
     </message>
     <message>
         <source>What and why</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa e perché</translation>
     </message>
 </context>
 <context>
     <name>host::app::ResultsPanel</name>
     <message>
         <source>&amp;Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva...</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultati</translation>
     </message>
     <message>
         <source>Which results are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Quali risultati vengono mostrati</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto</translation>
     </message>
     <message>
         <source>Skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltati</translation>
     </message>
     <message>
         <source>No tool has listed results in this drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno strumento ha elencato risultati in questo disegno.</translation>
     </message>
     <message>
         <source>It is not in the drawing any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è più nel disegno.</translation>
     </message>
     <message>
         <source>It is not in the space that is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è nello spazio mostrato.</translation>
     </message>
     <message>
         <source>Save results</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva risultati</translation>
     </message>
     <message>
         <source>Text (*.txt);;JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo (*.txt);;JSON (*.json)</translation>
     </message>
     <message>
         <source>Written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Scritto: %1</translation>
     </message>
 </context>
 <context>
     <name>host::app::ScriptReader</name>
     <message>
         <source>part: it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: non ha fine</translation>
     </message>
     <message>
         <source>part: the part before it has no end</source>
-        <translation type="unfinished"></translation>
+        <translation>part: la parte precedente non ha fine</translation>
     </message>
     <message>
         <source>end: no part was begun</source>
-        <translation type="unfinished"></translation>
+        <translation>end: nessuna parte è cominciata</translation>
     </message>
     <message>
         <source>drawing: only the first line says which drawing it is</source>
-        <translation type="unfinished"></translation>
+        <translation>drawing: solo la prima riga dice quale disegno è</translation>
     </message>
     <message>
         <source>part: there is a part %1 already</source>
-        <translation type="unfinished"></translation>
+        <translation>part: c&apos;è già una parte %1</translation>
     </message>
     <message>
         <source>part: a part cannot be written in a part</source>
-        <translation type="unfinished"></translation>
+        <translation>part: una parte non può essere scritta in una parte</translation>
     </message>
     <message>
         <source>play: there is no part %1</source>
-        <translation type="unfinished"></translation>
+        <translation>play: non c&apos;è una parte %1</translation>
     </message>
     <message>
         <source>play: the part %1 plays itself</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 riproduce se stessa</translation>
     </message>
     <message>
         <source>play: too many parts are played one in the other</source>
-        <translation type="unfinished"></translation>
+        <translation>play: troppe parti vengono riprodotte l&apos;una nell&apos;altra</translation>
     </message>
     <message>
         <source>play: the part %1 takes %2</source>
-        <translation type="unfinished"></translation>
+        <translation>play: la parte %1 prende %2</translation>
     </message>
     <message>
         <source>part %1, line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>parte %1, riga %2</translation>
     </message>
     <message>
         <source>play: the parts write too much</source>
-        <translation type="unfinished"></translation>
+        <translation>play: le parti scrivono troppo</translation>
     </message>
     <message>
         <source>no arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun argomento</translation>
     </message>
 </context>
 <context>
     <name>host::app::SessionPlayer</name>
     <message>
         <source>the session took longer than %1 s; open is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la sessione ha impiegato più di %1 s; è aperto %2</translation>
     </message>
     <message>
         <source>no dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun dialogo</translation>
     </message>
     <message>
         <source>${%1} is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>${%1} non è noto</translation>
     </message>
     <message>
         <source>the prompt &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la richiesta &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the session ends while %1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>la sessione finisce mentre %1 è aperto</translation>
     </message>
     <message>
         <source>%1 is open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è aperto</translation>
     </message>
     <message>
         <source>%1 is still open</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è ancora aperto</translation>
     </message>
     <message>
         <source>a view needs two corners</source>
-        <translation type="unfinished"></translation>
+        <translation>una vista richiede due angoli</translation>
     </message>
     <message>
         <source>the run before it ended without an error</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;esecuzione precedente è finita senza errore</translation>
     </message>
     <message>
         <source>no prompt and no dialog is open that this could be meant for</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna richiesta e nessun dialogo aperto a cui potrebbe riferirsi</translation>
     </message>
     <message>
         <source>there is no panel &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è un pannello &quot;%1&quot;</translation>
     </message>
     <message>
         <source>it stands in front of a command or lisp</source>
-        <translation type="unfinished"></translation>
+        <translation>sta davanti a un comando o a lisp</translation>
     </message>
     <message>
         <source>the error is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;errore è &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the run ended with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;esecuzione è finita con &quot;%1&quot;</translation>
     </message>
     <message>
         <source>cancelled at %1, </source>
-        <translation type="unfinished"></translation>
+        <translation>annullato a %1, </translation>
     </message>
     <message>
         <source>the drawing differs from what it was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno è diverso da com&apos;era: %1</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nulla da annullare</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nulla da ripristinare</translation>
     </message>
     <message>
         <source>it is nil</source>
-        <translation type="unfinished"></translation>
+        <translation>è nil</translation>
     </message>
 </context>
 <context>
     <name>host::app::SettingEditor</name>
     <message>
         <source>Add to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi a: %1</translation>
     </message>
     <message>
         <source>Lisp programs (*.lsp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmi Lisp (*.lsp)</translation>
     </message>
 </context>
 <context>
     <name>host::app::SettingsWindow</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Search</source>
@@ -15907,152 +15944,152 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Search the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nelle impostazioni</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezioni</translation>
     </message>
     <message>
         <source>System variables are shown while a drawing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le variabili di sistema vengono mostrate quando è aperto un disegno.</translation>
     </message>
     <message>
         <source>A command is running; Esc stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un comando è in corso; Esc lo ferma.</translation>
     </message>
     <message>
         <source>%1 cannot be &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>host::app::StartPage</name>
     <message>
         <source>Recent drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegni recenti</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Esempi</translation>
     </message>
     <message>
         <source>Ortakit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortakit</translation>
     </message>
     <message>
         <source>First steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Primi passi</translation>
     </message>
     <message>
         <source>&amp;New drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuovo disegno</translation>
     </message>
     <message>
         <source>&amp;Open drawings...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri disegni...</translation>
     </message>
     <message>
         <source>Open &amp;last time&apos;s drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri disegni dell&apos;u&amp;ltima volta</translation>
     </message>
     <message>
         <source>Look at a sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda un esempio</translation>
     </message>
     <message>
         <source>Draw a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegna una linea</translation>
     </message>
     <message>
         <source>Read the help</source>
-        <translation type="unfinished"></translation>
+        <translation>Leggi la guida</translation>
     </message>
     <message>
         <source>(not there any more)</source>
-        <translation type="unfinished"></translation>
+        <translation>(non c&apos;è più)</translation>
     </message>
     <message>
         <source>%1 (pinned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (fissato)</translation>
     </message>
     <message>
         <source>Un&amp;pin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sblocca</translation>
     </message>
     <message>
         <source>&amp;Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fissa</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rimuovi dall&apos;elenco</translation>
     </message>
 </context>
 <context>
     <name>host::app::StatusSwitches</name>
     <message>
         <source>%1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 attivo</translation>
     </message>
     <message>
         <source>%1 off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 disattivo</translation>
     </message>
     <message>
         <source>GRID</source>
-        <translation type="unfinished"></translation>
+        <translation>GRIGLIA</translation>
     </message>
     <message>
         <source>Shows the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la griglia</translation>
     </message>
     <message>
         <source>SNAP</source>
-        <translation type="unfinished"></translation>
+        <translation>SNAP</translation>
     </message>
     <message>
         <source>Points snap to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation>I punti agganciano la griglia</translation>
     </message>
     <message>
         <source>ORTHO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORTO</translation>
     </message>
     <message>
         <source>Points lie along the axes from the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>I punti stanno lungo gli assi dall&apos;ultimo</translation>
     </message>
     <message>
         <source>POLAR</source>
-        <translation type="unfinished"></translation>
+        <translation>POLARE</translation>
     </message>
     <message>
         <source>Points lock to angles from the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>I punti si bloccano su angoli dall&apos;ultimo</translation>
     </message>
     <message>
         <source>OSNAP</source>
-        <translation type="unfinished"></translation>
+        <translation>OSNAP</translation>
     </message>
     <message>
         <source>Points snap to entities</source>
-        <translation type="unfinished"></translation>
+        <translation>I punti agganciano le entità</translation>
     </message>
     <message>
         <source>DYN</source>
-        <translation type="unfinished"></translation>
+        <translation>DIN</translation>
     </message>
     <message>
         <source>Length and angle stand at the pointer; Tab locks what was typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza e angolo stanno accanto al puntatore; Tab blocca ciò che è stato digitato</translation>
     </message>
 </context>
 <context>
     <name>host::app::StyleBar</name>
     <message>
         <source>Current properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà correnti</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -16068,41 +16105,41 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore linea</translation>
     </message>
 </context>
 <context>
     <name>host::app::SuggestionList</name>
     <message>
         <source>Suggestions</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggerimenti</translation>
     </message>
 </context>
 <context>
     <name>host::app::TextEditing</name>
     <message>
         <source>It is on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>È su un layer bloccato.</translation>
     </message>
     <message>
         <source>A text without letters could not be found again: it stays as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un testo senza lettere non si ritroverebbe più: resta com&apos;era.</translation>
     </message>
     <message>
         <source>Edit attribute definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica definizione di attributo</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta</translation>
     </message>
     <message>
         <source>Prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiesta</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Default</translation>
     </message>
     <message>
         <source>A tag has no blanks.</source>
@@ -16110,50 +16147,50 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>The value is constant: the block says it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il valore è costante: lo stabilisce il blocco.</translation>
     </message>
     <message>
         <source>Several lines, with \P between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Più righe, separate da \P.</translation>
     </message>
     <message>
         <source>Attributes of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Attributi di %1</translation>
     </message>
 </context>
 <context>
     <name>host::app::TrustBar</name>
     <message>
         <source>%1 was not read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato letto: %2</translation>
     </message>
     <message>
         <source>%1 was not loaded: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato caricato: %2</translation>
     </message>
     <message>
         <source>%1 was not started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato avviato: %2</translation>
     </message>
     <message>
         <source>Allow &amp;once</source>
-        <translation type="unfinished"></translation>
+        <translation>Consenti &amp;una volta</translation>
     </message>
     <message>
         <source>Trust the folde&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Considera attendibile la ca&amp;rtella</translation>
     </message>
     <message>
         <source>What was kept from running or being read</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò di cui è stata impedita l&apos;esecuzione o la lettura</translation>
     </message>
     <message>
         <source>Files and programs that were kept back</source>
-        <translation type="unfinished"></translation>
+        <translation>File e programmi trattenuti</translation>
     </message>
     <message>
         <source>Detai&amp;ls</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettag&amp;li</translation>
     </message>
     <message>
         <source>Close</source>
@@ -16161,49 +16198,49 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elementi trattenuti: sono nominati qui, ma non sono in cartelle attendibili.</translation>
     </message>
 </context>
 <context>
     <name>host::app::ValuesDialog</name>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichetta</translation>
     </message>
     <message>
         <source>Prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiesta</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
 </context>
 <context>
     <name>host::app::WindowDialogs</name>
     <message>
         <source>Printed on %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampato su %1.</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa su file</translation>
     </message>
     <message>
         <source>%1 files (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>File %1 (*.%2)</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuovo</translation>
     </message>
     <message>
         <source>&amp;Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rinomina...</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copia</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -16211,19 +16248,19 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Move &amp;left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta a &amp;sinistra</translation>
     </message>
     <message>
         <source>Move righ&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta a &amp;destra</translation>
     </message>
     <message>
         <source>&amp;Page setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta &amp;pagina...</translation>
     </message>
     <message>
         <source>Rename layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina layout</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
@@ -16234,49 +16271,49 @@ Recovered as it was on %1. It is not in its file until it is saved.
     <name>host::app::Workbench</name>
     <message>
         <source>The folder of the Lisp tools was not found; there are no tools.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella degli strumenti Lisp non è stata trovata; non ci sono strumenti.</translation>
     </message>
     <message>
         <source>There is no folder %1; there are no tools.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è una cartella %1; non ci sono strumenti.</translation>
     </message>
     <message>
         <source>The plug-in module was not found; tools with dialogs will not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il modulo plug-in non è stato trovato; gli strumenti con dialoghi non funzioneranno.</translation>
     </message>
     <message>
         <source>%1 Tools with dialogs will not work.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gli strumenti con dialoghi non funzioneranno.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>host::kernel::Autosave</name>
     <message>
         <source>the folder %1 takes no files</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella %1 non accetta file</translation>
     </message>
 </context>
 <context>
     <name>host::kernel::ColourDialog</name>
     <message>
         <source>Select Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona colore</translation>
     </message>
     <message>
         <source>By&amp;Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;Layer</translation>
     </message>
     <message>
         <source>By&amp;Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;Blocco</translation>
     </message>
     <message>
         <source>&amp;More Colors...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Altri colori...</translation>
     </message>
     <message>
         <source>&amp;Color:</source>
@@ -16287,46 +16324,46 @@ Recovered as it was on %1. It is not in its file until it is saved.
     <name>host::kernel::DrawingBackup</name>
     <message>
         <source>No backup of %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun backup di %1: %2.</translation>
     </message>
     <message>
         <source>the backup would take the place of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il backup prenderebbe il posto del disegno</translation>
     </message>
     <message>
         <source>there is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è una cartella %1</translation>
     </message>
 </context>
 <context>
     <name>host::view::Export</name>
     <message>
         <source>Cannot make a picture of this size for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile fare un&apos;immagine di questa dimensione per %1</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere %1: %2</translation>
     </message>
     <message>
         <source>The sheet would be %1 by %2 pixels; %3 each way are the most</source>
-        <translation type="unfinished"></translation>
+        <translation>Il foglio sarebbe di %1 per %2 pixel; il massimo per verso è %3</translation>
     </message>
     <message>
         <source>There is no block named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un blocco di nome %1</translation>
     </message>
     <message>
         <source>There is no layout named %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un layout di nome %1</translation>
     </message>
     <message>
         <source>it is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>non è stato trovato</translation>
     </message>
     <message>
         <source>the plot styles %1 are left out: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>gli stili di stampa %1 vengono tralasciati: %2</translation>
     </message>
 </context>
 </TS>
