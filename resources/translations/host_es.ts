@@ -10503,7 +10503,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Area</source>
-        <translation>áRea</translation>
+        <translation>árEa</translation>
     </message>
     <message>
         <source>Array</source>
@@ -10571,7 +10571,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Below</source>
-        <translation>dEbajo</translation>
+        <translation>deBajo</translation>
     </message>
     <message>
         <source>Binary</source>
@@ -10599,7 +10599,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Both</source>
-        <translation>Ambos</translation>
+        <translation>aMbos</translation>
     </message>
     <message>
         <source>Bottom</source>
@@ -10671,7 +10671,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Chord</source>
-        <translation>cUerda</translation>
+        <translation>Cuerda</translation>
     </message>
     <message>
         <source>Circumscribed about circle</source>
@@ -10695,11 +10695,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Combine</source>
-        <translation>Combinar</translation>
+        <translation>coMbinar</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation>cOmandos</translation>
+        <translation>coMandos</translation>
     </message>
     <message>
         <source>Constant</source>
@@ -10791,7 +10791,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Description</source>
-        <translation>Descripción</translation>
+        <translation>descriPción</translation>
     </message>
     <message>
         <source>Detach</source>
@@ -10807,11 +10807,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Dimstyle</source>
-        <translation>esTilocota</translation>
+        <translation>estiloCota</translation>
     </message>
     <message>
         <source>Dimstyles</source>
-        <translation>esTiloscota</translation>
+        <translation>estilosCOta</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -10903,11 +10903,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Extend</source>
-        <translation>Alargar</translation>
+        <translation>aLargar</translation>
     </message>
     <message>
         <source>Extents</source>
-        <translation>Extensión</translation>
+        <translation>eXtensión</translation>
     </message>
     <message>
         <source>Face</source>
@@ -10919,7 +10919,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Fillet</source>
-        <translation>Empalme</translation>
+        <translation>eMpalme</translation>
     </message>
     <message>
         <source>First</source>
@@ -11011,7 +11011,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Home</source>
-        <translation>Inicial</translation>
+        <translation>Predefinida</translation>
     </message>
     <message>
         <source>Hor</source>
@@ -11195,7 +11195,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Make</source>
-        <translation>Crear</translation>
+        <translation>CRear</translation>
     </message>
     <message>
         <source>Mark</source>
@@ -11335,7 +11335,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Off</source>
-        <translation>No</translation>
+        <translation>Desactivar</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -11343,7 +11343,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>On</source>
-        <translation>Sí</translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>One</source>
@@ -11411,7 +11411,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Plot</source>
-        <translation>Trazar</translation>
+        <translation>traZar</translation>
     </message>
     <message>
         <source>Plotstyles</source>
@@ -11495,7 +11495,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Reload</source>
-        <translation>Recargar</translation>
+        <translation>reCargar</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11507,7 +11507,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Rename</source>
-        <translation>Renombrar</translation>
+        <translation>renOmbrar</translation>
     </message>
     <message>
         <source>Rendered</source>
@@ -11619,7 +11619,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Set</source>
-        <translation>Definir</translation>
+        <translation>Fijar</translation>
     </message>
     <message>
         <source>Set new origin</source>
@@ -11715,7 +11715,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Thaw</source>
-        <translation>Reutilizar</translation>
+        <translation>reUtilizar</translation>
     </message>
     <message>
         <source>Thawed</source>
@@ -11747,7 +11747,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Trim</source>
-        <translation>Recortar</translation>
+        <translation>recorTar</translation>
     </message>
     <message>
         <source>Truecolor</source>
@@ -11783,11 +11783,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Unload</source>
-        <translation>Descargar</translation>
+        <translation>descarGar</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation>Desbloquear</translation>
+        <translation>desbloQuear</translation>
     </message>
     <message>
         <source>Use</source>
@@ -11855,7 +11855,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Vpfreeze</source>
-        <translation>Inutventana</translation>
+        <translation>inutVentana</translation>
     </message>
     <message>
         <source>Vpvisdflt</source>
@@ -12023,7 +12023,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>mEthod</source>
-        <translation>méTodo</translation>
+        <translation>métOdo</translation>
     </message>
     <message>
         <source>mOde</source>
@@ -12031,11 +12031,11 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>multileadersTyle</source>
-        <translation>esTilodirectrizmúltiple</translation>
+        <translation>estiloDirectrizmúltiple</translation>
     </message>
     <message>
         <source>plotStyle</source>
-        <translation>estilotraZado</translation>
+        <translation>Estilotrazado</translation>
     </message>
     <message>
         <source>rEconcile</source>
@@ -12194,7 +12194,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>On</source>
-        <translation>Sí</translation>
+        <translation>Act.</translation>
     </message>
     <message>
         <source>Freeze</source>
@@ -14056,31 +14056,31 @@ No se puede guardar la configuración del usuario.
     <name>RenderReport</name>
     <message>
         <source>%1 drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dibujados</translation>
     </message>
     <message>
         <source>%1 invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 invisibles</translation>
     </message>
     <message>
         <source>simplified</source>
-        <translation type="unfinished"></translation>
+        <translation>simplificado</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>omitido</translation>
     </message>
     <message>
         <source>not drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>no dibujado</translation>
     </message>
     <message>
         <source>drawn in part</source>
-        <translation type="unfinished"></translation>
+        <translation>dibujado en parte</translation>
     </message>
     <message>
         <source>cut short: there is more than is drawn in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>interrumpido: hay más de lo que se dibuja de una vez</translation>
     </message>
 </context>
 <context>
@@ -15707,9 +15707,9 @@ Recuperado tal como estaba el %1. No está en su archivo hasta que se guarde.
     </message>
     <message numerus="yes">
         <source>Discard what was not saved of %n drawing(s)? It cannot be brought back.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>¿Descartar lo no guardado de %n dibujo? No se puede recuperar.</numerusform>
+            <numerusform>¿Descartar lo no guardado de %n dibujos? No se puede recuperar.</numerusform>
         </translation>
     </message>
 </context>

@@ -10439,7 +10439,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Above</source>
-        <translation>Sopra</translation>
+        <translation>soPra</translation>
     </message>
     <message>
         <source>Above objects</source>
@@ -10523,7 +10523,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Aspect</source>
-        <translation>aspeTto</translation>
+        <translation>Aspetto</translation>
     </message>
     <message>
         <source>Associativity</source>
@@ -10787,7 +10787,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Delete</source>
-        <translation>Elimina</translation>
+        <translation>eLimina</translation>
     </message>
     <message>
         <source>Description</source>
@@ -10915,7 +10915,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Fence</source>
-        <translation>Intercetta</translation>
+        <translation>inTercetta</translation>
     </message>
     <message>
         <source>Fillet</source>
@@ -10951,7 +10951,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Freeze</source>
-        <translation>Congela</translation>
+        <translation>conGela</translation>
     </message>
     <message>
         <source>Front</source>
@@ -11015,7 +11015,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Hor</source>
-        <translation>Or</translation>
+        <translation>oR</translation>
     </message>
     <message>
         <source>Horizontal</source>
@@ -11031,7 +11031,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Inches</source>
-        <translation>Pollici</translation>
+        <translation>pOllici</translation>
     </message>
     <message>
         <source>Included angle</source>
@@ -11079,7 +11079,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Justify</source>
-        <translation>Giustifica</translation>
+        <translation>giUstifica</translation>
     </message>
     <message>
         <source>Knots</source>
@@ -11335,7 +11335,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Off</source>
-        <translation>No</translation>
+        <translation>Off</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -11343,7 +11343,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>On</source>
-        <translation>Sì</translation>
+        <translation>On</translation>
     </message>
     <message>
         <source>One</source>
@@ -11411,11 +11411,11 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Plot</source>
-        <translation>Stampa</translation>
+        <translation>stamPa</translation>
     </message>
     <message>
         <source>Plotstyles</source>
-        <translation>STiliStampa</translation>
+        <translation>stiliSTampa</translation>
     </message>
     <message>
         <source>Points</source>
@@ -11507,7 +11507,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Rename</source>
-        <translation>riNomina</translation>
+        <translation>rinOmina</translation>
     </message>
     <message>
         <source>Rendered</source>
@@ -11587,7 +11587,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Scale</source>
-        <translation>sCala</translation>
+        <translation>scAla</translation>
     </message>
     <message>
         <source>Second</source>
@@ -11619,7 +11619,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Set</source>
-        <translation>Imposta</translation>
+        <translation>Fissa</translation>
     </message>
     <message>
         <source>Set new origin</source>
@@ -11631,7 +11631,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Shadeplot</source>
-        <translation>stampaOmbreggiata</translation>
+        <translation>stampaoMbreggiata</translation>
     </message>
     <message>
         <source>Single</source>
@@ -11783,7 +11783,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Unload</source>
-        <translation>Scarica</translation>
+        <translation>sCarica</translation>
     </message>
     <message>
         <source>Unlock</source>
@@ -11855,7 +11855,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Vpfreeze</source>
-        <translation>Congfinestra</translation>
+        <translation>congFinestra</translation>
     </message>
     <message>
         <source>Vpvisdflt</source>
@@ -12023,7 +12023,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>mEthod</source>
-        <translation>meTodo</translation>
+        <translation>metOdo</translation>
     </message>
     <message>
         <source>mOde</source>
@@ -12031,15 +12031,15 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>multileadersTyle</source>
-        <translation>Multidirettricestile</translation>
+        <translation>multIdirettricestile</translation>
     </message>
     <message>
         <source>plotStyle</source>
-        <translation>stilestamPa</translation>
+        <translation>Stilestampa</translation>
     </message>
     <message>
         <source>rEconcile</source>
-        <translation>ricOncilia</translation>
+        <translation>rIconcilia</translation>
     </message>
     <message>
         <source>remove Boundaries</source>
@@ -12067,7 +12067,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>stAte</source>
-        <translation>statO</translation>
+        <translation>stAto</translation>
     </message>
     <message>
         <source>start Tangency</source>
@@ -12075,7 +12075,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>textSTyles</source>
-        <translation>STilitesto</translation>
+        <translation>stiliTEsto</translation>
     </message>
     <message>
         <source>toLerance</source>
@@ -12194,7 +12194,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>On</source>
-        <translation>Sì</translation>
+        <translation>On</translation>
     </message>
     <message>
         <source>Freeze</source>
@@ -14049,38 +14049,38 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Help</source>
-        <translation>?</translation>
+        <translation>Guida</translation>
     </message>
 </context>
 <context>
     <name>RenderReport</name>
     <message>
         <source>%1 drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 disegnati</translation>
     </message>
     <message>
         <source>%1 invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 invisibili</translation>
     </message>
     <message>
         <source>simplified</source>
-        <translation type="unfinished"></translation>
+        <translation>semplificato</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>saltato</translation>
     </message>
     <message>
         <source>not drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>non disegnato</translation>
     </message>
     <message>
         <source>drawn in part</source>
-        <translation type="unfinished"></translation>
+        <translation>disegnato in parte</translation>
     </message>
     <message>
         <source>cut short: there is more than is drawn in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>interrotto: c&apos;è più di quanto si disegni in una volta</translation>
     </message>
 </context>
 <context>
@@ -15225,7 +15225,7 @@ Nessun disegno è aperto.
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation>Seleziona &amp;tutto</translation>
+        <translation>Selezion&amp;a tutto</translation>
     </message>
 </context>
 <context>
@@ -15513,7 +15513,7 @@ Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation>&amp;Stampa</translation>
+        <translation>Sta&amp;mpa</translation>
     </message>
     <message>
         <source>%1 file</source>
@@ -15593,7 +15593,7 @@ Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
     </message>
     <message>
         <source>&amp;Scale</source>
-        <translation>Scala stampa (&amp;1)</translation>
+        <translation>&amp;Scala</translation>
     </message>
     <message>
         <source>O&amp;ffset (mm)</source>
@@ -15707,9 +15707,9 @@ Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
     </message>
     <message numerus="yes">
         <source>Discard what was not saved of %n drawing(s)? It cannot be brought back.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Scartare ciò che non è stato salvato di %n disegno? Non può essere recuperato.</numerusform>
+            <numerusform>Scartare ciò che non è stato salvato di %n disegni? Non può essere recuperato.</numerusform>
         </translation>
     </message>
 </context>
