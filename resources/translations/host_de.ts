@@ -58,6 +58,46 @@
         <source>two of the drawings are named %1: their results would have the same name</source>
         <translation>zwei der Zeichnungen heißen %1: ihre Ergebnisse hätten denselben Namen</translation>
     </message>
+    <message>
+        <source>%1: the extension must be dxf, %2</source>
+        <translation>%1: die Endung muss dxf, %2 sein</translation>
+    </message>
+    <message>
+        <source>--binary is for DXF files</source>
+        <translation>--binary gilt für DXF-Dateien</translation>
+    </message>
+    <message>
+        <source>... and %1 more lines</source>
+        <translation>... und %1 weitere Zeilen</translation>
+    </message>
+    <message>
+        <source>the dialog of %1 does not open</source>
+        <translation>der Dialog von %1 öffnet sich nicht</translation>
+    </message>
+    <message>
+        <source>%1: the file cannot be read</source>
+        <translation>%1: die Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the tool asks &quot;%1&quot;; see --answer</source>
+        <translation>das Werkzeug fragt &quot;%1&quot;; siehe --answer</translation>
+    </message>
+    <message>
+        <source>the tool asks for a file; see --set %1=PATH</source>
+        <translation>das Werkzeug fragt nach einer Datei; siehe --set %1=PATH</translation>
+    </message>
+    <message>
+        <source>the dialog does not go on with these values</source>
+        <translation>der Dialog geht mit diesen Werten nicht weiter</translation>
+    </message>
+    <message>
+        <source>there is nothing to choose in %1</source>
+        <translation>in %1 gibt es nichts zu wählen</translation>
+    </message>
+    <message>
+        <source>it does not take &quot;%1&quot;</source>
+        <translation>es nimmt &quot;%1&quot; nicht an</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -5570,10 +5610,6 @@ Im Ansichtsfenster %1 sind zurzeit diese Layer gefroren:</translation>
         <translation>Grenzen, die sich aus den Objekten ergeben: $EXTMIN, ...</translation>
     </message>
     <message>
-        <source>which objects want to hear of changes: {ACAD_REACTORS</source>
-        <translation>welche Objekte von Änderungen hören wollen: {ACAD_REACTORS</translation>
-    </message>
-    <message>
         <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
         <translation>Version und Codepage: $ACADVER, $DWGCODEPAGE</translation>
     </message>
@@ -5600,6 +5636,10 @@ Im Ansichtsfenster %1 sind zurzeit diese Layer gefroren:</translation>
     <message>
         <source>which entity is drawn over which</source>
         <translation>welches Objekt über welchem gezeichnet wird</translation>
+    </message>
+    <message>
+        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
+        <translation>wer von Änderungen hören will und wer einen Block zeigt: {ACAD_REACTORS, {BLKREFS</translation>
     </message>
 </context>
 <context>
@@ -9944,6 +9984,165 @@ Das Dia &quot;%1&quot;: %2.
     </message>
 </context>
 <context>
+    <name>Inspecting</name>
+    <message>
+        <source>%1: what is mended is not written over the drawing</source>
+        <translation>%1: Ausgebessertes wird nicht über die Zeichnung geschrieben</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation>heil</translation>
+    </message>
+    <message>
+        <source>%1 faults</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>, opens with --recover alone</source>
+        <translation>, öffnet nur mit --recover</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> und %1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>by %1</source>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>begun %1</source>
+        <translation>begonnen %1</translation>
+    </message>
+    <message>
+        <source>the file says %1</source>
+        <translation>die Datei sagt %1</translation>
+    </message>
+    <message>
+        <source>; %1 in blocks</source>
+        <translation>; %1 in Blöcken</translation>
+    </message>
+    <message>
+        <source> off</source>
+        <translation> aus</translation>
+    </message>
+    <message>
+        <source> frozen</source>
+        <translation> gefroren</translation>
+    </message>
+    <message>
+        <source> locked</source>
+        <translation> gesperrt</translation>
+    </message>
+    <message>
+        <source> (not found: %1)</source>
+        <translation> (nicht gefunden: %1)</translation>
+    </message>
+    <message>
+        <source> (not found)</source>
+        <translation> (nicht gefunden)</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>, %1 records without</source>
+        <translation>, %1 Datensätze ohne</translation>
+    </message>
+    <message>
+        <source>, %1 twice</source>
+        <translation>, %1 doppelt</translation>
+    </message>
+    <message>
+        <source>, the next one (%1) is taken</source>
+        <translation>, die nächste (%1) ist vergeben</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>gespeichert</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>extents</source>
+        <translation>Ausdehnung</translation>
+    </message>
+    <message>
+        <source>entities</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>layers</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>blocks</source>
+        <translation>Blöcke</translation>
+    </message>
+    <message>
+        <source>layouts</source>
+        <translation>Layouts</translation>
+    </message>
+    <message>
+        <source>text styles</source>
+        <translation>Textstile</translation>
+    </message>
+    <message>
+        <source>fonts</source>
+        <translation>Schriften</translation>
+    </message>
+    <message>
+        <source>linetypes</source>
+        <translation>Linientypen</translation>
+    </message>
+    <message>
+        <source>dimensions</source>
+        <translation>Bemaßungen</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>proxies</source>
+        <translation>Proxys</translation>
+    </message>
+    <message>
+        <source>handles</source>
+        <translation>Referenznummern</translation>
+    </message>
+</context>
+<context>
     <name>Kernel</name>
     <message>
         <source>%1 has no file yet.</source>
@@ -13294,6 +13493,18 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
         <source>Zoom &amp;window</source>
         <translation>Zoom &amp;Fenster</translation>
     </message>
+    <message>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
 </context>
 <context>
     <name>Panels</name>
@@ -14625,10 +14836,6 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
         <translation>öffnet ein beschädigtes IN, soweit es heil ist, und sagt auf der Standardfehlerausgabe, was weggelassen wurde; OUT muss eine andere Datei sein</translation>
     </message>
     <message>
-        <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation>gibt eine Zeile JSON aus: input, output und von Bildern complete, drawn, invisible, inPart und notDrawn (eine Zahl für jeden Typ) und cutShort; mit --layout all das für jede der Seiten, mit layout und output; mit --recover ebenso, was weggelassen, ausgebessert und hinzugefügt wurde</translation>
-    </message>
-    <message>
         <source>writes a drawing as DXF, PNG, SVG or PDF</source>
         <translation>schreibt eine Zeichnung als DXF, PNG, SVG oder PDF</translation>
     </message>
@@ -14703,10 +14910,6 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     <message>
         <source>--check and --test do not go together</source>
         <translation>--check und --test gehen nicht zusammen</translation>
-    </message>
-    <message>
-        <source>Kinds of findings:</source>
-        <translation>Arten von Befunden:</translation>
     </message>
     <message>
         <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
@@ -15003,6 +15206,490 @@ Daraus werden Dokumente gemacht, und scripts/demand vergleicht es mit dem, was P
     <message>
         <source>one process for all</source>
         <translation>ein Prozess für alle</translation>
+    </message>
+    <message>
+        <source>%1 asks for points or entities: play a recorded session with ortakit run</source>
+        <translation>%1 fragt nach Punkten oder Objekten: spielen Sie eine aufgezeichnete Sitzung mit ortakit run ab</translation>
+    </message>
+    <message>
+        <source>%1 needs a drawing</source>
+        <translation>%1 braucht eine Zeichnung</translation>
+    </message>
+    <message>
+        <source>--out and --in-place do not go together</source>
+        <translation>--out und --in-place gehen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>%1 changes drawings: say where they go, --out DIR or --in-place</source>
+        <translation>%1 ändert Zeichnungen: sagen Sie, wohin sie gehen, --out DIR oder --in-place</translation>
+    </message>
+    <message>
+        <source>%1 works on no selection</source>
+        <translation>%1 arbeitet auf keiner Auswahl</translation>
+    </message>
+    <message>
+        <source>of several drawings each has its own file: put {name} into %1</source>
+        <translation>von mehreren Zeichnungen hat jede ihre eigene Datei: setzen Sie {name} in %1</translation>
+    </message>
+    <message>
+        <source>%1 needs a file to write: --set %2=PATH</source>
+        <translation>%1 braucht eine zu schreibende Datei: --set %2=PATH</translation>
+    </message>
+    <message>
+        <source>%1 has no button %2%3; it has %4</source>
+        <translation>%1 hat keine Schaltfläche %2%3; es hat %4</translation>
+    </message>
+    <message>
+        <source>%1 has no key %2%3; it has %4</source>
+        <translation>%1 hat keinen Schlüssel %2%3; es hat %4</translation>
+    </message>
+    <message>
+        <source>the file to write; {name} stands for the drawing&apos;s name</source>
+        <translation>die zu schreibende Datei; {name} steht für den Namen der Zeichnung</translation>
+    </message>
+    <message>
+        <source>the file to read</source>
+        <translation>die zu lesende Datei</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>ja oder nein (yes, no)</translation>
+    </message>
+    <message>
+        <source>yes or no, one of its group</source>
+        <translation>ja oder nein (yes, no), eines seiner Gruppe</translation>
+    </message>
+    <message>
+        <source>one of a list</source>
+        <translation>eines aus einer Liste</translation>
+    </message>
+    <message>
+        <source>one of: %1</source>
+        <translation>eines von: %1</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a number, %1 or more</source>
+        <translation>eine Zahl, %1 oder mehr</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a colour&apos;s number, 0 to 256</source>
+        <translation>eine Farbnummer, 0 bis 256</translation>
+    </message>
+    <message>
+        <source>rows by the texts of their first column with ^ between; * for all</source>
+        <translation>Zeilen nach dem Text ihrer ersten Spalte mit ^ dazwischen; * für alle</translation>
+    </message>
+    <message>
+        <source>a file or folder</source>
+        <translation>eine Datei oder ein Ordner</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source> (default: %1)</source>
+        <translation> (Vorgabe: %1)</translation>
+    </message>
+    <message>
+        <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
+        <translation>--select nimmt all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] oder eine Filterliste, nicht &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>makes one paragraph of single-line texts</source>
+        <translation>macht aus einzeiligen Texten einen Absatztext</translation>
+    </message>
+    <message>
+        <source>writes texts in capitals, small letters or as titles</source>
+        <translation>schreibt Texte in Großbuchstaben, Kleinbuchstaben oder wie Titel</translation>
+    </message>
+    <message>
+        <source>writes texts of attributes to a table in a text file</source>
+        <translation>schreibt Texte von Attributen in eine Tabelle in einer Textdatei</translation>
+    </message>
+    <message>
+        <source>counts the blocks of the drawing, for a text file</source>
+        <translation>zählt die Blöcke der Zeichnung, für eine Textdatei</translation>
+    </message>
+    <message>
+        <source>With --press exporttable the table is drawn instead; its upper left corner and the height of its texts are answers: --answer 0,0 --answer 2.5</source>
+        <translation>Mit --press exporttable wird stattdessen die Tabelle gezeichnet; ihre linke obere Ecke und die Höhe ihrer Texte sind Antworten: --answer 0,0 --answer 2.5</translation>
+    </message>
+    <message>
+        <source>takes texts of attributes from a table in a text file</source>
+        <translation>nimmt Texte von Attributen aus einer Tabelle in einer Textdatei</translation>
+    </message>
+    <message>
+        <source>All rows of the table are taken unless attributes names some. With --press btreplace, txreplace takes the place of txsearch in them first.</source>
+        <translation>Alle Zeilen der Tabelle werden genommen, außer attributes nennt einige. Mit --press btreplace tritt darin zuerst txreplace an die Stelle von txsearch.</translation>
+    </message>
+    <message>
+        <source>writes numbers into texts in the order of their places</source>
+        <translation>schreibt Nummern in Texte, in der Reihenfolge ihrer Plätze</translation>
+    </message>
+    <message>
+        <source>For the orders by points the points are answers: --answer 0,0</source>
+        <translation>Für die Reihenfolgen nach Punkten sind die Punkte Antworten: --answer 0,0</translation>
+    </message>
+    <message>
+        <source>replaces references to blocks by another block of the drawing</source>
+        <translation>ersetzt Referenzen auf Blöcke durch einen anderen Block der Zeichnung</translation>
+    </message>
+    <message>
+        <source>replaces references to blocks by a drawing file</source>
+        <translation>ersetzt Referenzen auf Blöcke durch eine Zeichnungsdatei</translation>
+    </message>
+    <message>
+        <source>directory is the folder of the file, blockstablerep its name there.</source>
+        <translation>directory ist der Ordner der Datei, blockstablerep ihr Name dort.</translation>
+    </message>
+    <message>
+        <source>draws slots, rectangles or circles around texts</source>
+        <translation>zeichnet Langlöcher, Rechtecke oder Kreise um Texte</translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
+        <translation>Texte, die einen Rahmen haben, bekommen an seiner Stelle einen anderen; --answer No lässt sie unverändert.</translation>
+    </message>
+    <message>
+        <source>hides what lies behind texts</source>
+        <translation>verdeckt, was hinter Texten liegt</translation>
+    </message>
+    <message>
+        <source>writes dimension styles of the drawing to a file</source>
+        <translation>schreibt Bemaßungsstile der Zeichnung in eine Datei</translation>
+    </message>
+    <message>
+        <source>All styles are written unless lststyles names some.</source>
+        <translation>Alle Stile werden geschrieben, außer lststyles nennt einige.</translation>
+    </message>
+    <message>
+        <source>brings dimension styles from a file into the drawing</source>
+        <translation>holt Bemaßungsstile aus einer Datei in die Zeichnung</translation>
+    </message>
+    <message>
+        <source>All styles of the file are taken unless lststyles names some, by the first words of their names.</source>
+        <translation>Alle Stile der Datei werden genommen, außer lststyles nennt einige, nach den ersten Wörtern ihrer Namen.</translation>
+    </message>
+    <message>
+        <source>puts entities over each other in the order of their colours</source>
+        <translation>legt Objekte in der Reihenfolge ihrer Farben übereinander</translation>
+    </message>
+    <message>
+        <source>Steps are taken in the order in which they are given: --set lstcolors=&quot;5 Blue&quot; --press tofront puts blue on top.</source>
+        <translation>Schritte werden in der Reihenfolge getan, in der sie angegeben sind: --set lstcolors=&quot;5 Blue&quot; --press tofront legt Blau nach oben.</translation>
+    </message>
+    <message>
+        <source>writes a problem report with what the program and the drawing are</source>
+        <translation>schreibt einen Problembericht mit Angaben zu Programm und Zeichnung</translation>
+    </message>
+    <message>
+        <source>writes system variables to a script that sets them again</source>
+        <translation>schreibt Systemvariablen in ein Skript, das sie wieder setzt</translation>
+    </message>
+    <message>
+        <source>changes the paths of references, images, fonts and remote texts</source>
+        <translation>ändert die Pfade von Referenzen, Bildern, Schriften und entfernten Texten</translation>
+    </message>
+    <message>
+        <source>All paths are meant unless lstfiles names some. --press btreplace puts txreplace in the place of txsearch in them.</source>
+        <translation>Alle Pfade sind gemeint, außer lstfiles nennt einige. --press btreplace setzt darin txreplace an die Stelle von txsearch.</translation>
+    </message>
+    <message>
+        <source>changes and removes hyperlinks of entities</source>
+        <translation>ändert und entfernt Hyperlinks von Objekten</translation>
+    </message>
+    <message>
+        <source>All links are meant unless tableurl names some, by their handles. --press btnreplace puts txreplace in the place of txsearch in them, --press btnremoveurl takes them away.</source>
+        <translation>Alle Links sind gemeint, außer tableurl nennt einige, nach ihren Referenznummern. --press btnreplace setzt darin txreplace an die Stelle von txsearch, --press btnremoveurl nimmt sie weg.</translation>
+    </message>
+    <message>
+        <source>cuts a line open and draws a break symbol in the gap</source>
+        <translation>schneidet eine Linie auf und zeichnet ein Bruchsymbol in die Lücke</translation>
+    </message>
+    <message>
+        <source>edits the short names that are typed in place of commands</source>
+        <translation>bearbeitet die Kürzel, die anstelle von Befehlen eingegeben werden</translation>
+    </message>
+    <message>
+        <source>shows the functions of Lisp files</source>
+        <translation>zeigt die Funktionen von Lisp-Dateien</translation>
+    </message>
+    <message>
+        <source>makes a linetype of a drawn pattern</source>
+        <translation>macht aus einem gezeichneten Muster einen Linientyp</translation>
+    </message>
+    <message>
+        <source>makes a shape of drawn lines and arcs</source>
+        <translation>macht aus gezeichneten Linien und Bögen ein Symbol</translation>
+    </message>
+    <message>
+        <source>makes one drawing of the sheets of several</source>
+        <translation>macht aus den Blättern mehrerer Zeichnungen eine Zeichnung</translation>
+    </message>
+    <message>
+        <source>sets up a sheet: title block, viewports, alignment and scale</source>
+        <translation>richtet ein Blatt ein: Schriftfeld, Ansichtsfenster, Ausrichtung und Maßstab</translation>
+    </message>
+    <message>
+        <source>fills a closed area with copies of a pattern</source>
+        <translation>füllt eine geschlossene Fläche mit Kopien eines Musters</translation>
+    </message>
+    <message>
+        <source>inserts a block of the drawing or of another drawing file</source>
+        <translation>fügt einen Block der Zeichnung oder einer anderen Zeichnungsdatei ein</translation>
+    </message>
+    <message>
+        <source>shows and sets the time that was worked on drawings</source>
+        <translation>zeigt und setzt die Zeit, in der an Zeichnungen gearbeitet wurde</translation>
+    </message>
+    <message>
+        <source>--to and --out go together</source>
+        <translation>--to und --out gehören zusammen</translation>
+    </message>
+    <message>
+        <source>convert needs drawings</source>
+        <translation>convert braucht Zeichnungen</translation>
+    </message>
+    <message>
+        <source>-j goes with --to and --out</source>
+        <translation>-j gehört zu --to und --out</translation>
+    </message>
+    <message>
+        <source>Many drawings</source>
+        <translation>Viele Zeichnungen</translation>
+    </message>
+    <message>
+        <source>With --to and --out all words are drawings, and each becomes a file of its name in the folder. What became of them is told on standard output, a line each. The time limit is that of each.</source>
+        <translation>Mit --to und --out sind alle Wörter Zeichnungen, und jede wird zu einer Datei ihres Namens in dem Ordner. Was aus ihnen wurde, wird auf der Standardausgabe gesagt, je eine Zeile. Die Zeitgrenze gilt für jede.</translation>
+    </message>
+    <message>
+        <source>what they become</source>
+        <translation>was sie werden</translation>
+    </message>
+    <message>
+        <source>where they go</source>
+        <translation>wohin sie gehen</translation>
+    </message>
+    <message>
+        <source>print one line of JSON: of each drawing file, status, messages and out; of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
+        <translation>gibt eine Zeile JSON aus: von jeder Zeichnung file, status, messages und out; von Bildern complete, drawn, invisible, inPart und notDrawn (eine Zahl für jeden Typ) und cutShort; mit --layout all das für jede der Seiten, mit layout und output; mit --recover ebenso, was weggelassen, ausgebessert und hinzugefügt wurde</translation>
+    </message>
+    <message>
+        <source>there is nothing called %1 to ignore%2</source>
+        <translation>es gibt nichts namens %1, das nicht zählen könnte%2</translation>
+    </message>
+    <message>
+        <source>diff needs two drawings</source>
+        <translation>diff braucht zwei Zeichnungen</translation>
+    </message>
+    <message>
+        <source>take numbers and coordinates for the same that are no farther apart</source>
+        <translation>hält Zahlen und Koordinaten für gleich, die nicht weiter auseinander sind</translation>
+    </message>
+    <message>
+        <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
+        <translation>was zusätzlich nicht zählt, durch Kommas getrennt: version, view, header, classes, objects, xdata, order. times, handles, identity, extents und reactors zählen ohnehin nicht; &quot;none&quot; davor lässt sie zählen</translation>
+    </message>
+    <message>
+        <source>what makes entities the same one: their handles, or what is in them</source>
+        <translation>was Objekte zu denselben macht: ihre Referenznummern oder was in ihnen ist</translation>
+    </message>
+    <message>
+        <source>auto: by handle, unless far more entities are the same by content</source>
+        <translation>auto: nach Referenznummer, außer weit mehr Objekte sind nach ihrem Inhalt dieselben</translation>
+    </message>
+    <message>
+        <source>tell the sums alone</source>
+        <translation>sagt nur die Summen</translation>
+    </message>
+    <message>
+        <source>draw both over each other into a png, svg or pdf file: what is gone red and dashed, what is new green and thick, what has changed orange and dashed as it was, blue and thick as it is</source>
+        <translation>zeichnet beide übereinander in eine png-, svg- oder pdf-Datei: Verschwundenes rot und gestrichelt, Neues grün und dick, Geändertes orange und gestrichelt, wie es war, blau und dick, wie es ist</translation>
+    </message>
+    <message>
+        <source>which sheet the picture shows; without it, model space</source>
+        <translation>welches Blatt das Bild zeigt; ohne Angabe den Modellbereich</translation>
+    </message>
+    <message>
+        <source>write the picture although another program has it open</source>
+        <translation>schreibt das Bild, obwohl ein anderes Programm es geöffnet hat</translation>
+    </message>
+    <message>
+        <source>the most it may take</source>
+        <translation>so lange darf es höchstens dauern</translation>
+    </message>
+    <message>
+        <source>print the differences as one line of JSON</source>
+        <translation>gibt die Unterschiede als eine Zeile JSON aus</translation>
+    </message>
+    <message>
+        <source>tells what differs in two drawings</source>
+        <translation>sagt, worin sich zwei Zeichnungen unterscheiden</translation>
+    </message>
+    <message>
+        <source>a drawing as it was</source>
+        <translation>eine Zeichnung, wie sie war</translation>
+    </message>
+    <message>
+        <source>the drawing as it is</source>
+        <translation>die Zeichnung, wie sie ist</translation>
+    </message>
+    <message>
+        <source>Prints a line for each variable, layer, style, block, entity and object that differs: + for what B has alone, - for what A has alone, ~ for what has other values in B, with these. Sums stand behind =, by type and by layer. The files&apos; forms and versions do not matter, nor how numbers are spelt.
+
+Ends with status 0 when nothing differs, 1 when something does, 2 and more when it could not be found out.
+
+With the seven words that git hands to a program for differences it compares these two files and ends with 0 either way: git config diff.dxf.command &quot;ortakit diff&quot;.</source>
+        <translation>Gibt eine Zeile für jede Variable, jeden Layer, Stil, Block, jede Entität und jedes Objekt aus, das sich unterscheidet: + für das, was nur B hat, - für das, was nur A hat, ~ für das, was in B andere Werte hat, mit diesen. Summen stehen hinter =, nach Typ und nach Layer. Form und Version der Dateien zählen nicht, ebenso wenig die Schreibweise von Zahlen.
+
+Endet mit Status 0, wenn sich nichts unterscheidet, 1, wenn sich etwas unterscheidet, 2 und mehr, wenn es nicht festgestellt werden konnte.
+
+Mit den sieben Wörtern, die git einem Programm für Unterschiede gibt, vergleicht es diese zwei Dateien und endet so oder so mit 0: git config diff.dxf.command &quot;ortakit diff&quot;.</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Beispiel:</translation>
+    </message>
+    <message>
+        <source>%1 needs at least one drawing</source>
+        <translation>%1 braucht mindestens eine Zeichnung</translation>
+    </message>
+    <message>
+        <source>a drawing to look at</source>
+        <translation>eine anzusehende Zeichnung</translation>
+    </message>
+    <message>
+        <source>--entities goes neither with --json nor with -j</source>
+        <translation>--entities geht weder mit --json noch mit -j</translation>
+    </message>
+    <message>
+        <source>--fix and --out go together</source>
+        <translation>--fix und --out gehören zusammen</translation>
+    </message>
+    <message>
+        <source>tells what is wrong with drawings</source>
+        <translation>sagt, was an Zeichnungen falsch ist</translation>
+    </message>
+    <message>
+        <source>Looks for all that opening with --recover would mend, add or drop, and the command AUDIT would find, and changes nothing. A hundred faults of a drawing are told; with --json all are.
+
+Ends with status 0 when all drawings are sound or were mended, 1 when faults were found, 4 when files could not be read or written, 3 when that is so for some of several.</source>
+        <translation>Sucht alles, was das Öffnen mit --recover ausbessern, hinzufügen oder weglassen und was der Befehl AUDIT finden würde, und ändert nichts. Hundert Fehler einer Zeichnung werden gesagt; mit --json alle.
+
+Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1, wenn Fehler gefunden wurden, 4, wenn Dateien nicht gelesen oder geschrieben werden konnten, 3, wenn das für einige von mehreren gilt.</translation>
+    </message>
+    <message>
+        <source>write the drawings with what was found mended, sound ones too</source>
+        <translation>schreibt die Zeichnungen mit ausgebesserten Fehlern, auch heile</translation>
+    </message>
+    <message>
+        <source>the folder to write them into, under their names</source>
+        <translation>der Ordner, in den sie unter ihren Namen geschrieben werden</translation>
+    </message>
+    <message>
+        <source>write files although another program has them open</source>
+        <translation>schreibt Dateien, obwohl ein anderes Programm sie geöffnet hat</translation>
+    </message>
+    <message>
+        <source>the most that each drawing may take</source>
+        <translation>so lange darf jede Zeichnung höchstens dauern</translation>
+    </message>
+    <message>
+        <source>print one line of JSON: for each drawing opens, faults and found, as convert has it for --recover, and out</source>
+        <translation>gibt eine Zeile JSON aus: für jede Zeichnung opens, faults und found, wie convert es bei --recover hat, und out</translation>
+    </message>
+    <message>
+        <source>tells what drawings are and hold</source>
+        <translation>sagt, was Zeichnungen sind und enthalten</translation>
+    </message>
+    <message>
+        <source>Tells of each drawing its version and form, who saved it when, units, extents as the file says and as measured, how many entities of which type, layers, blocks, layouts with their paper, styles, the files and fonts that it names and whether they are found, and the state of its handles. Lists longer than twelve names are cut short; with --json they are whole.</source>
+        <translation>Sagt von jeder Zeichnung Version und Form, wer sie wann gespeichert hat, Einheiten, Ausdehnung nach der Datei und gemessen, wie viele Objekte von welchem Typ, Layer, Blöcke, Layouts mit ihrem Papier, Stile, die Dateien und Schriften, die sie nennt, und ob sie gefunden werden, und den Zustand ihrer Referenznummern. Listen mit mehr als zwölf Namen werden gekürzt; mit --json sind sie vollständig.</translation>
+    </message>
+    <message>
+        <source>print in place of that a line for each variable, table entry, block, entity and object, in the file&apos;s order, with all its values: git config diff.dxf.textconv &quot;ortakit info --entities&quot; shows differences of these</source>
+        <translation>gibt stattdessen eine Zeile für jede Variable, jeden Tabelleneintrag, Block, jede Entität und jedes Objekt aus, in der Reihenfolge der Datei, mit allen Werten: git config diff.dxf.textconv &quot;ortakit info --entities&quot; zeigt Unterschiede davon</translation>
+    </message>
+    <message>
+        <source>print all of it as one line of JSON</source>
+        <translation>gibt alles als eine Zeile JSON aus</translation>
+    </message>
+    <message>
+        <source>Kinds of findings</source>
+        <translation>Arten von Befunden</translation>
+    </message>
+    <message>
+        <source>uses takes man DIR, completions DIR or document</source>
+        <translation>uses nimmt man DIR, completions DIR oder document</translation>
+    </message>
+    <message>
+        <source>writes manual pages, completions and a document about the commands</source>
+        <translation>schreibt Handbuchseiten, Ergänzungen und ein Dokument über die Befehle</translation>
+    </message>
+    <message>
+        <source>Writes ortakit(1) and a page for each command to a folder, the completions of bash, zsh and fish to their places below a folder, or the sections of docs/cli.md to standard output.</source>
+        <translation>Schreibt ortakit(1) und eine Seite für jeden Befehl in einen Ordner, die Ergänzungen für bash, zsh und fish an ihre Plätze unter einem Ordner, oder die Abschnitte von docs/cli.md auf die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
+        <translation>--set nimmt KEY=VALUE, nicht &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
+        <translation>worauf es arbeitet: all oder Typen von Objekten wie TEXT,MTEXT, mit &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; und &quot;in color NUMBER&quot; dahinter, oder eine Filterliste, wie ssget sie nimmt: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Was das Werkzeug nicht brauchen kann, wird ausgelassen</translation>
+    </message>
+    <message>
+        <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>
+        <translation>setzt den Wert in ein Feld des Dialogs; darf mehrfach stehen. {name} steht für den Namen der Zeichnung ohne Ordner und Endung</translation>
+    </message>
+    <message>
+        <source>begin with the values of a state file that the dialog saved</source>
+        <translation>beginnt mit den Werten einer Zustandsdatei, die der Dialog gespeichert hat</translation>
+    </message>
+    <message>
+        <source>press a button of the dialog behind the values that were set before; may be given again</source>
+        <translation>drückt eine Schaltfläche des Dialogs, nach den davor gesetzten Werten; darf mehrfach stehen</translation>
+    </message>
+    <message>
+        <source>answer the next prompt with this: a keyword, a number, a point as 10,20; may be given again</source>
+        <translation>beantwortet damit die nächste Eingabeaufforderung: ein Optionswort, eine Zahl, ein Punkt wie 10,20; darf mehrfach stehen</translation>
+    </message>
+    <message>
+        <source>write each drawing there, under its own name</source>
+        <translation>schreibt jede Zeichnung dorthin, unter ihrem eigenen Namen</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
+        <translation>speichert jede geänderte Zeichnung, wo sie ist, mit einer Kopie der alten, wo SETBACKUPFOLDER einen Ordner dafür genannt hat</translation>
+    </message>
+    <message>
+        <source>the most it may take with one drawing</source>
+        <translation>so lange darf es mit einer Zeichnung höchstens dauern</translation>
+    </message>
+    <message>
+        <source>This tool asks for points or entities of the drawing, or works on none: it is for the window, and for recorded sessions, which ortakit run plays over drawings.</source>
+        <translation>Dieses Werkzeug fragt nach Punkten oder Objekten der Zeichnung oder arbeitet auf keiner: es ist für das Fenster und für aufgezeichnete Sitzungen, die ortakit run über Zeichnungen abspielt.</translation>
+    </message>
+    <message>
+        <source>Runs the tool over each drawing with its dialog filled in as --set says, and tells what it did. All of the dialog&apos;s checks hold, and what it complains about is an error of that drawing. Fields that are not set are as the dialog opens with them, whatever was chosen last. The drawings themselves stay as they are unless --in-place is given. It works in the space that is current in the drawing.</source>
+        <translation>Führt das Werkzeug über jede Zeichnung aus, den Dialog ausgefüllt, wie --set es sagt, und sagt, was es tat. Alle Prüfungen des Dialogs gelten, und was er beanstandet, ist ein Fehler dieser Zeichnung. Nicht gesetzte Felder sind, wie der Dialog sich öffnet, was auch immer zuletzt gewählt war. Die Zeichnungen selbst bleiben, wie sie sind, außer mit --in-place. Es arbeitet in dem Bereich, der in der Zeichnung aktuell ist.</translation>
+    </message>
+    <message>
+        <source>Keys of --set</source>
+        <translation>Schlüssel von --set</translation>
+    </message>
+    <message>
+        <source>what it works on</source>
+        <translation>worauf es arbeitet</translation>
     </message>
 </context>
 <context>
@@ -16439,6 +17126,33 @@ Diesem Link der Hilfeseite wird nicht gefolgt: %1
     <message>
         <source>there is no folder %1</source>
         <translation>es gibt keinen Ordner %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::view::DifferencePicture</name>
+    <message>
+        <source>gone: %n</source>
+        <translation>verschwunden: %n</translation>
+    </message>
+    <message>
+        <source>new: %n</source>
+        <translation>neu: %n</translation>
+    </message>
+    <message>
+        <source>changed, as it was: %n</source>
+        <translation>geändert, wie es war: %n</translation>
+    </message>
+    <message>
+        <source>changed, as it is: %n</source>
+        <translation>geändert, wie es ist: %n</translation>
+    </message>
+    <message>
+        <source>the same in both</source>
+        <translation>in beiden gleich</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>das Bild ist zu groß</translation>
     </message>
 </context>
 <context>

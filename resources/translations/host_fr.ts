@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>interrupted: %1 of %2 were not worked on to the end</source>
-        <translation>interrompu : le travail sur %1 de %2 n&apos;est pas allé à son terme</translation>
+        <translation>interrompu&#xa0;: le travail sur %1 de %2 n&apos;est pas allé à son terme</translation>
     </message>
     <message>
         <source>done</source>
@@ -52,11 +52,51 @@
     </message>
     <message>
         <source>%1: the folder cannot be made</source>
-        <translation>%1 : le dossier ne peut pas être créé</translation>
+        <translation>%1&#xa0;: le dossier ne peut pas être créé</translation>
     </message>
     <message>
         <source>two of the drawings are named %1: their results would have the same name</source>
-        <translation>deux des dessins s&apos;appellent %1 : leurs résultats auraient le même nom</translation>
+        <translation>deux des dessins s&apos;appellent %1&#xa0;: leurs résultats auraient le même nom</translation>
+    </message>
+    <message>
+        <source>%1: the extension must be dxf, %2</source>
+        <translation>%1&#xa0;: l&apos;extension doit être dxf, %2</translation>
+    </message>
+    <message>
+        <source>--binary is for DXF files</source>
+        <translation>--binary est pour les fichiers DXF</translation>
+    </message>
+    <message>
+        <source>... and %1 more lines</source>
+        <translation>... et %1 lignes de plus</translation>
+    </message>
+    <message>
+        <source>the dialog of %1 does not open</source>
+        <translation>la boîte de dialogue de %1 ne s&apos;ouvre pas</translation>
+    </message>
+    <message>
+        <source>%1: the file cannot be read</source>
+        <translation>%1&#xa0;: le fichier ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>the tool asks &quot;%1&quot;; see --answer</source>
+        <translation>l&apos;outil demande &quot;%1&quot;&#xa0;; voir --answer</translation>
+    </message>
+    <message>
+        <source>the tool asks for a file; see --set %1=PATH</source>
+        <translation>l&apos;outil demande un fichier&#xa0;; voir --set %1=PATH</translation>
+    </message>
+    <message>
+        <source>the dialog does not go on with these values</source>
+        <translation>la boîte de dialogue n&apos;accepte pas ces valeurs</translation>
+    </message>
+    <message>
+        <source>there is nothing to choose in %1</source>
+        <translation>il n&apos;y a rien à choisir dans %1</translation>
+    </message>
+    <message>
+        <source>it does not take &quot;%1&quot;</source>
+        <translation>il n&apos;accepte pas &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -106,19 +146,19 @@
     <name>Commands</name>
     <message>
         <source>Specify angle vertex: </source>
-        <translation>Spécifiez le sommet de l&apos;angle : </translation>
+        <translation>Spécifiez le sommet de l&apos;angle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first angle endpoint: </source>
-        <translation>Spécifiez la première extrémité de l&apos;angle : </translation>
+        <translation>Spécifiez la première extrémité de l&apos;angle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second angle endpoint: </source>
-        <translation>Spécifiez la seconde extrémité de l&apos;angle : </translation>
+        <translation>Spécifiez la seconde extrémité de l&apos;angle&#xa0;: </translation>
     </message>
     <message>
         <source>Select second line: </source>
-        <translation>Sélectionnez la seconde ligne : </translation>
+        <translation>Sélectionnez la seconde ligne&#xa0;: </translation>
     </message>
     <message>
         <source>Lines are parallel.</source>
@@ -130,7 +170,7 @@
     </message>
     <message>
         <source>Select arc, circle, line, or &lt;specify vertex&gt;: </source>
-        <translation>Sélectionnez un arc, un cercle ou une ligne, ou &lt;spécifier le sommet&gt; : </translation>
+        <translation>Sélectionnez un arc, un cercle ou une ligne, ou &lt;spécifier le sommet&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not an arc, circle or line.</source>
@@ -138,19 +178,19 @@
     </message>
     <message>
         <source>Enter text location (or press ENTER): </source>
-        <translation>Entrez l&apos;emplacement du texte (ou appuyez sur ENTRÉE) : </translation>
+        <translation>Entrez l&apos;emplacement du texte (ou appuyez sur ENTRÉE)&#xa0;: </translation>
     </message>
     <message>
         <source>Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: </source>
-        <translation>Spécifiez l&apos;emplacement de l&apos;arc de cote ou [Mtext/Text/Angle/Quadrant] : </translation>
+        <translation>Spécifiez l&apos;emplacement de l&apos;arc de cote ou [Mtext/Text/Angle/Quadrant]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify quadrant: </source>
-        <translation>Spécifiez le quadrant : </translation>
+        <translation>Spécifiez le quadrant&#xa0;: </translation>
     </message>
     <message>
         <source>Select arc or polyline arc segment: </source>
-        <translation>Sélectionnez un arc ou un segment d&apos;arc de polyligne : </translation>
+        <translation>Sélectionnez un arc ou un segment d&apos;arc de polyligne&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not an arc or polyline arc segment.</source>
@@ -158,11 +198,11 @@
     </message>
     <message>
         <source>Specify first point for arc length dimension: </source>
-        <translation>Spécifiez le premier point de la cote de longueur d&apos;arc : </translation>
+        <translation>Spécifiez le premier point de la cote de longueur d&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point for arc length dimension: </source>
-        <translation>Spécifiez le second point de la cote de longueur d&apos;arc : </translation>
+        <translation>Spécifiez le second point de la cote de longueur d&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>The two points are one.</source>
@@ -170,25 +210,25 @@
     </message>
     <message>
         <source>Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: </source>
-        <translation>Spécifiez l&apos;emplacement de la cote de longueur d&apos;arc ou [Mtext/Text/Angle/Partial%1] : </translation>
+        <translation>Spécifiez l&apos;emplacement de la cote de longueur d&apos;arc ou [Mtext/Text/Angle/Partial%1]&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no dimensions of arc lengths: they come with R2004.</source>
-        <translation>Un dessin de cette version n&apos;a pas de cotes de longueur d&apos;arc : elles existent depuis R2004.</translation>
+        <translation>Un dessin de cette version n&apos;a pas de cotes de longueur d&apos;arc&#xa0;: elles existent depuis R2004.</translation>
     </message>
     <message>
         <source>
 Current attribute modes:  </source>
         <translation>
-Modes d&apos;attribut courants :  </translation>
+Modes d&apos;attribut courants&#xa0;:  </translation>
     </message>
     <message>
         <source>Enter an option to change [Invisible/Constant/Verify/Preset] &lt;done&gt;: </source>
-        <translation>Entrez une option à modifier [Invisible/Constant/Verify/Preset] &lt;terminé&gt; : </translation>
+        <translation>Entrez une option à modifier [Invisible/Constant/Verify/Preset] &lt;terminé&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter attribute tag name: </source>
-        <translation>Entrez l&apos;étiquette de l&apos;attribut : </translation>
+        <translation>Entrez l&apos;étiquette de l&apos;attribut&#xa0;: </translation>
     </message>
     <message>
         <source>A tag is needed.</source>
@@ -200,15 +240,15 @@ Modes d&apos;attribut courants :  </translation>
     </message>
     <message>
         <source>Enter attribute prompt: </source>
-        <translation>Entrez l&apos;invite de l&apos;attribut : </translation>
+        <translation>Entrez l&apos;invite de l&apos;attribut&#xa0;: </translation>
     </message>
     <message>
         <source>Enter attribute value: </source>
-        <translation>Entrez la valeur de l&apos;attribut : </translation>
+        <translation>Entrez la valeur de l&apos;attribut&#xa0;: </translation>
     </message>
     <message>
         <source>Enter default attribute value: </source>
-        <translation>Entrez la valeur par défaut de l&apos;attribut : </translation>
+        <translation>Entrez la valeur par défaut de l&apos;attribut&#xa0;: </translation>
     </message>
     <message>
         <source>Enter attribute tag name</source>
@@ -228,7 +268,7 @@ Modes d&apos;attribut courants :  </translation>
     </message>
     <message>
         <source>Select an annotation object: </source>
-        <translation>Sélectionnez un objet d&apos;annotation : </translation>
+        <translation>Sélectionnez un objet d&apos;annotation&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a text.</source>
@@ -236,11 +276,11 @@ Modes d&apos;attribut courants :  </translation>
     </message>
     <message>
         <source>Select continued dimension: </source>
-        <translation>Sélectionnez la cote à continuer : </translation>
+        <translation>Sélectionnez la cote à continuer&#xa0;: </translation>
     </message>
     <message>
         <source>Select base dimension: </source>
-        <translation>Sélectionnez la cote de base : </translation>
+        <translation>Sélectionnez la cote de base&#xa0;: </translation>
     </message>
     <message>
         <source>Linear, ordinate, or angular associative dimension required.</source>
@@ -254,19 +294,19 @@ Toutes les cotes de la commande sont annulées.</translation>
     </message>
     <message>
         <source>Specify feature location or [Select/Undo] &lt;Select&gt;: </source>
-        <translation>Spécifiez l&apos;emplacement de l&apos;élément ou [Select/Undo] &lt;Select&gt; : </translation>
+        <translation>Spécifiez l&apos;emplacement de l&apos;élément ou [Select/Undo] &lt;Select&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second extension line origin or [Select/Undo] &lt;Select&gt;: </source>
-        <translation>Spécifiez l&apos;origine de la seconde ligne d&apos;attache ou [Select/Undo] &lt;Select&gt; : </translation>
+        <translation>Spécifiez l&apos;origine de la seconde ligne d&apos;attache ou [Select/Undo] &lt;Select&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a second extension line origin or [Select] &lt;Select&gt;: </source>
-        <translation>Spécifiez l&apos;origine d&apos;une seconde ligne d&apos;attache ou [Select] &lt;Select&gt; : </translation>
+        <translation>Spécifiez l&apos;origine d&apos;une seconde ligne d&apos;attache ou [Select] &lt;Select&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter obliquing angle (press ENTER for none): </source>
-        <translation>Entrez l&apos;angle d&apos;inclinaison (ENTRÉE pour aucun) : </translation>
+        <translation>Entrez l&apos;angle d&apos;inclinaison (ENTRÉE pour aucun)&#xa0;: </translation>
     </message>
     <message>
         <source>Unknown dimension variable &quot;%1&quot;.</source>
@@ -274,7 +314,7 @@ Toutes les cotes de la commande sont annulées.</translation>
     </message>
     <message>
         <source>Enter new value for dimension variable &lt;%1&gt;: </source>
-        <translation>Entrez la nouvelle valeur de la variable de cote &lt;%1&gt; : </translation>
+        <translation>Entrez la nouvelle valeur de la variable de cote &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>%1 does not take this value.</source>
@@ -282,23 +322,23 @@ Toutes les cotes de la commande sont annulées.</translation>
     </message>
     <message>
         <source>Enter dimension variable name to override: </source>
-        <translation>Entrez le nom de la variable de cote à remplacer : </translation>
+        <translation>Entrez le nom de la variable de cote à remplacer&#xa0;: </translation>
     </message>
     <message>
         <source>Enter type of dimension editing [Home/New/Rotate/Oblique] &lt;Home&gt;: </source>
-        <translation>Entrez le type d&apos;édition de cote [Home/New/Rotate/Oblique] &lt;Home&gt; : </translation>
+        <translation>Entrez le type d&apos;édition de cote [Home/New/Rotate/Oblique] &lt;Home&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;&lt;&gt;&gt;: </source>
-        <translation>Entrez le texte de la cote &lt;&lt;&gt;&gt; : </translation>
+        <translation>Entrez le texte de la cote &lt;&lt;&gt;&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify angle for dimension text: </source>
-        <translation>Spécifiez l&apos;angle du texte de la cote : </translation>
+        <translation>Spécifiez l&apos;angle du texte de la cote&#xa0;: </translation>
     </message>
     <message>
         <source>Select dimension: </source>
-        <translation>Sélectionnez une cote : </translation>
+        <translation>Sélectionnez une cote&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not a dimension.</source>
@@ -306,11 +346,11 @@ Toutes les cotes de la commande sont annulées.</translation>
     </message>
     <message>
         <source>Specify new location for dimension text or [Left/Right/Center/Home/Angle]: </source>
-        <translation>Spécifiez le nouvel emplacement du texte de la cote ou [Left/Right/Center/Home/Angle] : </translation>
+        <translation>Spécifiez le nouvel emplacement du texte de la cote ou [Left/Right/Center/Home/Angle]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter dimension variable name to override or [Clear overrides]: </source>
-        <translation>Entrez le nom de la variable de cote à remplacer ou [Clear overrides] : </translation>
+        <translation>Entrez le nom de la variable de cote à remplacer ou [Clear overrides]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new text style name</source>
@@ -318,7 +358,7 @@ Toutes les cotes de la commande sont annulées.</translation>
     </message>
     <message>
         <source>Dim: </source>
-        <translation>Cote : </translation>
+        <translation>Cote&#xa0;: </translation>
     </message>
     <message>
         <source>Unknown dimension subcommand &quot;%1&quot;.</source>
@@ -332,11 +372,11 @@ Il ne reste rien à annuler de ce qui a été fait ici.</translation>
     </message>
     <message>
         <source>Enter dimension style(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les styles de cote à lister &lt;*&gt; : </translation>
+        <translation>Entrez les styles de cote à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a dimension style name, [?] or &lt;select dimension&gt;: </source>
-        <translation>Entrez le nom d&apos;un style de cote, [?] ou &lt;sélectionner une cote&gt; : </translation>
+        <translation>Entrez le nom d&apos;un style de cote, [?] ou &lt;sélectionner une cote&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find dimension style &quot;%1&quot;.</source>
@@ -344,7 +384,7 @@ Il ne reste rien à annuler de ce qui a été fait ici.</translation>
     </message>
     <message>
         <source>Enter name for new dimension style or [?]: </source>
-        <translation>Entrez le nom du nouveau style de cote ou [?] : </translation>
+        <translation>Entrez le nom du nouveau style de cote ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name for a dimension style.</source>
@@ -352,31 +392,31 @@ Il ne reste rien à annuler de ce qui a été fait ici.</translation>
     </message>
     <message>
         <source>That name is already in use, redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation>Ce nom est déjà utilisé, le redéfinir ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Ce nom est déjà utilisé, le redéfinir&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Create annotative dimension style [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Créer un style de cote annotatif [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Créer un style de cote annotatif [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current dimension style: </source>
         <translation>
-Style de cote courant : </translation>
+Style de cote courant&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </source>
-        <translation>Entrez une option de style de cote [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt; : </translation>
+        <translation>Entrez une option de style de cote [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </source>
-        <translation>Spécifiez un point interne ou [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency] : </translation>
+        <translation>Spécifiez un point interne ou [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]&#xa0;: </translation>
     </message>
     <message>
         <source>
 Too many curves cross here: choose a boundary set.</source>
         <translation>
-Trop de courbes se croisent ici : choisissez un jeu de contours.</translation>
+Trop de courbes se croisent ici&#xa0;: choisissez un jeu de contours.</translation>
     </message>
     <message>
         <source>
@@ -392,41 +432,41 @@ Les objets ne forment pas de contour fermé.</translation>
     </message>
     <message>
         <source>Retain polyline boundary? [Yes/No] &lt;N&gt;: </source>
-        <translation>Conserver la polyligne du contour ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Conserver la polyligne du contour&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start point: </source>
-        <translation>Spécifiez le point de départ : </translation>
+        <translation>Spécifiez le point de départ&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo] &lt;Close&gt;: </source>
-        <translation>Spécifiez le point suivant ou [Close/Undo] &lt;Close&gt; : </translation>
+        <translation>Spécifiez le point suivant ou [Close/Undo] &lt;Close&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start point for new boundary or &lt;Accept&gt;: </source>
-        <translation>Spécifiez le point de départ d&apos;un nouveau contour ou &lt;accepter&gt; : </translation>
+        <translation>Spécifiez le point de départ d&apos;un nouveau contour ou &lt;accepter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select boundary to remove: </source>
-        <translation>Sélectionnez le contour à supprimer : </translation>
+        <translation>Sélectionnez le contour à supprimer&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current hatch pattern:  </source>
         <translation>
-Motif de hachures courant :  </translation>
+Motif de hachures courant&#xa0;:  </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Island detection/Object type] &lt;eXit&gt;: </source>
-        <translation>Entrez une option [Boundary set/Island detection/Object type] &lt;eXit&gt; : </translation>
+        <translation>Entrez une option [Boundary set/Island detection/Object type] &lt;eXit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter type of boundary object [Region/Polyline] &lt;%1&gt;: </source>
-        <translation>Entrez le type d&apos;objet de contour [Region/Polyline] &lt;%1&gt; : </translation>
+        <translation>Entrez le type d&apos;objet de contour [Region/Polyline] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify internal point or [Advanced options]: </source>
-        <translation>Spécifiez un point interne ou [Advanced options] : </translation>
+        <translation>Spécifiez un point interne ou [Advanced options]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -454,31 +494,31 @@ BOUNDARY a créé %1 polylignes</translation>
     </message>
     <message>
         <source>Enter pattern(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les motifs à lister &lt;*&gt; : </translation>
+        <translation>Entrez les motifs à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify angle for crosshatch lines &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle des lignes de hachures &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle des lignes de hachures &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify spacing between the lines &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;espacement des lignes &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;espacement des lignes &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Double hatch area? [Yes/No] &lt;%1&gt;: </source>
-        <translation>Hachurer la zone en double ? [Yes/No] &lt;%1&gt; : </translation>
+        <translation>Hachurer la zone en double&#xa0;? [Yes/No] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a scale for the pattern &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;échelle du motif &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;échelle du motif &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify an angle for the pattern &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle du motif &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle du motif &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new color or [. (for use current)] &lt;.&gt;: </source>
-        <translation>Entrez la nouvelle couleur ou [. (for use current)] &lt;.&gt; : </translation>
+        <translation>Entrez la nouvelle couleur ou [. (for use current)] &lt;.&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no colour.</source>
@@ -486,7 +526,7 @@ BOUNDARY a créé %1 polylignes</translation>
     </message>
     <message>
         <source>Specify new layer name or [. (for use current)] &lt;.&gt;: </source>
-        <translation>Spécifiez le nouveau nom de calque ou [. (for use current)] &lt;.&gt; : </translation>
+        <translation>Spécifiez le nouveau nom de calque ou [. (for use current)] &lt;.&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
@@ -494,7 +534,7 @@ BOUNDARY a créé %1 polylignes</translation>
     </message>
     <message>
         <source>Enter new transparency value (0-90) or [. (for use current)] &lt;.&gt;: </source>
-        <translation>Entrez la nouvelle valeur de transparence (0-90) ou [. (for use current)] &lt;.&gt; : </translation>
+        <translation>Entrez la nouvelle valeur de transparence (0-90) ou [. (for use current)] &lt;.&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a whole number from 0 to 90.</source>
@@ -502,19 +542,19 @@ BOUNDARY a créé %1 polylignes</translation>
     </message>
     <message>
         <source>Enter draw order [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;send behind boundary&gt;: </source>
-        <translation>Entrez l&apos;ordre de tracé [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;derrière le contour&gt; : </translation>
+        <translation>Entrez l&apos;ordre de tracé [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;derrière le contour&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>[Use current origin/Set new origin] &lt;Use current origin&gt;: </source>
-        <translation>[Use current origin/Set new origin] &lt;Use current origin&gt; : </translation>
+        <translation>[Use current origin/Set new origin] &lt;Use current origin&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point: </source>
-        <translation>Spécifiez un point : </translation>
+        <translation>Spécifiez un point&#xa0;: </translation>
     </message>
     <message>
         <source>Store as default origin? [Yes/No] &lt;N&gt;: </source>
-        <translation>Enregistrer comme origine par défaut ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Enregistrer comme origine par défaut&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Unknown hatch pattern &quot;%1&quot;.</source>
@@ -522,43 +562,43 @@ BOUNDARY a créé %1 polylignes</translation>
     </message>
     <message>
         <source>Enter a pattern name or [?/Solid/User defined] &lt;%1&gt;: </source>
-        <translation>Entrez un nom de motif ou [?/Solid/User defined] &lt;%1&gt; : </translation>
+        <translation>Entrez un nom de motif ou [?/Solid/User defined] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter hatching style [Ignore/Outer/Normal] &lt;%1&gt;: </source>
-        <translation>Entrez le style de hachures [Ignore/Outer/Normal] &lt;%1&gt; : </translation>
+        <translation>Entrez le style de hachures [Ignore/Outer/Normal] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify candidate set for boundary [New/Everything] &lt;Everything&gt;: </source>
-        <translation>Spécifiez le jeu de contours candidats [New/Everything] &lt;Everything&gt; : </translation>
+        <translation>Spécifiez le jeu de contours candidats [New/Everything] &lt;Everything&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Do you want island detection? [Yes/No] &lt;Y&gt;: </source>
-        <translation>Voulez-vous détecter les îlots ? [Yes/No] &lt;Y&gt; : </translation>
+        <translation>Voulez-vous détecter les îlots&#xa0;? [Yes/No] &lt;Y&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </source>
-        <translation>Entrez une option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt; : </translation>
+        <translation>Entrez une option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Retain derived boundaries? [Yes/No] &lt;N&gt;: </source>
-        <translation>Conserver les contours dérivés ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Conserver les contours dérivés&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Do you want associativity? [Yes/No] &lt;Y&gt;: </source>
-        <translation>Voulez-vous l&apos;associativité ? [Yes/No] &lt;Y&gt; : </translation>
+        <translation>Voulez-vous l&apos;associativité&#xa0;? [Yes/No] &lt;Y&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a boundary gap tolerance value &lt;%1&gt;: </source>
-        <translation>Spécifiez la tolérance d&apos;espacement du contour &lt;%1&gt; : </translation>
+        <translation>Spécifiez la tolérance d&apos;espacement du contour &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Create separate hatches? [Yes/No] &lt;N&gt;: </source>
-        <translation>Créer des hachures séparées ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Créer des hachures séparées&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Create annotative hatch [Yes/No] &lt;N&gt;: </source>
-        <translation>Créer des hachures annotatives [Yes/No] &lt;N&gt; : </translation>
+        <translation>Créer des hachures annotatives [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Annotative hatches are not made.</source>
@@ -584,11 +624,11 @@ Un dessin de cette version ne conserve pas d&apos;ordre de tracé.</translation>
         <source>
 No polyline can follow the boundary: it has pieces of ellipses or splines.</source>
         <translation>
-Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses ou de splines.</translation>
+Aucune polyligne ne peut suivre le contour&#xa0;: il a des morceaux d&apos;ellipses ou de splines.</translation>
     </message>
     <message>
         <source>Select hatch object: </source>
-        <translation>Sélectionnez un objet hachure : </translation>
+        <translation>Sélectionnez un objet hachure&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not a hatch.</source>
@@ -596,71 +636,71 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </source>
-        <translation>Entrez une option de hachures [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt; : </translation>
+        <translation>Entrez une option de hachures [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first endpoint of text baseline: </source>
-        <translation>Spécifiez la première extrémité de la ligne de base du texte : </translation>
+        <translation>Spécifiez la première extrémité de la ligne de base du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start point of text: </source>
-        <translation>Spécifiez le point de départ du texte : </translation>
+        <translation>Spécifiez le point de départ du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center point of text: </source>
-        <translation>Spécifiez le centre de la ligne de base du texte : </translation>
+        <translation>Spécifiez le centre de la ligne de base du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify right endpoint of text baseline: </source>
-        <translation>Spécifiez l&apos;extrémité droite de la ligne de base du texte : </translation>
+        <translation>Spécifiez l&apos;extrémité droite de la ligne de base du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify middle point of text: </source>
-        <translation>Spécifiez le point milieu du texte : </translation>
+        <translation>Spécifiez le point milieu du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify top-left point of text: </source>
-        <translation>Spécifiez le point haut gauche du texte : </translation>
+        <translation>Spécifiez le point haut gauche du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify top-center point of text: </source>
-        <translation>Spécifiez le point haut centre du texte : </translation>
+        <translation>Spécifiez le point haut centre du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify top-right point of text: </source>
-        <translation>Spécifiez le point haut droit du texte : </translation>
+        <translation>Spécifiez le point haut droit du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify middle-left point of text: </source>
-        <translation>Spécifiez le point milieu gauche du texte : </translation>
+        <translation>Spécifiez le point milieu gauche du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify middle-center point of text: </source>
-        <translation>Spécifiez le point milieu centre du texte : </translation>
+        <translation>Spécifiez le point milieu centre du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify middle-right point of text: </source>
-        <translation>Spécifiez le point milieu droit du texte : </translation>
+        <translation>Spécifiez le point milieu droit du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify bottom-left point of text: </source>
-        <translation>Spécifiez le point bas gauche du texte : </translation>
+        <translation>Spécifiez le point bas gauche du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify bottom-center point of text: </source>
-        <translation>Spécifiez le point bas centre du texte : </translation>
+        <translation>Spécifiez le point bas centre du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify bottom-right point of text: </source>
-        <translation>Spécifiez le point bas droit du texte : </translation>
+        <translation>Spécifiez le point bas droit du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [%1]: </source>
-        <translation>Entrez une option [%1] : </translation>
+        <translation>Entrez une option [%1]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter next line of annotation text: </source>
-        <translation>Entrez la ligne suivante du texte d&apos;annotation : </translation>
+        <translation>Entrez la ligne suivante du texte d&apos;annotation&#xa0;: </translation>
     </message>
     <message>
         <source>A text, tolerance or block reference is needed.</source>
@@ -668,7 +708,7 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Enter block name: </source>
-        <translation>Entrez le nom du bloc : </translation>
+        <translation>Entrez le nom du bloc&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find block &quot;%1&quot;.</source>
@@ -676,83 +716,83 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Enter scale factor &lt;1&gt;: </source>
-        <translation>Entrez le facteur d&apos;échelle &lt;1&gt; : </translation>
+        <translation>Entrez le facteur d&apos;échelle &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;0&gt;: </source>
-        <translation>Spécifiez l&apos;angle de rotation &lt;0&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de rotation &lt;0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter tolerance text: </source>
-        <translation>Entrez le texte de la tolérance : </translation>
+        <translation>Entrez le texte de la tolérance&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an annotation option [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </source>
-        <translation>Entrez une option d&apos;annotation [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt; : </translation>
+        <translation>Entrez une option d&apos;annotation [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select an object to copy: </source>
-        <translation>Sélectionnez un objet à copier : </translation>
+        <translation>Sélectionnez un objet à copier&#xa0;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text: </source>
-        <translation>Entrez la première ligne du texte d&apos;annotation : </translation>
+        <translation>Entrez la première ligne du texte d&apos;annotation&#xa0;: </translation>
     </message>
     <message>
         <source>Enter leader format option [Spline/STraight/Arrow/None] &lt;Exit&gt;: </source>
-        <translation>Entrez une option de format de repère [Spline/STraight/Arrow/None] &lt;Exit&gt; : </translation>
+        <translation>Entrez une option de format de repère [Spline/STraight/Arrow/None] &lt;Exit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify leader start point: </source>
-        <translation>Spécifiez le point de départ de la ligne de repère : </translation>
+        <translation>Spécifiez le point de départ de la ligne de repère&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next point: </source>
-        <translation>Spécifiez le point suivant : </translation>
+        <translation>Spécifiez le point suivant&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next point or [Annotation/Format/Undo] &lt;Annotation&gt;: </source>
-        <translation>Spécifiez le point suivant ou [Annotation/Format/Undo] &lt;Annotation&gt; : </translation>
+        <translation>Spécifiez le point suivant ou [Annotation/Format/Undo] &lt;Annotation&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text or &lt;options&gt;: </source>
-        <translation>Entrez la première ligne du texte d&apos;annotation ou &lt;options&gt; : </translation>
+        <translation>Entrez la première ligne du texte d&apos;annotation ou &lt;options&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first leader point: </source>
-        <translation>Spécifiez le premier point de la ligne de repère : </translation>
+        <translation>Spécifiez le premier point de la ligne de repère&#xa0;: </translation>
     </message>
     <message>
         <source>Specify text width &lt;0&gt;: </source>
-        <translation>Spécifiez la largeur du texte &lt;0&gt; : </translation>
+        <translation>Spécifiez la largeur du texte &lt;0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text &lt;Mtext&gt;: </source>
-        <translation>Entrez la première ligne du texte d&apos;annotation &lt;Mtext&gt; : </translation>
+        <translation>Entrez la première ligne du texte d&apos;annotation &lt;Mtext&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Leader start: </source>
-        <translation>Départ du repère : </translation>
+        <translation>Départ du repère&#xa0;: </translation>
     </message>
     <message>
         <source>To point: </source>
-        <translation>Au point : </translation>
+        <translation>Au point&#xa0;: </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;%1&gt;: </source>
-        <translation>Entrez le texte de la cote &lt;%1&gt; : </translation>
+        <translation>Entrez le texte de la cote &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first extension line origin or &lt;select object&gt;: </source>
-        <translation>Spécifiez l&apos;origine de la première ligne d&apos;attache ou &lt;sélectionner un objet&gt; : </translation>
+        <translation>Spécifiez l&apos;origine de la première ligne d&apos;attache ou &lt;sélectionner un objet&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second extension line origin: </source>
-        <translation>Spécifiez l&apos;origine de la seconde ligne d&apos;attache : </translation>
+        <translation>Spécifiez l&apos;origine de la seconde ligne d&apos;attache&#xa0;: </translation>
     </message>
     <message>
         <source>Select object to dimension: </source>
-        <translation>Sélectionnez l&apos;objet à coter : </translation>
+        <translation>Sélectionnez l&apos;objet à coter&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not a line, arc, circle or piece of a polyline.</source>
@@ -760,23 +800,23 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Specify angle of dimension line &lt;0&gt;: </source>
-        <translation>Spécifiez l&apos;angle de la ligne de cote &lt;0&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de la ligne de cote &lt;0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify dimension line location or [%1]: </source>
-        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou [%1] : </translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou [%1]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify dimension line location or [Mtext/Text/Angle]: </source>
-        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou [Mtext/Text/Angle] : </translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou [Mtext/Text/Angle]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify feature location: </source>
-        <translation>Spécifiez l&apos;emplacement de l&apos;élément : </translation>
+        <translation>Spécifiez l&apos;emplacement de l&apos;élément&#xa0;: </translation>
     </message>
     <message>
         <source>Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: </source>
-        <translation>Spécifiez l&apos;extrémité de la ligne de repère ou [Xdatum/Ydatum/Mtext/Text/Angle] : </translation>
+        <translation>Spécifiez l&apos;extrémité de la ligne de repère ou [Xdatum/Ydatum/Mtext/Text/Angle]&#xa0;: </translation>
     </message>
     <message>
         <source>The object is not parallel to the current UCS.</source>
@@ -800,7 +840,7 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Enter the maximum points for leader or [None] &lt;%1&gt;: </source>
-        <translation>Entrez le nombre maximal de points du repère ou [None] &lt;%1&gt; : </translation>
+        <translation>Entrez le nombre maximal de points du repère ou [None] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>A leader has two points at least.</source>
@@ -808,47 +848,47 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </source>
-        <translation>Entrez une option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt; : </translation>
+        <translation>Entrez une option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter first angle constraint &lt;%1&gt;: </source>
-        <translation>Entrez la première contrainte d&apos;angle &lt;%1&gt; : </translation>
+        <translation>Entrez la première contrainte d&apos;angle &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter second angle constraint &lt;%1&gt;: </source>
-        <translation>Entrez la seconde contrainte d&apos;angle &lt;%1&gt; : </translation>
+        <translation>Entrez la seconde contrainte d&apos;angle &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify leader landing location: </source>
-        <translation>Spécifiez l&apos;emplacement de la ligne de guidage : </translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de guidage&#xa0;: </translation>
     </message>
     <message>
         <source>Enter text: </source>
-        <translation>Entrez le texte : </translation>
+        <translation>Entrez le texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first corner of text: </source>
-        <translation>Spécifiez le premier coin du texte : </translation>
+        <translation>Spécifiez le premier coin du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify insertion point for block: </source>
-        <translation>Spécifiez le point d&apos;insertion du bloc : </translation>
+        <translation>Spécifiez le point d&apos;insertion du bloc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify opposite corner: </source>
-        <translation>Spécifiez le coin opposé : </translation>
+        <translation>Spécifiez le coin opposé&#xa0;: </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [leader Landing first/Content first/Options] &lt;Options&gt;: </source>
-        <translation>Spécifiez l&apos;emplacement de la pointe de flèche ou [leader Landing first/Content first/Options] &lt;Options&gt; : </translation>
+        <translation>Spécifiez l&apos;emplacement de la pointe de flèche ou [leader Landing first/Content first/Options] &lt;Options&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no multileaders: they come with R2007.</source>
-        <translation>Un dessin de cette version n&apos;a pas de repères multiples : ils existent depuis R2007.</translation>
+        <translation>Un dessin de cette version n&apos;a pas de repères multiples&#xa0;: ils existent depuis R2007.</translation>
     </message>
     <message>
         <source>Specify leader arrowhead location: </source>
-        <translation>Spécifiez l&apos;emplacement de la pointe de flèche : </translation>
+        <translation>Spécifiez l&apos;emplacement de la pointe de flèche&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not a multileader.</source>
@@ -856,15 +896,15 @@ Aucune polyligne ne peut suivre le contour : il a des morceaux d&apos;ellipses 
     </message>
     <message>
         <source>Select a multileader: </source>
-        <translation>Sélectionnez un repère multiple : </translation>
+        <translation>Sélectionnez un repère multiple&#xa0;: </translation>
     </message>
     <message>
         <source>Specify leaders to remove or [Add leaders]: </source>
-        <translation>Spécifiez les lignes de repère à supprimer ou [Add leaders] : </translation>
+        <translation>Spécifiez les lignes de repère à supprimer ou [Add leaders]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [Remove leaders]: </source>
-        <translation>Spécifiez l&apos;emplacement de la pointe de flèche ou [Remove leaders] : </translation>
+        <translation>Spécifiez l&apos;emplacement de la pointe de flèche ou [Remove leaders]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -874,7 +914,7 @@ Le repère multiple n&apos;a pas de ligne de repère à cet endroit.</translatio
     </message>
     <message>
         <source>Enter an option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </source>
-        <translation>Entrez une option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt; : </translation>
+        <translation>Entrez une option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify spacing</source>
@@ -882,7 +922,7 @@ Le repère multiple n&apos;a pas de ligne de repère à cet endroit.</translatio
     </message>
     <message>
         <source>Select multileaders: </source>
-        <translation>Sélectionnez des repères multiples : </translation>
+        <translation>Sélectionnez des repères multiples&#xa0;: </translation>
     </message>
     <message>
         <source>No multileaders were selected.</source>
@@ -890,23 +930,23 @@ Le repère multiple n&apos;a pas de ligne de repère à cet endroit.</translatio
     </message>
     <message>
         <source>Specify first point or [Options]: </source>
-        <translation>Spécifiez le premier point ou [Options] : </translation>
+        <translation>Spécifiez le premier point ou [Options]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point: </source>
-        <translation>Spécifiez le second point : </translation>
+        <translation>Spécifiez le second point&#xa0;: </translation>
     </message>
     <message>
         <source>Select multileader to align to or [Options]: </source>
-        <translation>Sélectionnez le repère multiple sur lequel aligner ou [Options] : </translation>
+        <translation>Sélectionnez le repère multiple sur lequel aligner ou [Options]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify direction: </source>
-        <translation>Spécifiez la direction : </translation>
+        <translation>Spécifiez la direction&#xa0;: </translation>
     </message>
     <message>
         <source>Specify angle of dimension text: </source>
-        <translation>Spécifiez l&apos;angle du texte de la cote : </translation>
+        <translation>Spécifiez l&apos;angle du texte de la cote&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -924,7 +964,7 @@ Texte de la cote = </translation>
     </message>
     <message>
         <source>Enter line spacing factor or distance &lt;%1&gt;: </source>
-        <translation>Entrez le facteur ou la distance d&apos;interligne &lt;%1&gt; : </translation>
+        <translation>Entrez le facteur ou la distance d&apos;interligne &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Lines are 0.25x to 4x of the usual distance apart.</source>
@@ -936,7 +976,7 @@ Texte de la cote = </translation>
     </message>
     <message>
         <source>Specify number of columns &lt;2&gt;: </source>
-        <translation>Spécifiez le nombre de colonnes &lt;2&gt; : </translation>
+        <translation>Spécifiez le nombre de colonnes &lt;2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify gutter width</source>
@@ -956,7 +996,7 @@ Texte de la cote = </translation>
     </message>
     <message>
         <source>A drawing of this version has no columns in texts: they come with R2007.</source>
-        <translation>Un dessin de cette version n&apos;a pas de colonnes dans les textes : elles existent depuis R2007.</translation>
+        <translation>Un dessin de cette version n&apos;a pas de colonnes dans les textes&#xa0;: elles existent depuis R2007.</translation>
     </message>
     <message>
         <source>Specify column height</source>
@@ -968,7 +1008,7 @@ Texte de la cote = </translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle de rotation &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de rotation &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify width</source>
@@ -976,21 +1016,21 @@ Texte de la cote = </translation>
     </message>
     <message>
         <source>Specify first corner: </source>
-        <translation>Spécifiez le premier coin : </translation>
+        <translation>Spécifiez le premier coin&#xa0;: </translation>
     </message>
     <message>
         <source>Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </source>
-        <translation>Spécifiez le coin opposé ou [Height/Justify/Line spacing/Rotation/Style/Width/Columns] : </translation>
+        <translation>Spécifiez le coin opposé ou [Height/Justify/Line spacing/Rotation/Style/Width/Columns]&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current text style:  &quot;%1&quot;  Text height:  %2</source>
         <translation>
-Style de texte courant :  &quot;%1&quot;  Hauteur du texte :  %2</translation>
+Style de texte courant&#xa0;:  &quot;%1&quot;  Hauteur du texte&#xa0;:  %2</translation>
     </message>
     <message>
         <source>MText: </source>
-        <translation>MText : </translation>
+        <translation>MText&#xa0;: </translation>
     </message>
     <message>
         <source>No texts were selected.</source>
@@ -1008,27 +1048,27 @@ Style de texte courant :  &quot;%1&quot;  Hauteur du texte :  %2</translation>
     </message>
     <message>
         <source>Specify dimension line location or leader length for text: </source>
-        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou la longueur du repère du texte : </translation>
+        <translation>Spécifiez l&apos;emplacement de la ligne de cote ou la longueur du repère du texte&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no jogged dimensions of radii: they come with R2004.</source>
-        <translation>Un dessin de cette version n&apos;a pas de cotes de rayon raccourcies : elles existent depuis R2004.</translation>
+        <translation>Un dessin de cette version n&apos;a pas de cotes de rayon raccourcies&#xa0;: elles existent depuis R2004.</translation>
     </message>
     <message>
         <source>Select arc or circle: </source>
-        <translation>Sélectionnez un arc ou un cercle : </translation>
+        <translation>Sélectionnez un arc ou un cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center location override: </source>
-        <translation>Spécifiez l&apos;emplacement remplaçant le centre : </translation>
+        <translation>Spécifiez l&apos;emplacement remplaçant le centre&#xa0;: </translation>
     </message>
     <message>
         <source>Specify jog location: </source>
-        <translation>Spécifiez l&apos;emplacement du raccourcissement : </translation>
+        <translation>Spécifiez l&apos;emplacement du raccourcissement&#xa0;: </translation>
     </message>
     <message>
         <source>DIMCEN is 0: there is no centre mark.</source>
-        <translation>DIMCEN vaut 0 : il n&apos;y a pas de marque de centre.</translation>
+        <translation>DIMCEN vaut 0&#xa0;: il n&apos;y a pas de marque de centre.</translation>
     </message>
     <message>
         <source>Enter name of text style</source>
@@ -1040,7 +1080,7 @@ Style de texte courant :  &quot;%1&quot;  Hauteur du texte :  %2</translation>
     </message>
     <message>
         <source>Specify full font name or font filename (TTF or SHX) &lt;%1&gt;: </source>
-        <translation>Spécifiez le nom complet de la police ou le fichier de police (TTF ou SHX) &lt;%1&gt; : </translation>
+        <translation>Spécifiez le nom complet de la police ou le fichier de police (TTF ou SHX) &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify height of text</source>
@@ -1052,7 +1092,7 @@ Style de texte courant :  &quot;%1&quot;  Hauteur du texte :  %2</translation>
     </message>
     <message>
         <source>Specify obliquing angle &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle d&apos;inclinaison &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle d&apos;inclinaison &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The obliquing angle is from -85 to 85 degrees.</source>
@@ -1060,11 +1100,11 @@ Style de texte courant :  &quot;%1&quot;  Hauteur du texte :  %2</translation>
     </message>
     <message>
         <source>Display text backwards?</source>
-        <translation>Afficher le texte à l&apos;envers ?</translation>
+        <translation>Afficher le texte à l&apos;envers&#xa0;?</translation>
     </message>
     <message>
         <source>Display text upside-down?</source>
-        <translation>Afficher le texte tête en bas ?</translation>
+        <translation>Afficher le texte tête en bas&#xa0;?</translation>
     </message>
     <message>
         <source>
@@ -1086,7 +1126,7 @@ Nouveau style.</translation>
     </message>
     <message>
         <source>Specify start point of text or [Justify/Style]: </source>
-        <translation>Spécifiez le point de départ du texte ou [Justify/Style] : </translation>
+        <translation>Spécifiez le point de départ du texte ou [Justify/Style]&#xa0;: </translation>
     </message>
     <message>
         <source>There is no text to go on below.</source>
@@ -1094,15 +1134,15 @@ Nouveau style.</translation>
     </message>
     <message>
         <source>Specify second endpoint of text baseline: </source>
-        <translation>Spécifiez la seconde extrémité de la ligne de base du texte : </translation>
+        <translation>Spécifiez la seconde extrémité de la ligne de base du texte&#xa0;: </translation>
     </message>
     <message>
         <source>Specify height &lt;%1&gt;: </source>
-        <translation>Spécifiez la hauteur &lt;%1&gt; : </translation>
+        <translation>Spécifiez la hauteur &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify rotation angle of text &lt;0&gt;: </source>
-        <translation>Spécifiez l&apos;angle de rotation du texte &lt;0&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de rotation du texte &lt;0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The two endpoints are one point.</source>
@@ -1112,15 +1152,15 @@ Nouveau style.</translation>
         <source>
 Style name: &quot;%1&quot;  Font files: %2  Height: %3  Width factor: %4</source>
         <translation>
-Nom du style : &quot;%1&quot;  Fichiers de police : %2  Hauteur : %3  Facteur de largeur : %4</translation>
+Nom du style&#xa0;: &quot;%1&quot;  Fichiers de police&#xa0;: %2  Hauteur&#xa0;: %3  Facteur de largeur&#xa0;: %4</translation>
     </message>
     <message>
         <source>%1 or [?] &lt;%2&gt;: </source>
-        <translation>%1 ou [?] &lt;%2&gt; : </translation>
+        <translation>%1 ou [?] &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter text style(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les styles de texte à lister &lt;*&gt; : </translation>
+        <translation>Entrez les styles de texte à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter style name</source>
@@ -1140,7 +1180,7 @@ Fichier &quot;%1&quot; de la référence &quot;%2&quot; introuvable.</translatio
         <source>
 Warning: &quot;%1&quot; shows this drawing, which is left out there.</source>
         <translation>
-Attention : &quot;%1&quot; montre ce dessin, qui y est omis.</translation>
+Attention&#xa0;: &quot;%1&quot; montre ce dessin, qui y est omis.</translation>
     </message>
     <message>
         <source>
@@ -1164,23 +1204,23 @@ Attention : &quot;%1&quot; montre ce dessin, qui y est omis.</translation>
     </message>
     <message>
         <source>Enter an option [?/Name/Select] &lt;Select&gt;: </source>
-        <translation>Entrez une option [?/Name/Select] &lt;Select&gt; : </translation>
+        <translation>Entrez une option [?/Name/Select] &lt;Select&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Blocks with attributes:
   </source>
         <translation>
-Blocs avec attributs :
+Blocs avec attributs&#xa0;:
   </translation>
     </message>
     <message>
         <source>Enter name of block to synchronize or [?]: </source>
-        <translation>Entrez le nom du bloc à synchroniser ou [?] : </translation>
+        <translation>Entrez le nom du bloc à synchroniser ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Select a block: </source>
-        <translation>Sélectionnez un bloc : </translation>
+        <translation>Sélectionnez un bloc&#xa0;: </translation>
     </message>
     <message>
         <source>That is no block reference.</source>
@@ -1188,7 +1228,7 @@ Blocs avec attributs :
     </message>
     <message>
         <source>ATTSYNC block %1? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Synchroniser le bloc %1 par ATTSYNC ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Synchroniser le bloc %1 par ATTSYNC&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; not found.</source>
@@ -1202,15 +1242,15 @@ Blocs avec attributs :
     </message>
     <message>
         <source>Enter block name specification &lt;*&gt;: </source>
-        <translation>Entrez la spécification de nom de bloc &lt;*&gt; : </translation>
+        <translation>Entrez la spécification de nom de bloc &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter attribute tag specification &lt;*&gt;: </source>
-        <translation>Entrez la spécification d&apos;étiquette d&apos;attribut &lt;*&gt; : </translation>
+        <translation>Entrez la spécification d&apos;étiquette d&apos;attribut &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter attribute value specification &lt;*&gt;: </source>
-        <translation>Entrez la spécification de valeur d&apos;attribut &lt;*&gt; : </translation>
+        <translation>Entrez la spécification de valeur d&apos;attribut &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1220,43 +1260,43 @@ Blocs avec attributs :
     </message>
     <message>
         <source>Enter string to change: </source>
-        <translation>Entrez la chaîne à modifier : </translation>
+        <translation>Entrez la chaîne à modifier&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new string: </source>
-        <translation>Entrez la nouvelle chaîne : </translation>
+        <translation>Entrez la nouvelle chaîne&#xa0;: </translation>
     </message>
     <message>
         <source>Enter type of value modification [Change/Replace] &lt;R&gt;: </source>
-        <translation>Entrez le type de modification de la valeur [Change/Replace] &lt;R&gt; : </translation>
+        <translation>Entrez le type de modification de la valeur [Change/Replace] &lt;R&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new attribute value: </source>
-        <translation>Entrez la nouvelle valeur de l&apos;attribut : </translation>
+        <translation>Entrez la nouvelle valeur de l&apos;attribut&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new height &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle hauteur &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle hauteur &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new layer name: </source>
-        <translation>Entrez le nouveau nom de calque : </translation>
+        <translation>Entrez le nouveau nom de calque&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Value/Height/Layer/Next] &lt;N&gt;: </source>
-        <translation>Entrez une option [Value/Height/Layer/Next] &lt;N&gt; : </translation>
+        <translation>Entrez une option [Value/Height/Layer/Next] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Edit attributes one at a time? [Yes/No] &lt;Y&gt;: </source>
-        <translation>Modifier les attributs un par un ? [Yes/No] &lt;Y&gt; : </translation>
+        <translation>Modifier les attributs un par un&#xa0;? [Yes/No] &lt;Y&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Edit only attributes visible on screen? [Yes/No] &lt;Y&gt;: </source>
-        <translation>Modifier seulement les attributs visibles à l&apos;écran ? [Yes/No] &lt;Y&gt; : </translation>
+        <translation>Modifier seulement les attributs visibles à l&apos;écran&#xa0;? [Yes/No] &lt;Y&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>%1, . for none &lt;%2&gt;: </source>
-        <translation>%1, . pour aucun &lt;%2&gt; : </translation>
+        <translation>%1, . pour aucun &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The block has no attributes.</source>
@@ -1264,7 +1304,7 @@ Blocs avec attributs :
     </message>
     <message>
         <source>Enter number or tag of attribute or [?] &lt;exit&gt;: </source>
-        <translation>Entrez le numéro ou l&apos;étiquette de l&apos;attribut ou [?] &lt;quitter&gt; : </translation>
+        <translation>Entrez le numéro ou l&apos;étiquette de l&apos;attribut ou [?] &lt;quitter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The value of %1 is constant.</source>
@@ -1288,11 +1328,11 @@ Blocs définis.</translation>
     </message>
     <message>
         <source>Enter block name or [?]: </source>
-        <translation>Entrez le nom du bloc ou [?] : </translation>
+        <translation>Entrez le nom du bloc ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter block(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les blocs à lister &lt;*&gt; : </translation>
+        <translation>Entrez les blocs à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block.</source>
@@ -1304,7 +1344,7 @@ Blocs définis.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; already exists. Redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation>Le bloc &quot;%1&quot; existe déjà. Le redéfinir ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Le bloc &quot;%1&quot; existe déjà. Le redéfinir&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; would show itself.</source>
@@ -1312,7 +1352,7 @@ Blocs définis.</translation>
     </message>
     <message>
         <source>Specify insertion base point or [Annotative]: </source>
-        <translation>Spécifiez le point de base d&apos;insertion ou [Annotative] : </translation>
+        <translation>Spécifiez le point de base d&apos;insertion ou [Annotative]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1322,11 +1362,11 @@ Les blocs sont créés sans échelles d&apos;annotation.</translation>
     </message>
     <message>
         <source>Create annotative block? [Yes/No] &lt;N&gt;: </source>
-        <translation>Créer un bloc annotatif ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Créer un bloc annotatif&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter base point &lt;%1&gt;: </source>
-        <translation>Entrez le point de base &lt;%1&gt; : </translation>
+        <translation>Entrez le point de base &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1338,19 +1378,19 @@ Les blocs sont créés sans échelles d&apos;annotation.</translation>
     </message>
     <message>
         <source>Specify first point: </source>
-        <translation>Spécifiez le premier point : </translation>
+        <translation>Spécifiez le premier point&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next point or [Undo]: </source>
-        <translation>Spécifiez le point suivant ou [Undo] : </translation>
+        <translation>Spécifiez le point suivant ou [Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Select polyline: </source>
-        <translation>Sélectionnez une polyligne : </translation>
+        <translation>Sélectionnez une polyligne&#xa0;: </translation>
     </message>
     <message>
         <source>Specify clipping boundary or select invert option: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </source>
-        <translation>Spécifiez le contour de délimitation ou choisissez d&apos;inverser : [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt; : </translation>
+        <translation>Spécifiez le contour de délimitation ou choisissez d&apos;inverser&#xa0;: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1376,7 +1416,7 @@ Les objets à l&apos;extérieur du contour seront masqués.</translation>
     </message>
     <message>
         <source>Delete old boundary(s)? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Supprimer les anciens contours ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Supprimer les anciens contours&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>No block references were chosen.</source>
@@ -1384,7 +1424,7 @@ Les objets à l&apos;extérieur du contour seront masqués.</translation>
     </message>
     <message>
         <source>Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </source>
-        <translation>Entrez une option de délimitation [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt; : </translation>
+        <translation>Entrez une option de délimitation [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Nothing of that can be copied.</source>
@@ -1392,7 +1432,7 @@ Les objets à l&apos;extérieur du contour seront masqués.</translation>
     </message>
     <message>
         <source>Specify base point: </source>
-        <translation>Spécifiez le point de base : </translation>
+        <translation>Spécifiez le point de base&#xa0;: </translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>
@@ -1406,7 +1446,7 @@ Les objets à l&apos;extérieur du contour seront masqués.</translation>
     </message>
     <message>
         <source>Specify insertion point: </source>
-        <translation>Spécifiez le point d&apos;insertion : </translation>
+        <translation>Spécifiez le point d&apos;insertion&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1416,11 +1456,11 @@ Groupes définis.                            Sélectionnable</translation>
     </message>
     <message>
         <source>Enter group name(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les noms des groupes à lister &lt;*&gt; : </translation>
+        <translation>Entrez les noms des groupes à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a group name or [?]: </source>
-        <translation>Entrez un nom de groupe ou [?] : </translation>
+        <translation>Entrez un nom de groupe ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; does not exist.</source>
@@ -1444,27 +1484,27 @@ Groupes définis.                            Sélectionnable</translation>
     </message>
     <message>
         <source>Enter a group description: </source>
-        <translation>Entrez une description du groupe : </translation>
+        <translation>Entrez une description du groupe&#xa0;: </translation>
     </message>
     <message>
         <source>Select objects: </source>
-        <translation>Sélectionnez des objets : </translation>
+        <translation>Sélectionnez des objets&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a new name for group or [?]: </source>
-        <translation>Entrez un nouveau nom de groupe ou [?] : </translation>
+        <translation>Entrez un nouveau nom de groupe ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter position number of the object to reorder %1 or [Reverse]: </source>
-        <translation>Entrez le numéro de position de l&apos;objet à réordonner %1 ou [Reverse] : </translation>
+        <translation>Entrez le numéro de position de l&apos;objet à réordonner %1 ou [Reverse]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new position number for the object %1: </source>
-        <translation>Entrez le nouveau numéro de position de l&apos;objet %1 : </translation>
+        <translation>Entrez le nouveau numéro de position de l&apos;objet %1&#xa0;: </translation>
     </message>
     <message>
         <source>Enter number of objects to reorder &lt;1&gt;: </source>
-        <translation>Entrez le nombre d&apos;objets à réordonner &lt;1&gt; : </translation>
+        <translation>Entrez le nombre d&apos;objets à réordonner &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a number from 0 to %1.</source>
@@ -1472,11 +1512,11 @@ Groupes définis.                            Sélectionnable</translation>
     </message>
     <message>
         <source>Is group selectable? [Yes/No] &lt;Y&gt;: </source>
-        <translation>Le groupe est-il sélectionnable ? [Yes/No] &lt;Y&gt; : </translation>
+        <translation>Le groupe est-il sélectionnable&#xa0;? [Yes/No] &lt;Y&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </source>
-        <translation>Entrez une option de groupe [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt; : </translation>
+        <translation>Entrez une option de groupe [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1496,23 +1536,23 @@ Groupes définis.                            Sélectionnable</translation>
     </message>
     <message>
         <source>Enter block name or [?] &lt;%1&gt;: </source>
-        <translation>Entrez le nom du bloc ou [?] &lt;%1&gt; : </translation>
+        <translation>Entrez le nom du bloc ou [?] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify scale factor for XYZ axes &lt;1&gt;: </source>
-        <translation>Spécifiez le facteur d&apos;échelle des axes XYZ &lt;1&gt; : </translation>
+        <translation>Spécifiez le facteur d&apos;échelle des axes XYZ &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify %1 scale factor &lt;1&gt;: </source>
-        <translation>Spécifiez le facteur d&apos;échelle %1 &lt;1&gt; : </translation>
+        <translation>Spécifiez le facteur d&apos;échelle %1 &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter %1 scale factor &lt;use X scale factor&gt;: </source>
-        <translation>Entrez le facteur d&apos;échelle %1 &lt;utiliser le facteur X&gt; : </translation>
+        <translation>Entrez le facteur d&apos;échelle %1 &lt;utiliser le facteur X&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter X scale factor or [Corner/XYZ] &lt;1&gt;: </source>
-        <translation>Entrez le facteur d&apos;échelle X ou [Corner/XYZ] &lt;1&gt; : </translation>
+        <translation>Entrez le facteur d&apos;échelle X ou [Corner/XYZ] &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
@@ -1520,15 +1560,15 @@ Groupes définis.                            Sélectionnable</translation>
     </message>
     <message>
         <source>Specify X scale factor &lt;1&gt;: </source>
-        <translation>Spécifiez le facteur d&apos;échelle X &lt;1&gt; : </translation>
+        <translation>Spécifiez le facteur d&apos;échelle X &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify insertion point or [Scale/X/Y/Z/Rotate]: </source>
-        <translation>Spécifiez le point d&apos;insertion ou [Scale/X/Y/Z/Rotate] : </translation>
+        <translation>Spécifiez le point d&apos;insertion ou [Scale/X/Y/Z/Rotate]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify scale factor &lt;1&gt;: </source>
-        <translation>Spécifiez le facteur d&apos;échelle &lt;1&gt; : </translation>
+        <translation>Spécifiez le facteur d&apos;échelle &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot;.</source>
@@ -1562,7 +1602,7 @@ La définition existante est utilisée.</translation>
         <source>
 %1 Xref &quot;%2&quot;: %3</source>
         <translation>
-%1, référence externe &quot;%2&quot; : %3</translation>
+%1, référence externe &quot;%2&quot;&#xa0;: %3</translation>
     </message>
     <message>
         <source>
@@ -1574,7 +1614,7 @@ Aucune référence correspondante trouvée.</translation>
         <source>
 &quot;%1&quot; was not detached: block &quot;%2&quot; holds it.</source>
         <translation>
-&quot;%1&quot; n&apos;a pas été détachée : le bloc &quot;%2&quot; la contient.</translation>
+&quot;%1&quot; n&apos;a pas été détachée&#xa0;: le bloc &quot;%2&quot; la contient.</translation>
     </message>
     <message>
         <source>
@@ -1596,47 +1636,47 @@ Aucune référence correspondante trouvée.</translation>
     </message>
     <message>
         <source>Enter xref name(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les noms des références externes à lister &lt;*&gt; : </translation>
+        <translation>Entrez les noms des références externes à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to bind: </source>
-        <translation>Entrez les noms des références externes à lier : </translation>
+        <translation>Entrez les noms des références externes à lier&#xa0;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to detach: </source>
-        <translation>Entrez les noms des références externes à détacher : </translation>
+        <translation>Entrez les noms des références externes à détacher&#xa0;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to unload: </source>
-        <translation>Entrez les noms des références externes à décharger : </translation>
+        <translation>Entrez les noms des références externes à décharger&#xa0;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to reload: </source>
-        <translation>Entrez les noms des références externes à recharger : </translation>
+        <translation>Entrez les noms des références externes à recharger&#xa0;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to edit path: </source>
-        <translation>Entrez les noms des références externes dont modifier le chemin : </translation>
+        <translation>Entrez les noms des références externes dont modifier le chemin&#xa0;: </translation>
     </message>
     <message>
         <source>
 Xref name: %1
 Old path: %2</source>
         <translation>
-Nom de la référence externe : %1
-Ancien chemin : %2</translation>
+Nom de la référence externe&#xa0;: %1
+Ancien chemin&#xa0;: %2</translation>
     </message>
     <message>
         <source>Enter new path: </source>
-        <translation>Entrez le nouveau chemin : </translation>
+        <translation>Entrez le nouveau chemin&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of file to attach: </source>
-        <translation>Entrez le nom du fichier à attacher : </translation>
+        <translation>Entrez le nom du fichier à attacher&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </source>
-        <translation>Entrez une option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt; : </translation>
+        <translation>Entrez une option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1658,11 +1698,11 @@ Rien à écrire.</translation>
     </message>
     <message>
         <source>Enter name of output file: </source>
-        <translation>Entrez le nom du fichier de sortie : </translation>
+        <translation>Entrez le nom du fichier de sortie&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of existing block, [= (same name)/* (whole drawing)] &lt;choose entities&gt;: </source>
-        <translation>Entrez le nom d&apos;un bloc existant, [= (same name)/* (whole drawing)] &lt;choisir des objets&gt; : </translation>
+        <translation>Entrez le nom d&apos;un bloc existant, [= (same name)/* (whole drawing)] &lt;choisir des objets&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1672,7 +1712,7 @@ Bloc &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Specify insertion base point: </source>
-        <translation>Spécifiez le point de base d&apos;insertion : </translation>
+        <translation>Spécifiez le point de base d&apos;insertion&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1716,39 +1756,39 @@ Type de ligne &quot;%1&quot; chargé.</translation>
     </message>
     <message>
         <source>Specify displacement &lt;%1&gt;: </source>
-        <translation>Spécifiez le déplacement &lt;%1&gt; : </translation>
+        <translation>Spécifiez le déplacement &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement] &lt;Displacement&gt;: </source>
-        <translation>Spécifiez le point de base ou [Displacement] &lt;Displacement&gt; : </translation>
+        <translation>Spécifiez le point de base ou [Displacement] &lt;Displacement&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point or &lt;use first point as displacement&gt;: </source>
-        <translation>Spécifiez le second point ou &lt;utiliser le premier point comme déplacement&gt; : </translation>
+        <translation>Spécifiez le second point ou &lt;utiliser le premier point comme déplacement&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation>Introuvable : %1 &quot;%2&quot;.</translation>
+        <translation>Introuvable&#xa0;: %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation>%1 existe déjà. Le remplacer ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>%1 existe déjà. Le remplacer&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify the reference angle &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle de référence &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de référence &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify the new angle or [Points] &lt;%1&gt;: </source>
-        <translation>Spécifiez le nouvel angle ou [Points] &lt;%1&gt; : </translation>
+        <translation>Spécifiez le nouvel angle ou [Points] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify reference length &lt;%1&gt;: </source>
-        <translation>Spécifiez la longueur de référence &lt;%1&gt; : </translation>
+        <translation>Spécifiez la longueur de référence &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new length or [Points] &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle longueur ou [Points] &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle longueur ou [Points] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>(ADD mode) </source>
@@ -1778,39 +1818,39 @@ L&apos;objet sélectionné n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo]: </source>
-        <translation>%1Spécifiez le point suivant ou [Undo] : </translation>
+        <translation>%1Spécifiez le point suivant ou [Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo/Total] &lt;Total&gt;: </source>
-        <translation>%1Spécifiez le point suivant ou [Undo/Total] &lt;Total&gt; : </translation>
+        <translation>%1Spécifiez le point suivant ou [Undo/Total] &lt;Total&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area/Subtract area] &lt;Object&gt;: </source>
-        <translation>Spécifiez le premier coin ou [Object/Add area/Subtract area] &lt;Object&gt; : </translation>
+        <translation>Spécifiez le premier coin ou [Object/Add area/Subtract area] &lt;Object&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Subtract area]: </source>
-        <translation>Spécifiez le premier coin ou [Object/Subtract area] : </translation>
+        <translation>Spécifiez le premier coin ou [Object/Subtract area]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area]: </source>
-        <translation>Spécifiez le premier coin ou [Object/Add area] : </translation>
+        <translation>Spécifiez le premier coin ou [Object/Add area]&#xa0;: </translation>
     </message>
     <message>
         <source>Select object: </source>
-        <translation>Sélectionnez un objet : </translation>
+        <translation>Sélectionnez un objet&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second break point or [First point]: </source>
-        <translation>Spécifiez le second point de coupure ou [First point] : </translation>
+        <translation>Spécifiez le second point de coupure ou [First point]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first break point: </source>
-        <translation>Spécifiez le premier point de coupure : </translation>
+        <translation>Spécifiez le premier point de coupure&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second break point: </source>
-        <translation>Spécifiez le second point de coupure : </translation>
+        <translation>Spécifiez le second point de coupure&#xa0;: </translation>
     </message>
     <message>
         <source>A whole circle or ellipse cannot be broken at one point.</source>
@@ -1874,7 +1914,7 @@ L&apos;objet sélectionné n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>Specify chamfer angle from the first line &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle du chanfrein depuis la première ligne &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle du chanfrein depuis la première ligne &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify fillet radius</source>
@@ -1886,11 +1926,11 @@ L&apos;objet sélectionné n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>Select 2D polyline or [Radius]: </source>
-        <translation>Sélectionnez une polyligne 2D ou [Radius] : </translation>
+        <translation>Sélectionnez une polyligne 2D ou [Radius]&#xa0;: </translation>
     </message>
     <message>
         <source>Select 2D polyline or [Distance/Angle/mEthod]: </source>
-        <translation>Sélectionnez une polyligne 2D ou [Distance/Angle/mEthod] : </translation>
+        <translation>Sélectionnez une polyligne 2D ou [Distance/Angle/mEthod]&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a flat polyline.</source>
@@ -1926,19 +1966,19 @@ L&apos;objet sélectionné n&apos;a pas d&apos;aire.</translation>
     </message>
     <message>
         <source>Select second object or [Radius]: </source>
-        <translation>Sélectionnez le second objet ou [Radius] : </translation>
+        <translation>Sélectionnez le second objet ou [Radius]&#xa0;: </translation>
     </message>
     <message>
         <source>Select second line or [Distance/Angle/Method]: </source>
-        <translation>Sélectionnez la seconde ligne ou [Distance/Angle/Method] : </translation>
+        <translation>Sélectionnez la seconde ligne ou [Distance/Angle/Method]&#xa0;: </translation>
     </message>
     <message>
         <source>Select first object or [Undo/Polyline/Radius/Trim/Multiple]: </source>
-        <translation>Sélectionnez le premier objet ou [Undo/Polyline/Radius/Trim/Multiple] : </translation>
+        <translation>Sélectionnez le premier objet ou [Undo/Polyline/Radius/Trim/Multiple]&#xa0;: </translation>
     </message>
     <message>
         <source>Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </source>
-        <translation>Sélectionnez la première ligne ou [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple] : </translation>
+        <translation>Sélectionnez la première ligne ou [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -1950,7 +1990,7 @@ Rien à annuler</translation>
         <source>
 Current settings: Mode = %1, Radius = %2</source>
         <translation>
-Paramètres courants : Mode = %1, Rayon = %2</translation>
+Paramètres courants&#xa0;: Mode = %1, Rayon = %2</translation>
     </message>
     <message>
         <source>
@@ -1972,23 +2012,23 @@ Paramètres courants : Mode = %1, Rayon = %2</translation>
     </message>
     <message>
         <source>Enter name of block to insert: </source>
-        <translation>Entrez le nom du bloc à insérer : </translation>
+        <translation>Entrez le nom du bloc à insérer&#xa0;: </translation>
     </message>
     <message>
         <source>Align block with object?</source>
-        <translation>Aligner le bloc sur l&apos;objet ?</translation>
+        <translation>Aligner le bloc sur l&apos;objet&#xa0;?</translation>
     </message>
     <message>
         <source>Select object to divide: </source>
-        <translation>Sélectionnez l&apos;objet à diviser : </translation>
+        <translation>Sélectionnez l&apos;objet à diviser&#xa0;: </translation>
     </message>
     <message>
         <source>Enter the number of segments or [Block]: </source>
-        <translation>Entrez le nombre de segments ou [Block] : </translation>
+        <translation>Entrez le nombre de segments ou [Block]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter the number of segments: </source>
-        <translation>Entrez le nombre de segments : </translation>
+        <translation>Entrez le nombre de segments&#xa0;: </translation>
     </message>
     <message>
         <source>The number must be between 2 and %1.</source>
@@ -1996,15 +2036,15 @@ Paramètres courants : Mode = %1, Rayon = %2</translation>
     </message>
     <message>
         <source>Select object to measure: </source>
-        <translation>Sélectionnez l&apos;objet à mesurer : </translation>
+        <translation>Sélectionnez l&apos;objet à mesurer&#xa0;: </translation>
     </message>
     <message>
         <source>Specify length of segment or [Block]: </source>
-        <translation>Spécifiez la longueur du segment ou [Block] : </translation>
+        <translation>Spécifiez la longueur du segment ou [Block]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify length of segment: </source>
-        <translation>Spécifiez la longueur du segment : </translation>
+        <translation>Spécifiez la longueur du segment&#xa0;: </translation>
     </message>
     <message>
         <source>These would be more than %1.</source>
@@ -2048,25 +2088,25 @@ Paramètres courants : Mode = %1, Rayon = %2</translation>
     </message>
     <message>
         <source>Select source object or multiple objects to join at once: </source>
-        <translation>Sélectionnez l&apos;objet source ou plusieurs objets à joindre à la fois : </translation>
+        <translation>Sélectionnez l&apos;objet source ou plusieurs objets à joindre à la fois&#xa0;: </translation>
     </message>
     <message>
         <source>Select arcs to join to source or [cLose]: </source>
-        <translation>Sélectionnez les arcs à joindre à la source ou [cLose] : </translation>
+        <translation>Sélectionnez les arcs à joindre à la source ou [cLose]&#xa0;: </translation>
     </message>
     <message>
         <source>Select objects to join: </source>
-        <translation>Sélectionnez les objets à joindre : </translation>
+        <translation>Sélectionnez les objets à joindre&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current length: %1</source>
         <translation>
-Longueur courante : %1</translation>
+Longueur courante&#xa0;: %1</translation>
     </message>
     <message>
         <source>, included angle: %1</source>
-        <translation>, angle décrit : %1</translation>
+        <translation>, angle décrit&#xa0;: %1</translation>
     </message>
     <message>
         <source>
@@ -2076,11 +2116,11 @@ Cet objet ne peut pas être modifié en longueur.</translation>
     </message>
     <message>
         <source>Select an object to change or [Undo]: </source>
-        <translation>Sélectionnez un objet à modifier ou [Undo] : </translation>
+        <translation>Sélectionnez un objet à modifier ou [Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new endpoint: </source>
-        <translation>Spécifiez la nouvelle extrémité : </translation>
+        <translation>Spécifiez la nouvelle extrémité&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2090,35 +2130,35 @@ L&apos;objet ne peut pas avoir cette longueur.</translation>
     </message>
     <message>
         <source>Enter delta length or [Angle] &lt;%1&gt;: </source>
-        <translation>Entrez l&apos;écart de longueur ou [Angle] &lt;%1&gt; : </translation>
+        <translation>Entrez l&apos;écart de longueur ou [Angle] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter delta angle &lt;%1&gt;: </source>
-        <translation>Entrez l&apos;écart d&apos;angle &lt;%1&gt; : </translation>
+        <translation>Entrez l&apos;écart d&apos;angle &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify total length or [Angle] &lt;%1&gt;: </source>
-        <translation>Spécifiez la longueur totale ou [Angle] &lt;%1&gt; : </translation>
+        <translation>Spécifiez la longueur totale ou [Angle] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify total angle &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle total &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle total &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter percentage length &lt;100.0000&gt;: </source>
-        <translation>Entrez la longueur en pour cent &lt;100.0000&gt; : </translation>
+        <translation>Entrez la longueur en pour cent &lt;100.0000&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select an object to measure or [DElta/Percent/Total/DYnamic]: </source>
-        <translation>Sélectionnez un objet à mesurer ou [DElta/Percent/Total/DYnamic] : </translation>
+        <translation>Sélectionnez un objet à mesurer ou [DElta/Percent/Total/DYnamic]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through/Erase/Layer] &lt;%1&gt;: </source>
-        <translation>Spécifiez la distance de décalage ou [Through/Erase/Layer] &lt;%1&gt; : </translation>
+        <translation>Spécifiez la distance de décalage ou [Through/Erase/Layer] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Erase source object after offsetting?</source>
-        <translation>Effacer l&apos;objet source après le décalage ?</translation>
+        <translation>Effacer l&apos;objet source après le décalage&#xa0;?</translation>
     </message>
     <message>
         <source>Enter layer option for offset objects [Current/Source]</source>
@@ -2134,11 +2174,11 @@ L&apos;objet ne peut pas avoir cette longueur.</translation>
     </message>
     <message>
         <source> or [Exit/Undo] &lt;next object&gt;: </source>
-        <translation> ou [Exit/Undo] &lt;objet suivant&gt; : </translation>
+        <translation> ou [Exit/Undo] &lt;objet suivant&gt;&#xa0;: </translation>
     </message>
     <message>
         <source> or [Exit/Multiple/Undo] &lt;Exit&gt;: </source>
-        <translation> ou [Exit/Multiple/Undo] &lt;Exit&gt; : </translation>
+        <translation> ou [Exit/Multiple/Undo] &lt;Exit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot offset that object so far.</source>
@@ -2148,7 +2188,7 @@ L&apos;objet ne peut pas avoir cette longueur.</translation>
         <source>
 Select object to offset or [Exit/Undo] &lt;Exit&gt;: </source>
         <translation>
-Sélectionnez l&apos;objet à décaler ou [Exit/Undo] &lt;Exit&gt; : </translation>
+Sélectionnez l&apos;objet à décaler ou [Exit/Undo] &lt;Exit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot offset that object.</source>
@@ -2168,11 +2208,11 @@ Sélectionnez l&apos;objet à décaler ou [Exit/Undo] &lt;Exit&gt; : </translat
     </message>
     <message>
         <source>Combine lines and arcs that overlap?</source>
-        <translation>Réunir les lignes et arcs qui se recouvrent ?</translation>
+        <translation>Réunir les lignes et arcs qui se recouvrent&#xa0;?</translation>
     </message>
     <message>
         <source>Combine lines and arcs that meet end to end?</source>
-        <translation>Réunir les lignes et arcs qui se touchent bout à bout ?</translation>
+        <translation>Réunir les lignes et arcs qui se touchent bout à bout&#xa0;?</translation>
     </message>
     <message>
         <source>
@@ -2190,7 +2230,7 @@ Sélectionnez l&apos;objet à décaler ou [Exit/Undo] &lt;Exit&gt; : </translat
         <source>
 Select polyline or [Multiple]: </source>
         <translation>
-Sélectionnez une polyligne ou [Multiple] : </translation>
+Sélectionnez une polyligne ou [Multiple]&#xa0;: </translation>
     </message>
     <message>
         <source>Object selected is not a polyline.</source>
@@ -2204,7 +2244,7 @@ L&apos;objet sélectionné n&apos;est pas une polyligne</translation>
     </message>
     <message>
         <source>Do you want to turn it into one?</source>
-        <translation>Voulez-vous le transformer en polyligne ?</translation>
+        <translation>Voulez-vous le transformer en polyligne&#xa0;?</translation>
     </message>
     <message>
         <source>Convert Lines, Arcs and Splines to polylines</source>
@@ -2214,7 +2254,7 @@ L&apos;objet sélectionné n&apos;est pas une polyligne</translation>
         <source>
 Splines do not become part of a polyline: %1 left out.</source>
         <translation>
-Les splines ne deviennent pas partie d&apos;une polyligne : %1 omises.</translation>
+Les splines ne deviennent pas partie d&apos;une polyligne&#xa0;: %1 omises.</translation>
     </message>
     <message>
         <source>
@@ -2224,7 +2264,7 @@ Les splines ne deviennent pas partie d&apos;une polyligne : %1 omises.</transla
     </message>
     <message>
         <source>Enter fuzz distance or [Jointype] &lt;%1&gt;: </source>
-        <translation>Entrez la distance d&apos;approximation ou [Jointype] &lt;%1&gt; : </translation>
+        <translation>Entrez la distance d&apos;approximation ou [Jointype] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a vertex join type [Extend/Add/Both]</source>
@@ -2238,7 +2278,7 @@ Les splines ne deviennent pas partie d&apos;une polyligne : %1 omises.</transla
     </message>
     <message>
         <source>Specify new width for all segments: </source>
-        <translation>Spécifiez la nouvelle largeur de tous les segments : </translation>
+        <translation>Spécifiez la nouvelle largeur de tous les segments&#xa0;: </translation>
     </message>
     <message>
         <source>Enter polyline linetype generation option [ON/OFF]</source>
@@ -2246,19 +2286,19 @@ Les splines ne deviennent pas partie d&apos;une polyligne : %1 omises.</transla
     </message>
     <message>
         <source>Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation>Entrez une option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo] : </translation>
+        <translation>Entrez une option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </source>
-        <translation>Entrez une option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo] : </translation>
+        <translation>Entrez une option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation>Entrez une option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo] : </translation>
+        <translation>Entrez une option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Next/Previous/Go/eXit] &lt;N&gt;: </source>
-        <translation>Entrez une option [Next/Previous/Go/eXit] &lt;N&gt; : </translation>
+        <translation>Entrez une option [Next/Previous/Go/eXit] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2276,19 +2316,19 @@ Il ne resterait rien d&apos;un côté.</translation>
     </message>
     <message>
         <source>Specify location for new vertex: </source>
-        <translation>Spécifiez l&apos;emplacement du nouveau sommet : </translation>
+        <translation>Spécifiez l&apos;emplacement du nouveau sommet&#xa0;: </translation>
     </message>
     <message>
         <source>Specify direction of vertex tangent: </source>
-        <translation>Spécifiez la direction de la tangente au sommet : </translation>
+        <translation>Spécifiez la direction de la tangente au sommet&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </source>
-        <translation>Entrez une option d&apos;édition de sommet [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt; : </translation>
+        <translation>Entrez une option d&apos;édition de sommet [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new location for marked vertex: </source>
-        <translation>Spécifiez le nouvel emplacement du sommet marqué : </translation>
+        <translation>Spécifiez le nouvel emplacement du sommet marqué&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2322,11 +2362,11 @@ La commande a été entièrement annulée.</translation>
     </message>
     <message>
         <source>Specify first fence point: </source>
-        <translation>Spécifiez le premier point du trajet : </translation>
+        <translation>Spécifiez le premier point du trajet&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next fence point or [Undo]: </source>
-        <translation>Spécifiez le point suivant du trajet ou [Undo] : </translation>
+        <translation>Spécifiez le point suivant du trajet ou [Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a projection option [None/Ucs/View]</source>
@@ -2340,7 +2380,7 @@ La commande a été entièrement annulée.</translation>
         <source>
 Current settings: Projection=%1, Edge=%2</source>
         <translation>
-Paramètres courants : Projection=%1, Côté=%2</translation>
+Paramètres courants&#xa0;: Projection=%1, Côté=%2</translation>
     </message>
     <message>
         <source>
@@ -2356,51 +2396,51 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Select object to extend or [Fence/Crossing/Project/Edge/Undo]: </source>
-        <translation>Sélectionnez l&apos;objet à prolonger ou [Fence/Crossing/Project/Edge/Undo] : </translation>
+        <translation>Sélectionnez l&apos;objet à prolonger ou [Fence/Crossing/Project/Edge/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: </source>
-        <translation>Sélectionnez l&apos;objet à ajuster ou [Fence/Crossing/Project/Edge/eRase/Undo] : </translation>
+        <translation>Sélectionnez l&apos;objet à ajuster ou [Fence/Crossing/Project/Edge/eRase/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify included angle: </source>
-        <translation>Spécifiez l&apos;angle décrit : </translation>
+        <translation>Spécifiez l&apos;angle décrit&#xa0;: </translation>
     </message>
     <message>
         <source>Specify end point of arc or [Angle/chord Length]: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/chord Length] : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/chord Length]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify length of chord: </source>
-        <translation>Spécifiez la longueur de la corde : </translation>
+        <translation>Spécifiez la longueur de la corde&#xa0;: </translation>
     </message>
     <message>
         <source>Specify end point of arc: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center point of arc or [Angle/Direction/Radius]: </source>
-        <translation>Spécifiez le centre de l&apos;arc ou [Angle/Direction/Radius] : </translation>
+        <translation>Spécifiez le centre de l&apos;arc ou [Angle/Direction/Radius]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify tangent direction for the start point of arc: </source>
-        <translation>Spécifiez la direction de la tangente au point de départ de l&apos;arc : </translation>
+        <translation>Spécifiez la direction de la tangente au point de départ de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify radius of arc: </source>
-        <translation>Spécifiez le rayon de l&apos;arc : </translation>
+        <translation>Spécifiez le rayon de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point of arc or [Center/End]: </source>
-        <translation>Spécifiez le second point de l&apos;arc ou [Center/End] : </translation>
+        <translation>Spécifiez le second point de l&apos;arc ou [Center/End]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center point of arc: </source>
-        <translation>Spécifiez le centre de l&apos;arc : </translation>
+        <translation>Spécifiez le centre de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start point of arc or [Center]: </source>
-        <translation>Spécifiez le point de départ de l&apos;arc ou [Center] : </translation>
+        <translation>Spécifiez le point de départ de l&apos;arc ou [Center]&#xa0;: </translation>
     </message>
     <message>
         <source>No line or arc to continue.</source>
@@ -2408,7 +2448,7 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify start point of arc: </source>
-        <translation>Spécifiez le point de départ de l&apos;arc : </translation>
+        <translation>Spécifiez le point de départ de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>There is no such arc.</source>
@@ -2416,27 +2456,27 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify first end point of circle&apos;s diameter: </source>
-        <translation>Spécifiez la première extrémité du diamètre du cercle : </translation>
+        <translation>Spécifiez la première extrémité du diamètre du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second end point of circle&apos;s diameter: </source>
-        <translation>Spécifiez la seconde extrémité du diamètre du cercle : </translation>
+        <translation>Spécifiez la seconde extrémité du diamètre du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first point on circle: </source>
-        <translation>Spécifiez le premier point du cercle : </translation>
+        <translation>Spécifiez le premier point du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point on circle: </source>
-        <translation>Spécifiez le second point du cercle : </translation>
+        <translation>Spécifiez le second point du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify third point on circle: </source>
-        <translation>Spécifiez le troisième point du cercle : </translation>
+        <translation>Spécifiez le troisième point du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Circle does not exist: the points lie in one line.</source>
-        <translation>Le cercle n&apos;existe pas : les points sont alignés.</translation>
+        <translation>Le cercle n&apos;existe pas&#xa0;: les points sont alignés.</translation>
     </message>
     <message>
         <source>Specify diameter of circle</source>
@@ -2444,11 +2484,11 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify point on object for first tangent of circle: </source>
-        <translation>Spécifiez un point sur l&apos;objet pour la première tangente du cercle : </translation>
+        <translation>Spécifiez un point sur l&apos;objet pour la première tangente du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on object for second tangent of circle: </source>
-        <translation>Spécifiez un point sur l&apos;objet pour la seconde tangente du cercle : </translation>
+        <translation>Spécifiez un point sur l&apos;objet pour la seconde tangente du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a line, an arc or a circle in the user&apos;s plane.</source>
@@ -2464,7 +2504,7 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: </source>
-        <translation>Spécifiez le centre du cercle ou [3P/2P/Ttr (tan tan radius)] : </translation>
+        <translation>Spécifiez le centre du cercle ou [3P/2P/Ttr (tan tan radius)]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify radius of circle or [Diameter]</source>
@@ -2472,15 +2512,15 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Circle does not exist: the points are one.</source>
-        <translation>Le cercle n&apos;existe pas : les points n&apos;en font qu&apos;un.</translation>
+        <translation>Le cercle n&apos;existe pas&#xa0;: les points n&apos;en font qu&apos;un.</translation>
     </message>
     <message>
         <source>Specify through point: </source>
-        <translation>Spécifiez le point de passage : </translation>
+        <translation>Spécifiez le point de passage&#xa0;: </translation>
     </message>
     <message>
         <source>Select a line object: </source>
-        <translation>Sélectionnez une ligne : </translation>
+        <translation>Sélectionnez une ligne&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a line, a ray or a straight part of a polyline.</source>
@@ -2488,55 +2528,55 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Enter angle of xline (%1) or [Reference]: </source>
-        <translation>Entrez l&apos;angle de la droite (%1) ou [Reference] : </translation>
+        <translation>Entrez l&apos;angle de la droite (%1) ou [Reference]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter angle of xline &lt;%1&gt;: </source>
-        <translation>Entrez l&apos;angle de la droite &lt;%1&gt; : </translation>
+        <translation>Entrez l&apos;angle de la droite &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify angle vertex point: </source>
-        <translation>Spécifiez le sommet de l&apos;angle : </translation>
+        <translation>Spécifiez le sommet de l&apos;angle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify angle start point: </source>
-        <translation>Spécifiez le point de départ de l&apos;angle : </translation>
+        <translation>Spécifiez le point de départ de l&apos;angle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify angle end point: </source>
-        <translation>Spécifiez le point de fin de l&apos;angle : </translation>
+        <translation>Spécifiez le point de fin de l&apos;angle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through] &lt;%1&gt;: </source>
-        <translation>Spécifiez la distance de décalage ou [Through] &lt;%1&gt; : </translation>
+        <translation>Spécifiez la distance de décalage ou [Through] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify side to offset: </source>
-        <translation>Spécifiez le côté à décaler : </translation>
+        <translation>Spécifiez le côté à décaler&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a point or [Hor/Ver/Ang/Bisect/Offset]: </source>
-        <translation>Spécifiez un point ou [Hor/Ver/Ang/Bisect/Offset] : </translation>
+        <translation>Spécifiez un point ou [Hor/Ver/Ang/Bisect/Offset]&#xa0;: </translation>
     </message>
     <message>
         <source>Length of line: </source>
-        <translation>Longueur de la ligne : </translation>
+        <translation>Longueur de la ligne&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo]: </source>
-        <translation>Spécifiez le point suivant ou [Close/Undo] : </translation>
+        <translation>Spécifiez le point suivant ou [Close/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a point: </source>
-        <translation>Spécifiez un point : </translation>
+        <translation>Spécifiez un point&#xa0;: </translation>
     </message>
     <message>
         <source>Specify distance to other axis or [Rotation]: </source>
-        <translation>Spécifiez la distance à l&apos;autre axe ou [Rotation] : </translation>
+        <translation>Spécifiez la distance à l&apos;autre axe ou [Rotation]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify rotation around major axis: </source>
-        <translation>Spécifiez la rotation autour du grand axe : </translation>
+        <translation>Spécifiez la rotation autour du grand axe&#xa0;: </translation>
     </message>
     <message>
         <source>An ellipse is turned by 0 to 89.4 degrees.</source>
@@ -2544,15 +2584,15 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify center of ellipse: </source>
-        <translation>Spécifiez le centre de l&apos;ellipse : </translation>
+        <translation>Spécifiez le centre de l&apos;ellipse&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of axis: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;axe : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;axe&#xa0;: </translation>
     </message>
     <message>
         <source>Specify other endpoint of axis: </source>
-        <translation>Spécifiez l&apos;autre extrémité de l&apos;axe : </translation>
+        <translation>Spécifiez l&apos;autre extrémité de l&apos;axe&#xa0;: </translation>
     </message>
     <message>
         <source>The endpoints of the axis are one point.</source>
@@ -2560,39 +2600,39 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify end parameter or [Angle/Included angle]: </source>
-        <translation>Spécifiez le paramètre de fin ou [Angle/Included angle] : </translation>
+        <translation>Spécifiez le paramètre de fin ou [Angle/Included angle]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify end angle or [Parameter/Included angle]: </source>
-        <translation>Spécifiez l&apos;angle de fin ou [Parameter/Included angle] : </translation>
+        <translation>Spécifiez l&apos;angle de fin ou [Parameter/Included angle]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start parameter or [Angle]: </source>
-        <translation>Spécifiez le paramètre de départ ou [Angle] : </translation>
+        <translation>Spécifiez le paramètre de départ ou [Angle]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start angle or [Parameter]: </source>
-        <translation>Spécifiez l&apos;angle de départ ou [Parameter] : </translation>
+        <translation>Spécifiez l&apos;angle de départ ou [Parameter]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify included angle for arc &lt;180&gt;: </source>
-        <translation>Spécifiez l&apos;angle décrit par l&apos;arc &lt;180&gt; : </translation>
+        <translation>Spécifiez l&apos;angle décrit par l&apos;arc &lt;180&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify axis endpoint of ellipse or [Arc/Center]: </source>
-        <translation>Spécifiez l&apos;extrémité d&apos;axe de l&apos;ellipse ou [Arc/Center] : </translation>
+        <translation>Spécifiez l&apos;extrémité d&apos;axe de l&apos;ellipse ou [Arc/Center]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify axis endpoint of elliptical arc or [Center]: </source>
-        <translation>Spécifiez l&apos;extrémité d&apos;axe de l&apos;arc elliptique ou [Center] : </translation>
+        <translation>Spécifiez l&apos;extrémité d&apos;axe de l&apos;arc elliptique ou [Center]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify third point: </source>
-        <translation>Spécifiez le troisième point : </translation>
+        <translation>Spécifiez le troisième point&#xa0;: </translation>
     </message>
     <message>
         <source>Specify fourth point or &lt;exit&gt;: </source>
-        <translation>Spécifiez le quatrième point ou &lt;quitter&gt; : </translation>
+        <translation>Spécifiez le quatrième point ou &lt;quitter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify trace width</source>
@@ -2600,31 +2640,31 @@ Sélectionnez les arêtes sécantes ...</translation>
     </message>
     <message>
         <source>Specify first point or [Invisible]: </source>
-        <translation>Spécifiez le premier point ou [Invisible] : </translation>
+        <translation>Spécifiez le premier point ou [Invisible]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point or [Invisible]: </source>
-        <translation>Spécifiez le second point ou [Invisible] : </translation>
+        <translation>Spécifiez le second point ou [Invisible]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify third point or [Invisible] &lt;exit&gt;: </source>
-        <translation>Spécifiez le troisième point ou [Invisible] &lt;quitter&gt; : </translation>
+        <translation>Spécifiez le troisième point ou [Invisible] &lt;quitter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify fourth point or [Invisible] &lt;create three-sided face&gt;: </source>
-        <translation>Spécifiez le quatrième point ou [Invisible] &lt;créer une face à trois côtés&gt; : </translation>
+        <translation>Spécifiez le quatrième point ou [Invisible] &lt;créer une face à trois côtés&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start point of polyline: </source>
-        <translation>Spécifiez le point de départ de la polyligne : </translation>
+        <translation>Spécifiez le point de départ de la polyligne&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Close/Undo]: </source>
-        <translation>Spécifiez l&apos;extrémité de la ligne ou [Close/Undo] : </translation>
+        <translation>Spécifiez l&apos;extrémité de la ligne ou [Close/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Undo]: </source>
-        <translation>Spécifiez l&apos;extrémité de la ligne ou [Undo] : </translation>
+        <translation>Spécifiez l&apos;extrémité de la ligne ou [Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2634,7 +2674,7 @@ Tous les segments sont déjà annulés.</translation>
     </message>
     <message>
         <source>Enter mline style name or [?]: </source>
-        <translation>Entrez le nom du style de multiligne ou [?] : </translation>
+        <translation>Entrez le nom du style de multiligne ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find multiline style &quot;%1&quot;.</source>
@@ -2644,11 +2684,11 @@ Tous les segments sont déjà annulés.</translation>
         <source>
 Current settings: Justification = %1, Scale = %2, Style = %3</source>
         <translation>
-Paramètres courants : Justification = %1, Échelle = %2, Style = %3</translation>
+Paramètres courants&#xa0;: Justification = %1, Échelle = %2, Style = %3</translation>
     </message>
     <message>
         <source>Specify start point or [Justification/Scale/STyle]: </source>
-        <translation>Spécifiez le point de départ ou [Justification/Scale/STyle] : </translation>
+        <translation>Spécifiez le point de départ ou [Justification/Scale/STyle]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter justification type [Top/Zero/Bottom]</source>
@@ -2656,11 +2696,11 @@ Paramètres courants : Justification = %1, Échelle = %2, Style = %3</translati
     </message>
     <message>
         <source>Enter mline scale &lt;%1&gt;: </source>
-        <translation>Entrez l&apos;échelle de la multiligne &lt;%1&gt; : </translation>
+        <translation>Entrez l&apos;échelle de la multiligne &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter number of sides &lt;%1&gt;: </source>
-        <translation>Entrez le nombre de côtés &lt;%1&gt; : </translation>
+        <translation>Entrez le nombre de côtés &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>A polygon has 3 to 1024 sides.</source>
@@ -2668,11 +2708,11 @@ Paramètres courants : Justification = %1, Échelle = %2, Style = %3</translati
     </message>
     <message>
         <source>Specify first endpoint of edge: </source>
-        <translation>Spécifiez la première extrémité du côté : </translation>
+        <translation>Spécifiez la première extrémité du côté&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second endpoint of edge: </source>
-        <translation>Spécifiez la seconde extrémité du côté : </translation>
+        <translation>Spécifiez la seconde extrémité du côté&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Inscribed in circle/Circumscribed about circle]</source>
@@ -2680,11 +2720,11 @@ Paramètres courants : Justification = %1, Échelle = %2, Style = %3</translati
     </message>
     <message>
         <source>Specify radius of circle: </source>
-        <translation>Spécifiez le rayon du cercle : </translation>
+        <translation>Spécifiez le rayon du cercle&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center of polygon or [Edge]: </source>
-        <translation>Spécifiez le centre du polygone ou [Edge] : </translation>
+        <translation>Spécifiez le centre du polygone ou [Edge]&#xa0;: </translation>
     </message>
     <message>
         <source>The endpoints of the edge are one point.</source>
@@ -2700,63 +2740,63 @@ Paramètres courants : Justification = %1, Échelle = %2, Style = %3</translati
     </message>
     <message>
         <source>Specify center of donut or &lt;exit&gt;: </source>
-        <translation>Spécifiez le centre de l&apos;anneau ou &lt;quitter&gt; : </translation>
+        <translation>Spécifiez le centre de l&apos;anneau ou &lt;quitter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify direction of chord for arc &lt;%1&gt;: </source>
-        <translation>Spécifiez la direction de la corde de l&apos;arc &lt;%1&gt; : </translation>
+        <translation>Spécifiez la direction de la corde de l&apos;arc &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [CEnter/Radius]: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [CEnter/Radius] : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [CEnter/Radius]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/Length]: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/Length] : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/Length]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify the tangent direction for the start point of arc: </source>
-        <translation>Spécifiez la direction de la tangente au point de départ de l&apos;arc : </translation>
+        <translation>Spécifiez la direction de la tangente au point de départ de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of the arc: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle]: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle] : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point on arc: </source>
-        <translation>Spécifiez le second point de l&apos;arc : </translation>
+        <translation>Spécifiez le second point de l&apos;arc&#xa0;: </translation>
     </message>
     <message>
         <source>Specify starting half-width &lt;%1&gt;: </source>
-        <translation>Spécifiez la demi-largeur de départ &lt;%1&gt; : </translation>
+        <translation>Spécifiez la demi-largeur de départ &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify ending half-width &lt;%1&gt;: </source>
-        <translation>Spécifiez la demi-largeur de fin &lt;%1&gt; : </translation>
+        <translation>Spécifiez la demi-largeur de fin &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify starting width &lt;%1&gt;: </source>
-        <translation>Spécifiez la largeur de départ &lt;%1&gt; : </translation>
+        <translation>Spécifiez la largeur de départ &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify ending width &lt;%1&gt;: </source>
-        <translation>Spécifiez la largeur de fin &lt;%1&gt; : </translation>
+        <translation>Spécifiez la largeur de fin &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify length of line: </source>
-        <translation>Spécifiez la longueur de la ligne : </translation>
+        <translation>Spécifiez la longueur de la ligne&#xa0;: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </source>
-        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width] : </translation>
+        <translation>Spécifiez l&apos;extrémité de l&apos;arc ou [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: </source>
-        <translation>Spécifiez le point suivant ou [Arc/%1Halfwidth/Length/Undo/Width] : </translation>
+        <translation>Spécifiez le point suivant ou [Arc/%1Halfwidth/Length/Undo/Width]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2778,7 +2818,7 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: </source>
-        <translation>Spécifiez le premier coin ou [Chamfer/Elevation/Fillet/Thickness/Width] : </translation>
+        <translation>Spécifiez le premier coin ou [Chamfer/Elevation/Fillet/Thickness/Width]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify the elevation for rectangles</source>
@@ -2810,11 +2850,11 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Pick points] &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle de rotation ou [Pick points] &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Pick points] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify other corner point or [Area/Dimensions/Rotation]: </source>
-        <translation>Spécifiez l&apos;autre coin ou [Area/Dimensions/Rotation] : </translation>
+        <translation>Spécifiez l&apos;autre coin ou [Area/Dimensions/Rotation]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify length for rectangles</source>
@@ -2830,43 +2870,43 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>1 loop rejected: it crosses itself or branches.</source>
-        <translation>1 boucle rejetée : elle se croise ou se ramifie.</translation>
+        <translation>1 boucle rejetée&#xa0;: elle se croise ou se ramifie.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it crosses itself or branches.</source>
-        <translation>%1 boucles rejetées : elles se croisent ou se ramifient.</translation>
+        <translation>%1 boucles rejetées&#xa0;: elles se croisent ou se ramifient.</translation>
     </message>
     <message>
         <source>1 loop rejected: it does not lie in a plane.</source>
-        <translation>1 boucle rejetée : elle n&apos;est pas plane.</translation>
+        <translation>1 boucle rejetée&#xa0;: elle n&apos;est pas plane.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it does not lie in a plane.</source>
-        <translation>%1 boucles rejetées : elles ne sont pas planes.</translation>
+        <translation>%1 boucles rejetées&#xa0;: elles ne sont pas planes.</translation>
     </message>
     <message>
         <source>1 loop rejected: it encloses nothing.</source>
-        <translation>1 boucle rejetée : elle n&apos;entoure rien.</translation>
+        <translation>1 boucle rejetée&#xa0;: elle n&apos;entoure rien.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it encloses nothing.</source>
-        <translation>%1 boucles rejetées : elles n&apos;entourent rien.</translation>
+        <translation>%1 boucles rejetées&#xa0;: elles n&apos;entourent rien.</translation>
     </message>
     <message>
         <source>1 curve rejected: it is not part of a closed loop.</source>
-        <translation>1 courbe rejetée : elle ne fait pas partie d&apos;une boucle fermée.</translation>
+        <translation>1 courbe rejetée&#xa0;: elle ne fait pas partie d&apos;une boucle fermée.</translation>
     </message>
     <message>
         <source>%1 curves rejected: it is not part of a closed loop.</source>
-        <translation>%1 courbes rejetées : elles ne font pas partie d&apos;une boucle fermée.</translation>
+        <translation>%1 courbes rejetées&#xa0;: elles ne font pas partie d&apos;une boucle fermée.</translation>
     </message>
     <message>
         <source>1 object rejected: it is no curve.</source>
-        <translation>1 objet rejeté : ce n&apos;est pas une courbe.</translation>
+        <translation>1 objet rejeté&#xa0;: ce n&apos;est pas une courbe.</translation>
     </message>
     <message>
         <source>%1 objects rejected: it is no curve.</source>
-        <translation>%1 objets rejetés : ce ne sont pas des courbes.</translation>
+        <translation>%1 objets rejetés&#xa0;: ce ne sont pas des courbes.</translation>
     </message>
     <message>
         <source>Drawings of R12 have no regions.</source>
@@ -2894,15 +2934,15 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Specify maximum length of arc &lt;%1&gt;: </source>
-        <translation>Spécifiez la longueur maximale des arcs &lt;%1&gt; : </translation>
+        <translation>Spécifiez la longueur maximale des arcs &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation>Spécifiez le premier coin ou [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt; : </translation>
+        <translation>Spécifiez le premier coin ou [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify start point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation>Spécifiez le point de départ ou [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt; : </translation>
+        <translation>Spécifiez le point de départ ou [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select arc style [Normal/Calligraphy]</source>
@@ -2910,7 +2950,7 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Enter name of shape file to load: </source>
-        <translation>Entrez le nom du fichier de formes à charger : </translation>
+        <translation>Entrez le nom du fichier de formes à charger&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot read shape file &quot;%1&quot;.</source>
@@ -2918,7 +2958,7 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Enter shape name: </source>
-        <translation>Entrez le nom de la forme : </translation>
+        <translation>Entrez le nom de la forme&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find shape &quot;%1&quot;. Load its file first.</source>
@@ -2926,7 +2966,7 @@ La largeur de ligne courante est %1</translation>
     </message>
     <message>
         <source>Specify height &lt;1&gt;: </source>
-        <translation>Spécifiez la hauteur &lt;1&gt; : </translation>
+        <translation>Spécifiez la hauteur &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2936,11 +2976,11 @@ Seules les polylignes lissées en splines peuvent être converties.</translation
     </message>
     <message>
         <source>Specify first point or [Method/Knots/Object]: </source>
-        <translation>Spécifiez le premier point ou [Method/Knots/Object] : </translation>
+        <translation>Spécifiez le premier point ou [Method/Knots/Object]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first point or [Method/Degree/Object]: </source>
-        <translation>Spécifiez le premier point ou [Method/Degree/Object] : </translation>
+        <translation>Spécifiez le premier point ou [Method/Degree/Object]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter spline creation method [Fit/CV]</source>
@@ -2952,19 +2992,19 @@ Seules les polylignes lissées en splines peuvent être converties.</translation
     </message>
     <message>
         <source>Enter degree of spline &lt;%1&gt;: </source>
-        <translation>Entrez le degré de la spline &lt;%1&gt; : </translation>
+        <translation>Entrez le degré de la spline &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter next point or [%1Undo]: </source>
-        <translation>Entrez le point suivant ou [%1Undo] : </translation>
+        <translation>Entrez le point suivant ou [%1Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter next point or [start Tangency/toLerance]: </source>
-        <translation>Entrez le point suivant ou [start Tangency/toLerance] : </translation>
+        <translation>Entrez le point suivant ou [start Tangency/toLerance]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter next point or [%1Fit tolerance/Undo/end Tangency] &lt;start tangent&gt;: </source>
-        <translation>Entrez le point suivant ou [%1Fit tolerance/Undo/end Tangency] &lt;tangente de départ&gt; : </translation>
+        <translation>Entrez le point suivant ou [%1Fit tolerance/Undo/end Tangency] &lt;tangente de départ&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -2974,11 +3014,11 @@ Tous les points sont déjà annulés.</translation>
     </message>
     <message>
         <source>Specify start tangent: </source>
-        <translation>Spécifiez la tangente de départ : </translation>
+        <translation>Spécifiez la tangente de départ&#xa0;: </translation>
     </message>
     <message>
         <source>Specify end tangent: </source>
-        <translation>Spécifiez la tangente de fin : </translation>
+        <translation>Spécifiez la tangente de fin&#xa0;: </translation>
     </message>
     <message>
         <source>Specify fit tolerance</source>
@@ -2986,35 +3026,35 @@ Tous les points sont déjà annulés.</translation>
     </message>
     <message>
         <source>Specify tangent: </source>
-        <translation>Spécifiez la tangente : </translation>
+        <translation>Spécifiez la tangente&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first source point: </source>
-        <translation>Spécifiez le premier point source : </translation>
+        <translation>Spécifiez le premier point source&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first destination point: </source>
-        <translation>Spécifiez le premier point de destination : </translation>
+        <translation>Spécifiez le premier point de destination&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second source point: </source>
-        <translation>Spécifiez le deuxième point source : </translation>
+        <translation>Spécifiez le deuxième point source&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second destination point: </source>
-        <translation>Spécifiez le deuxième point de destination : </translation>
+        <translation>Spécifiez le deuxième point de destination&#xa0;: </translation>
     </message>
     <message>
         <source>Specify third source point or &lt;continue&gt;: </source>
-        <translation>Spécifiez le troisième point source ou &lt;continuer&gt; : </translation>
+        <translation>Spécifiez le troisième point source ou &lt;continuer&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify third destination point: </source>
-        <translation>Spécifiez le troisième point de destination : </translation>
+        <translation>Spécifiez le troisième point de destination&#xa0;: </translation>
     </message>
     <message>
         <source>Scale objects based on alignment points? [Yes/No] &lt;N&gt;: </source>
-        <translation>Mettre les objets à l&apos;échelle d&apos;après les points d&apos;alignement ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Mettre les objets à l&apos;échelle d&apos;après les points d&apos;alignement&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The points say no direction.</source>
@@ -3022,41 +3062,41 @@ Tous les points sont déjà annulés.</translation>
     </message>
     <message>
         <source>Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: </source>
-        <translation>Spécifiez le premier point de l&apos;axe ou définissez l&apos;axe par [Xaxis/Yaxis/Zaxis/2points] : </translation>
+        <translation>Spécifiez le premier point de l&apos;axe ou définissez l&apos;axe par [Xaxis/Yaxis/Zaxis/2points]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a point on the %1 axis &lt;0,0,0&gt;: </source>
-        <translation>Spécifiez un point sur l&apos;axe %1 &lt;0,0,0&gt; : </translation>
+        <translation>Spécifiez un point sur l&apos;axe %1 &lt;0,0,0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first point on axis: </source>
-        <translation>Spécifiez le premier point de l&apos;axe : </translation>
+        <translation>Spécifiez le premier point de l&apos;axe&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point on axis: </source>
-        <translation>Spécifiez le second point de l&apos;axe : </translation>
+        <translation>Spécifiez le second point de l&apos;axe&#xa0;: </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Reference]: </source>
-        <translation>Spécifiez l&apos;angle de rotation ou [Reference] : </translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Reference]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify the distance between columns (|||): </source>
-        <translation>Spécifiez la distance entre les colonnes (|||) : </translation>
+        <translation>Spécifiez la distance entre les colonnes (|||)&#xa0;: </translation>
     </message>
     <message>
         <source>
 Enter the distance between rows or specify unit cell (---): </source>
         <translation>
-Entrez la distance entre les rangées ou spécifiez une cellule (---) : </translation>
+Entrez la distance entre les rangées ou spécifiez une cellule (---)&#xa0;: </translation>
     </message>
     <message>
         <source>Enter the number of rows (---) &lt;1&gt;: </source>
-        <translation>Entrez le nombre de rangées (---) &lt;1&gt; : </translation>
+        <translation>Entrez le nombre de rangées (---) &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter the number of columns (|||) &lt;1&gt;: </source>
-        <translation>Entrez le nombre de colonnes (|||) &lt;1&gt; : </translation>
+        <translation>Entrez le nombre de colonnes (|||) &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>One-element array, nothing to do.</source>
@@ -3068,27 +3108,27 @@ Entrez la distance entre les rangées ou spécifiez une cellule (---) : </trans
     </message>
     <message>
         <source>Enter the number of items in the array: </source>
-        <translation>Entrez le nombre d&apos;éléments du réseau : </translation>
+        <translation>Entrez le nombre d&apos;éléments du réseau&#xa0;: </translation>
     </message>
     <message>
         <source>Specify the angle to fill (+=ccw, -=cw) &lt;360&gt;: </source>
-        <translation>Spécifiez l&apos;angle à décrire (+=sens trigonométrique, -=sens horaire) &lt;360&gt; : </translation>
+        <translation>Spécifiez l&apos;angle à décrire (+=sens trigonométrique, -=sens horaire) &lt;360&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Angle between items: </source>
-        <translation>Angle entre les éléments : </translation>
+        <translation>Angle entre les éléments&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center point of array or [Base]: </source>
-        <translation>Spécifiez le centre du réseau ou [Base] : </translation>
+        <translation>Spécifiez le centre du réseau ou [Base]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify base point of objects: </source>
-        <translation>Spécifiez le point de base des objets : </translation>
+        <translation>Spécifiez le point de base des objets&#xa0;: </translation>
     </message>
     <message>
         <source>Specify center point of array: </source>
-        <translation>Spécifiez le centre du réseau : </translation>
+        <translation>Spécifiez le centre du réseau&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a number of items or an angle between them.</source>
@@ -3096,55 +3136,55 @@ Entrez la distance entre les rangées ou spécifiez une cellule (---) : </trans
     </message>
     <message>
         <source>Rotate arrayed objects? [Yes/No] &lt;Y&gt;: </source>
-        <translation>Faire pivoter les objets du réseau ? [Yes/No] &lt;Y&gt; : </translation>
+        <translation>Faire pivoter les objets du réseau&#xa0;? [Yes/No] &lt;Y&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter the type of array [Rectangular/Polar] &lt;R&gt;: </source>
-        <translation>Entrez le type de réseau [Rectangular/Polar] &lt;R&gt; : </translation>
+        <translation>Entrez le type de réseau [Rectangular/Polar] &lt;R&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter property to change [%1]: </source>
-        <translation>Entrez la propriété à modifier [%1] : </translation>
+        <translation>Entrez la propriété à modifier [%1]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify change point or [Properties]: </source>
-        <translation>Spécifiez le point de modification ou [Properties] : </translation>
+        <translation>Spécifiez le point de modification ou [Properties]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new text style &lt;%1&gt;: </source>
-        <translation>Entrez le nouveau style de texte &lt;%1&gt; : </translation>
+        <translation>Entrez le nouveau style de texte &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new rotation angle &lt;%1&gt;: </source>
-        <translation>Spécifiez le nouvel angle de rotation &lt;%1&gt; : </translation>
+        <translation>Spécifiez le nouvel angle de rotation &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new text &lt;%1&gt;: </source>
-        <translation>Entrez le nouveau texte &lt;%1&gt; : </translation>
+        <translation>Entrez le nouveau texte &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new tag &lt;%1&gt;: </source>
-        <translation>Entrez la nouvelle étiquette &lt;%1&gt; : </translation>
+        <translation>Entrez la nouvelle étiquette &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new prompt &lt;%1&gt;: </source>
-        <translation>Entrez la nouvelle invite &lt;%1&gt; : </translation>
+        <translation>Entrez la nouvelle invite &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new default value &lt;%1&gt;: </source>
-        <translation>Entrez la nouvelle valeur par défaut &lt;%1&gt; : </translation>
+        <translation>Entrez la nouvelle valeur par défaut &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new text insertion point &lt;no change&gt;: </source>
-        <translation>Spécifiez le nouveau point d&apos;insertion du texte &lt;aucun changement&gt; : </translation>
+        <translation>Spécifiez le nouveau point d&apos;insertion du texte &lt;aucun changement&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new block insertion point &lt;no change&gt;: </source>
-        <translation>Spécifiez le nouveau point d&apos;insertion du bloc &lt;aucun changement&gt; : </translation>
+        <translation>Spécifiez le nouveau point d&apos;insertion du bloc &lt;aucun changement&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new block rotation angle &lt;%1&gt;: </source>
-        <translation>Spécifiez le nouvel angle de rotation du bloc &lt;%1&gt; : </translation>
+        <translation>Spécifiez le nouvel angle de rotation du bloc &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3154,11 +3194,11 @@ Entrez la distance entre les rangées ou spécifiez une cellule (---) : </trans
     </message>
     <message>
         <source>Enter object ordering option [Above objects/Under objects/Front/Back] &lt;Back&gt;: </source>
-        <translation>Entrez une option d&apos;ordre des objets [Above objects/Under objects/Front/Back] &lt;Back&gt; : </translation>
+        <translation>Entrez une option d&apos;ordre des objets [Above objects/Under objects/Front/Back] &lt;Back&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter number of items to array: </source>
-        <translation>Entrez le nombre d&apos;éléments du réseau : </translation>
+        <translation>Entrez le nombre d&apos;éléments du réseau&#xa0;: </translation>
     </message>
     <message>
         <source>Requires an integer of 2 or more.</source>
@@ -3166,33 +3206,33 @@ Entrez la distance entre les rangées ou spécifiez une cellule (---) : </trans
     </message>
     <message>
         <source>Specify second point or [Fit]: </source>
-        <translation>Spécifiez le second point ou [Fit] : </translation>
+        <translation>Spécifiez le second point ou [Fit]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point or [Array] &lt;use first point as displacement&gt;: </source>
-        <translation>Spécifiez le second point ou [Array] &lt;utiliser le premier point comme déplacement&gt; : </translation>
+        <translation>Spécifiez le second point ou [Array] &lt;utiliser le premier point comme déplacement&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point or [Array/Exit/Undo] &lt;Exit&gt;: </source>
-        <translation>Spécifiez le second point ou [Array/Exit/Undo] &lt;Exit&gt; : </translation>
+        <translation>Spécifiez le second point ou [Array/Exit/Undo] &lt;Exit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement/mOde] &lt;Displacement&gt;: </source>
-        <translation>Spécifiez le point de base ou [Displacement/mOde] &lt;Displacement&gt; : </translation>
+        <translation>Spécifiez le point de base ou [Displacement/mOde] &lt;Displacement&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a copy mode option [Single/Multiple] &lt;Multiple&gt;: </source>
-        <translation>Entrez une option de mode de copie [Single/Multiple] &lt;Multiple&gt; : </translation>
+        <translation>Entrez une option de mode de copie [Single/Multiple] &lt;Multiple&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current positive angle in UCS:  ANGDIR=%1  ANGBASE=%2</source>
         <translation>
-Angle positif courant dans le SCU :  ANGDIR=%1  ANGBASE=%2</translation>
+Angle positif courant dans le SCU&#xa0;:  ANGDIR=%1  ANGBASE=%2</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Copy/Reference] &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;angle de rotation ou [Copy/Reference] &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Copy/Reference] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3202,7 +3242,7 @@ Rotation d&apos;une copie des objets sélectionnés.</translation>
     </message>
     <message>
         <source>Specify scale factor or [Copy/Reference]: </source>
-        <translation>Spécifiez le facteur d&apos;échelle ou [Copy/Reference] : </translation>
+        <translation>Spécifiez le facteur d&apos;échelle ou [Copy/Reference]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3220,11 +3260,11 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation>Nouvelle couleur [Truecolor/COlorbook] &lt;%1&gt; : </translation>
+        <translation>Nouvelle couleur [Truecolor/COlorbook] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Red,Green,Blue: </source>
-        <translation>Rouge,Vert,Bleu : </translation>
+        <translation>Rouge,Vert,Bleu&#xa0;: </translation>
     </message>
     <message>
         <source>This program has no color books.</source>
@@ -3236,11 +3276,11 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>Enter new layer name &lt;%1&gt;: </source>
-        <translation>Entrez le nouveau nom de calque &lt;%1&gt; : </translation>
+        <translation>Entrez le nouveau nom de calque &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new linetype name &lt;%1&gt;: </source>
-        <translation>Entrez le nouveau nom de type de ligne &lt;%1&gt; : </translation>
+        <translation>Entrez le nouveau nom de type de ligne &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find linetype &quot;%1&quot;.</source>
@@ -3248,11 +3288,11 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>Specify new linetype scale &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle échelle du type de ligne &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle échelle du type de ligne &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new lineweight &lt;%1&gt;: </source>
-        <translation>Entrez la nouvelle épaisseur de ligne &lt;%1&gt; : </translation>
+        <translation>Entrez la nouvelle épaisseur de ligne &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no lineweights.</source>
@@ -3264,11 +3304,11 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>Specify new thickness &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle épaisseur &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle épaisseur &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new transparency value &lt;ByLayer&gt;: </source>
-        <translation>Entrez la nouvelle valeur de transparence &lt;ByLayer&gt; : </translation>
+        <translation>Entrez la nouvelle valeur de transparence &lt;ByLayer&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no transparency.</source>
@@ -3280,7 +3320,7 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>Specify new elevation &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle élévation &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle élévation &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3290,23 +3330,23 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>Specify stretch point or [Base point/Copy/Undo/eXit]: </source>
-        <translation>Spécifiez le point d&apos;étirement ou [Base point/Copy/Undo/eXit] : </translation>
+        <translation>Spécifiez le point d&apos;étirement ou [Base point/Copy/Undo/eXit]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify move point or [Base point/Copy/Undo/eXit]: </source>
-        <translation>Spécifiez le point de déplacement ou [Base point/Copy/Undo/eXit] : </translation>
+        <translation>Spécifiez le point de déplacement ou [Base point/Copy/Undo/eXit]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation>Spécifiez l&apos;angle de rotation ou [Base point/Copy/Undo/Reference/eXit] : </translation>
+        <translation>Spécifiez l&apos;angle de rotation ou [Base point/Copy/Undo/Reference/eXit]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation>Spécifiez le facteur d&apos;échelle ou [Base point/Copy/Undo/Reference/eXit] : </translation>
+        <translation>Spécifiez le facteur d&apos;échelle ou [Base point/Copy/Undo/Reference/eXit]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point or [Base point/Copy/Undo/eXit]: </source>
-        <translation>Spécifiez le second point ou [Base point/Copy/Undo/eXit] : </translation>
+        <translation>Spécifiez le second point ou [Base point/Copy/Undo/eXit]&#xa0;: </translation>
     </message>
     <message>
         <source> (multiple)</source>
@@ -3314,7 +3354,7 @@ Mise à l&apos;échelle d&apos;une copie des objets sélectionnés.</translation
     </message>
     <message>
         <source>Specify grips to move: </source>
-        <translation>Spécifiez les poignées à déplacer : </translation>
+        <translation>Spécifiez les poignées à déplacer&#xa0;: </translation>
     </message>
     <message>
         <source>There is no grip of the chosen entities.</source>
@@ -3328,7 +3368,7 @@ Il n&apos;y a rien à annuler.</translation>
     </message>
     <message>
         <source>Enter a setting to switch off or on [%1] &lt;exit&gt;: </source>
-        <translation>Entrez un paramètre à désactiver ou activer [%1] &lt;quitter&gt; : </translation>
+        <translation>Entrez un paramètre à désactiver ou activer [%1] &lt;quitter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3338,17 +3378,17 @@ Il n&apos;y a rien à annuler.</translation>
     </message>
     <message>
         <source>Select source object: </source>
-        <translation>Sélectionnez l&apos;objet source : </translation>
+        <translation>Sélectionnez l&apos;objet source&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current active settings:  </source>
         <translation>
-Paramètres actifs :  </translation>
+Paramètres actifs&#xa0;:  </translation>
     </message>
     <message>
         <source>Select destination object(s) or [Settings]: </source>
-        <translation>Sélectionnez les objets de destination ou [Settings] : </translation>
+        <translation>Sélectionnez les objets de destination ou [Settings]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3358,47 +3398,47 @@ Paramètres actifs :  </translation>
     </message>
     <message>
         <source>Specify first point of mirror line: </source>
-        <translation>Spécifiez le premier point de la ligne de miroir : </translation>
+        <translation>Spécifiez le premier point de la ligne de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point of mirror line: </source>
-        <translation>Spécifiez le second point de la ligne de miroir : </translation>
+        <translation>Spécifiez le second point de la ligne de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Erase source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation>Effacer les objets source ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Effacer les objets source&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first point on mirror plane: </source>
-        <translation>Spécifiez le premier point du plan de miroir : </translation>
+        <translation>Spécifiez le premier point du plan de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Specify second point on mirror plane: </source>
-        <translation>Spécifiez le deuxième point du plan de miroir : </translation>
+        <translation>Spécifiez le deuxième point du plan de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Specify third point on mirror plane: </source>
-        <translation>Spécifiez le troisième point du plan de miroir : </translation>
+        <translation>Spécifiez le troisième point du plan de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on %1 plane &lt;%2&gt;: </source>
-        <translation>Spécifiez un point sur le plan %1 &lt;%2&gt; : </translation>
+        <translation>Spécifiez un point sur le plan %1 &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </source>
-        <translation>Spécifiez le premier point du plan de miroir (3 points) ou [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt; : </translation>
+        <translation>Spécifiez le premier point du plan de miroir (3 points) ou [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on mirror plane: </source>
-        <translation>Spécifiez un point du plan de miroir : </translation>
+        <translation>Spécifiez un point du plan de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on Z-axis (normal) of mirror plane: </source>
-        <translation>Spécifiez un point sur l&apos;axe Z (normale) du plan de miroir : </translation>
+        <translation>Spécifiez un point sur l&apos;axe Z (normale) du plan de miroir&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on view plane &lt;0,0,0&gt;: </source>
-        <translation>Spécifiez un point sur le plan de vue &lt;0,0,0&gt; : </translation>
+        <translation>Spécifiez un point sur le plan de vue &lt;0,0,0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The points say no plane.</source>
@@ -3406,7 +3446,7 @@ Paramètres actifs :  </translation>
     </message>
     <message>
         <source>Delete source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation>Supprimer les objets source ? [Yes/No] &lt;N&gt; : </translation>
+        <translation>Supprimer les objets source&#xa0;? [Yes/No] &lt;N&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The sheet has no viewport.</source>
@@ -3442,17 +3482,17 @@ Sélectionnez les objets à étirer par une fenêtre ou un polygone de capture..
     </message>
     <message>
         <source>Enter name of customization file to load: </source>
-        <translation>Entrez le nom du fichier de personnalisation à charger : </translation>
+        <translation>Entrez le nom du fichier de personnalisation à charger&#xa0;: </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: there are no menu files here.</source>
         <translation>
-&quot;%1&quot; n&apos;a pas été chargé : il n&apos;y a pas de fichiers de menu ici.</translation>
+&quot;%1&quot; n&apos;a pas été chargé&#xa0;: il n&apos;y a pas de fichiers de menu ici.</translation>
     </message>
     <message>
         <source>Enter name of customization group to unload: </source>
-        <translation>Entrez le nom du groupe de personnalisation à décharger : </translation>
+        <translation>Entrez le nom du groupe de personnalisation à décharger&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3462,21 +3502,21 @@ Il n&apos;y a pas de groupe de personnalisation &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name of assembly to load: </source>
-        <translation>Entrez le nom de l&apos;assemblage à charger : </translation>
+        <translation>Entrez le nom de l&apos;assemblage à charger&#xa0;: </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: programs for other hosts do not run here.</source>
         <translation>
-&quot;%1&quot; n&apos;a pas été chargé : les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici.</translation>
+&quot;%1&quot; n&apos;a pas été chargé&#xa0;: les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Unload/Commands/Options]: </source>
-        <translation>Entrez une option [?/Load/Unload/Commands/Options] : </translation>
+        <translation>Entrez une option [?/Load/Unload/Commands/Options]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of application file: </source>
-        <translation>Entrez le nom du fichier d&apos;application : </translation>
+        <translation>Entrez le nom du fichier d&apos;application&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3486,11 +3526,11 @@ Les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici.</translation>
     </message>
     <message>
         <source>Enter delay time (in milliseconds): </source>
-        <translation>Entrez le délai (en millisecondes) : </translation>
+        <translation>Entrez le délai (en millisecondes)&#xa0;: </translation>
     </message>
     <message>
         <source>Fix any errors detected? [Yes/No] &lt;No&gt;: </source>
-        <translation>Corriger les erreurs détectées ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Corriger les erreurs détectées&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3502,15 +3542,15 @@ Total des erreurs trouvées %1 corrigées %2</translation>
         <source>
 Save the drawing and open it with --recover: that mends the others.</source>
         <translation>
-Enregistrez le dessin et ouvrez-le avec --recover : cela répare les autres.</translation>
+Enregistrez le dessin et ouvrez-le avec --recover&#xa0;: cela répare les autres.</translation>
     </message>
     <message>
         <source>Enter name of drawing to open: </source>
-        <translation>Entrez le nom du dessin à ouvrir : </translation>
+        <translation>Entrez le nom du dessin à ouvrir&#xa0;: </translation>
     </message>
     <message>
         <source>Enter template file name or [. (for none)] &lt;.&gt;: </source>
-        <translation>Entrez le nom du fichier gabarit ou [. (for none)] &lt;.&gt; : </translation>
+        <translation>Entrez le nom du fichier gabarit ou [. (for none)] &lt;.&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find template &quot;%1&quot;.</source>
@@ -3518,11 +3558,11 @@ Enregistrez le dessin et ouvrez-le avec --recover : cela répare les autres.</t
     </message>
     <message>
         <source>Save changes to %1? [Yes/No/Cancel] &lt;Yes&gt;: </source>
-        <translation>Enregistrer les modifications de %1 ? [Yes/No/Cancel] &lt;Yes&gt; : </translation>
+        <translation>Enregistrer les modifications de %1&#xa0;? [Yes/No/Cancel] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Really want to discard all changes to drawing? [Yes/No] &lt;No&gt;: </source>
-        <translation>Voulez-vous vraiment abandonner toutes les modifications du dessin ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Voulez-vous vraiment abandonner toutes les modifications du dessin&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>another version</source>
@@ -3530,27 +3570,27 @@ Enregistrez le dessin et ouvrez-le avec --recover : cela répare les autres.</t
     </message>
     <message>
         <source>This drawing is of %1, and this program writes no drawing in another version: nothing was written.</source>
-        <translation>Ce dessin est de la version %1, et ce programme n&apos;écrit aucun dessin dans une autre version : rien n&apos;a été écrit.</translation>
+        <translation>Ce dessin est de la version %1, et ce programme n&apos;écrit aucun dessin dans une autre version&#xa0;: rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] &lt;16&gt;: </source>
-        <translation>Entrez le nombre de décimales (0 à 16) ou [Objects/Binary/Version] &lt;16&gt; : </translation>
+        <translation>Entrez le nombre de décimales (0 à 16) ou [Objects/Binary/Version] &lt;16&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter version [%1]: </source>
-        <translation>Entrez la version [%1] : </translation>
+        <translation>Entrez la version [%1]&#xa0;: </translation>
     </message>
     <message>
         <source>This program writes whole drawings with all decimal places: nothing was written.</source>
-        <translation>Ce programme écrit des dessins entiers avec toutes les décimales : rien n&apos;a été écrit.</translation>
+        <translation>Ce programme écrit des dessins entiers avec toutes les décimales&#xa0;: rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Save drawing as, or enter file format [%1/DXF] &lt;%2&gt;: </source>
-        <translation>Enregistrer le dessin sous, ou entrez un format de fichier [%1/DXF] &lt;%2&gt; : </translation>
+        <translation>Enregistrer le dessin sous, ou entrez un format de fichier [%1/DXF] &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Save drawing as &lt;%1&gt;: </source>
-        <translation>Enregistrer le dessin sous &lt;%1&gt; : </translation>
+        <translation>Enregistrer le dessin sous &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3562,11 +3602,11 @@ Le reste du script qui l&apos;a appelé est omis.</translation>
         <source>
 Too many scripts wait to be run: &quot;%1&quot; is left out.</source>
         <translation>
-Trop de scripts attendent leur exécution : &quot;%1&quot; est omis.</translation>
+Trop de scripts attendent leur exécution&#xa0;: &quot;%1&quot; est omis.</translation>
     </message>
     <message>
         <source>Enter script file name: </source>
-        <translation>Entrez le nom du fichier de script : </translation>
+        <translation>Entrez le nom du fichier de script&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3578,7 +3618,7 @@ Impossible de lire le script &quot;%1&quot;.</translation>
         <source>
 Cannot read script &quot;%1&quot;: %2 (the limit is %3 MB).</source>
         <translation>
-Impossible de lire le script &quot;%1&quot; : %2 (la limite est de %3 Mo).</translation>
+Impossible de lire le script &quot;%1&quot;&#xa0;: %2 (la limite est de %3 Mo).</translation>
     </message>
     <message>
         <source>No script has been run.</source>
@@ -3586,7 +3626,7 @@ Impossible de lire le script &quot;%1&quot; : %2 (la limite est de %3 Mo).</tra
     </message>
     <message>
         <source>%1 [Yes/No] &lt;%2&gt;: </source>
-        <translation>%1 [Yes/No] &lt;%2&gt; : </translation>
+        <translation>%1 [Yes/No] &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a layout name</source>
@@ -3602,7 +3642,7 @@ Impossible de lire le script &quot;%1&quot; : %2 (la limite est de %3 Mo).</tra
     </message>
     <message>
         <source>There is no device &quot;%1&quot;: plots are files of PDF, PNG or SVG.</source>
-        <translation>Il n&apos;y a pas de périphérique &quot;%1&quot; : les tracés sont des fichiers PDF, PNG ou SVG.</translation>
+        <translation>Il n&apos;y a pas de périphérique &quot;%1&quot;&#xa0;: les tracés sont des fichiers PDF, PNG ou SVG.</translation>
     </message>
     <message>
         <source>Enter paper size</source>
@@ -3614,15 +3654,15 @@ Impossible de lire le script &quot;%1&quot; : %2 (la limite est de %3 Mo).</tra
     </message>
     <message>
         <source>Enter paper units [Inches/Millimeters] &lt;Millimeters&gt;: </source>
-        <translation>Entrez les unités de papier [Inches/Millimeters] &lt;Millimeters&gt; : </translation>
+        <translation>Entrez les unités de papier [Inches/Millimeters] &lt;Millimeters&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter drawing orientation [Portrait/Landscape] &lt;%1&gt;: </source>
-        <translation>Entrez l&apos;orientation du dessin [Portrait/Landscape] &lt;%1&gt; : </translation>
+        <translation>Entrez l&apos;orientation du dessin [Portrait/Landscape] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Plot upside down?</source>
-        <translation>Tracer tête en bas ?</translation>
+        <translation>Tracer tête en bas&#xa0;?</translation>
     </message>
     <message>
         <source>
@@ -3632,19 +3672,19 @@ Les tracés sont droits ici.</translation>
     </message>
     <message>
         <source>Enter lower left corner of window &lt;0.000000,0.000000&gt;: </source>
-        <translation>Entrez le coin inférieur gauche de la fenêtre &lt;0.000000,0.000000&gt; : </translation>
+        <translation>Entrez le coin inférieur gauche de la fenêtre &lt;0.000000,0.000000&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter upper right corner of window: </source>
-        <translation>Entrez le coin supérieur droit de la fenêtre : </translation>
+        <translation>Entrez le coin supérieur droit de la fenêtre&#xa0;: </translation>
     </message>
     <message>
         <source>Enter plot area [%1] &lt;%2&gt;: </source>
-        <translation>Entrez la zone de tracé [%1] &lt;%2&gt; : </translation>
+        <translation>Entrez la zone de tracé [%1] &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter view name: </source>
-        <translation>Entrez le nom de la vue : </translation>
+        <translation>Entrez le nom de la vue&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find view &quot;%1&quot;.</source>
@@ -3652,7 +3692,7 @@ Les tracés sont droits ici.</translation>
     </message>
     <message>
         <source>Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] &lt;%1&gt;: </source>
-        <translation>Entrez l&apos;échelle de tracé (millimètres tracés=unités de dessin) ou [Fit] &lt;%1&gt; : </translation>
+        <translation>Entrez l&apos;échelle de tracé (millimètres tracés=unités de dessin) ou [Fit] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no plot scale.</source>
@@ -3660,11 +3700,11 @@ Les tracés sont droits ici.</translation>
     </message>
     <message>
         <source>Enter plot offset (x,y) or [Center] &lt;Center&gt;: </source>
-        <translation>Entrez le décalage du tracé (x,y) ou [Center] &lt;Center&gt; : </translation>
+        <translation>Entrez le décalage du tracé (x,y) ou [Center] &lt;Center&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Plot with plot styles?</source>
-        <translation>Tracer avec des styles de tracé ?</translation>
+        <translation>Tracer avec des styles de tracé&#xa0;?</translation>
     </message>
     <message>
         <source>Enter plot style table name</source>
@@ -3672,31 +3712,31 @@ Les tracés sont droits ici.</translation>
     </message>
     <message>
         <source>Plot with lineweights?</source>
-        <translation>Tracer avec les épaisseurs de ligne ?</translation>
+        <translation>Tracer avec les épaisseurs de ligne&#xa0;?</translation>
     </message>
     <message>
         <source>Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </source>
-        <translation>Entrez le paramètre de tracé ombré [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt; : </translation>
+        <translation>Entrez le paramètre de tracé ombré [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Scale lineweights with plot scale?</source>
-        <translation>Mettre les épaisseurs de ligne à l&apos;échelle du tracé ?</translation>
+        <translation>Mettre les épaisseurs de ligne à l&apos;échelle du tracé&#xa0;?</translation>
     </message>
     <message>
         <source>Plot paper space first?</source>
-        <translation>Tracer d&apos;abord l&apos;espace papier ?</translation>
+        <translation>Tracer d&apos;abord l&apos;espace papier&#xa0;?</translation>
     </message>
     <message>
         <source>Hide paperspace objects?</source>
-        <translation>Masquer les objets de l&apos;espace papier ?</translation>
+        <translation>Masquer les objets de l&apos;espace papier&#xa0;?</translation>
     </message>
     <message>
         <source>Enter file name &lt;%1&gt;: </source>
-        <translation>Entrez le nom du fichier &lt;%1&gt; : </translation>
+        <translation>Entrez le nom du fichier &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Save changes to page setup?</source>
-        <translation>Enregistrer les modifications dans la mise en page ?</translation>
+        <translation>Enregistrer les modifications dans la mise en page&#xa0;?</translation>
     </message>
     <message>
         <source>Proceed with plot</source>
@@ -3704,11 +3744,11 @@ Les tracés sont droits ici.</translation>
     </message>
     <message>
         <source>Enter a page setup name &lt;&gt;: </source>
-        <translation>Entrez un nom de mise en page &lt;&gt; : </translation>
+        <translation>Entrez un nom de mise en page &lt;&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Detailed plot configuration?</source>
-        <translation>Configuration détaillée du tracé ?</translation>
+        <translation>Configuration détaillée du tracé&#xa0;?</translation>
     </message>
     <message>
         <source>
@@ -3728,21 +3768,21 @@ Une partie du contenu du dessin n&apos;est pas dessinée, ou seulement en partie
     </message>
     <message>
         <source>Purge %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </source>
-        <translation>Purger %1 &quot;%2&quot; ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Purger %1 &quot;%2&quot;&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Deleting %1 &quot;%2&quot;.</source>
         <translation>
-Suppression : %1 &quot;%2&quot;.</translation>
+Suppression&#xa0;: %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name(s) to purge &lt;*&gt;: </source>
-        <translation>Entrez les noms à purger &lt;*&gt; : </translation>
+        <translation>Entrez les noms à purger &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Verify each name to be purged? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Vérifier chaque nom à purger ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Vérifier chaque nom à purger&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3772,11 +3812,11 @@ Rien de non référencé n&apos;a été trouvé.</translation>
         <source>
 No unreferenced %1 found.</source>
         <translation>
-Rien de non référencé n&apos;a été trouvé : %1.</translation>
+Rien de non référencé n&apos;a été trouvé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </source>
-        <translation>Entrez le type d&apos;objets inutilisés à purger [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All] : </translation>
+        <translation>Entrez le type d&apos;objets inutilisés à purger [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]&#xa0;: </translation>
     </message>
     <message>
         <source>block</source>
@@ -3828,19 +3868,19 @@ Rien de non référencé n&apos;a été trouvé : %1.</translation>
     </message>
     <message>
         <source>Enter object type to rename [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </source>
-        <translation>Entrez le type d&apos;objet à renommer [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort] : </translation>
+        <translation>Entrez le type d&apos;objet à renommer [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter old %1 name: </source>
-        <translation>Entrez l&apos;ancien nom (%1) : </translation>
+        <translation>Entrez l&apos;ancien nom (%1)&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new %1 name: </source>
-        <translation>Entrez le nouveau nom (%1) : </translation>
+        <translation>Entrez le nouveau nom (%1)&#xa0;: </translation>
     </message>
     <message>
         <source>Enter command name: </source>
-        <translation>Entrez le nom de la commande : </translation>
+        <translation>Entrez le nom de la commande&#xa0;: </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
@@ -3860,11 +3900,11 @@ Enregistré dans %1.</translation>
     </message>
     <message>
         <source>Save all the same, or under another name? [Anyway/Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation>Enregistrer quand même, ou sous un autre nom ? [Anyway/Name/Cancel] &lt;Cancel&gt; : </translation>
+        <translation>Enregistrer quand même, ou sous un autre nom&#xa0;? [Anyway/Name/Cancel] &lt;Cancel&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Save under another name? [Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation>Enregistrer sous un autre nom ? [Name/Cancel] &lt;Cancel&gt; : </translation>
+        <translation>Enregistrer sous un autre nom&#xa0;? [Name/Cancel] &lt;Cancel&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Nothing was written.</source>
@@ -3872,7 +3912,7 @@ Enregistré dans %1.</translation>
     </message>
     <message>
         <source>Save drawing as: </source>
-        <translation>Enregistrer le dessin sous : </translation>
+        <translation>Enregistrer le dessin sous&#xa0;: </translation>
     </message>
     <message>
         <source>%1 cannot be set to that value.</source>
@@ -3880,15 +3920,15 @@ Enregistré dans %1.</translation>
     </message>
     <message>
         <source>Enter mode [ON/OFF] &lt;%1&gt;: </source>
-        <translation>Entrez le mode [ON/OFF] &lt;%1&gt; : </translation>
+        <translation>Entrez le mode [ON/OFF] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify horizontal spacing(X) &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;espacement horizontal (X) &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;espacement horizontal (X) &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify vertical spacing(Y) &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;espacement vertical (Y) &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;espacement vertical (Y) &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify grid spacing(X) or [ON/OFF/Snap/Aspect]</source>
@@ -3900,11 +3940,11 @@ Enregistré dans %1.</translation>
     </message>
     <message>
         <source>Specify base point &lt;%1&gt;: </source>
-        <translation>Spécifiez le point de base &lt;%1&gt; : </translation>
+        <translation>Spécifiez le point de base &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter snap grid style [Standard/Isometric] &lt;%1&gt;: </source>
-        <translation>Entrez le style de la grille de résolution [Standard/Isometric] &lt;%1&gt; : </translation>
+        <translation>Entrez le style de la grille de résolution [Standard/Isometric] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify vertical spacing</source>
@@ -3916,37 +3956,37 @@ Enregistré dans %1.</translation>
     </message>
     <message>
         <source>Enter snap type [Polar/Grid] &lt;%1&gt;: </source>
-        <translation>Entrez le type de résolution [Polar/Grid] &lt;%1&gt; : </translation>
+        <translation>Entrez le type de résolution [Polar/Grid] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter isometric plane setting [Left/Top/Right] &lt;%1&gt;: </source>
-        <translation>Entrez le plan isométrique [Left/Top/Right] &lt;%1&gt; : </translation>
+        <translation>Entrez le plan isométrique [Left/Top/Right] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current Isoplane: </source>
         <translation>
-Plan isométrique courant : </translation>
+Plan isométrique courant&#xa0;: </translation>
     </message>
     <message>
         <source>Specify lower left corner or [ON/OFF] &lt;%1&gt;: </source>
-        <translation>Spécifiez le coin inférieur gauche ou [ON/OFF] &lt;%1&gt; : </translation>
+        <translation>Spécifiez le coin inférieur gauche ou [ON/OFF] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify upper right corner &lt;%1&gt;: </source>
-        <translation>Spécifiez le coin supérieur droit &lt;%1&gt; : </translation>
+        <translation>Spécifiez le coin supérieur droit &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new default elevation &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle élévation par défaut &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle élévation par défaut &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify new default thickness &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle épaisseur par défaut &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle épaisseur par défaut &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter default object color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation>Entrez la couleur par défaut des objets [Truecolor/COlorbook] &lt;%1&gt; : </translation>
+        <translation>Entrez la couleur par défaut des objets [Truecolor/COlorbook] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>New objects take colors by number or name here.</source>
@@ -3960,19 +4000,19 @@ Tout a été annulé.</translation>
     </message>
     <message>
         <source>Enter UNDO Auto mode [ON/OFF] &lt;ON&gt;: </source>
-        <translation>Entrez le mode automatique de UNDO [ON/OFF] &lt;ON&gt; : </translation>
+        <translation>Entrez le mode automatique de UNDO [ON/OFF] &lt;ON&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an UNDO control option [All/None/One/Combine/Layer] &lt;All&gt;: </source>
-        <translation>Entrez une option de contrôle de UNDO [All/None/One/Combine/Layer] &lt;All&gt; : </translation>
+        <translation>Entrez une option de contrôle de UNDO [All/None/One/Combine/Layer] &lt;All&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Combine zoom and pan operations? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Combiner les opérations de zoom et de panoramique ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Combiner les opérations de zoom et de panoramique&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Combine layer property changes? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Combiner les modifications de propriétés de calques ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Combiner les modifications de propriétés de calques&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3982,11 +4022,11 @@ L&apos;annulation est toujours active.</translation>
     </message>
     <message>
         <source>This will undo everything. OK? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Tout sera annulé. OK ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Tout sera annulé. OK&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </source>
-        <translation>Entrez le nombre d&apos;opérations à annuler ou [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt; : </translation>
+        <translation>Entrez le nombre d&apos;opérations à annuler ou [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -3996,7 +4036,7 @@ Il n&apos;y a rien à rétablir.</translation>
     </message>
     <message>
         <source>Enter number of actions or [All/Last]: </source>
-        <translation>Entrez le nombre d&apos;actions ou [All/Last] : </translation>
+        <translation>Entrez le nombre d&apos;actions ou [All/Last]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4006,11 +4046,11 @@ Il n&apos;y a rien à ramener.</translation>
     </message>
     <message>
         <source>Enter command name to repeat: </source>
-        <translation>Entrez le nom de la commande à répéter : </translation>
+        <translation>Entrez le nom de la commande à répéter&#xa0;: </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;: only built-in ones are repeated.</source>
-        <translation>Commande inconnue &quot;%1&quot; : seules les commandes intégrées sont répétées.</translation>
+        <translation>Commande inconnue &quot;%1&quot;&#xa0;: seules les commandes intégrées sont répétées.</translation>
     </message>
     <message>
         <source>Requires an integer between %1 and %2.</source>
@@ -4018,7 +4058,7 @@ Il n&apos;y a rien à ramener.</translation>
     </message>
     <message>
         <source>Enter denominator of smallest fraction to display (1, 2, 4, 8, 16, 32, 64, 128, or 256) &lt;%1&gt;: </source>
-        <translation>Entrez le dénominateur de la plus petite fraction à afficher (1, 2, 4, 8, 16, 32, 64, 128 ou 256) &lt;%1&gt; : </translation>
+        <translation>Entrez le dénominateur de la plus petite fraction à afficher (1, 2, 4, 8, 16, 32, 64, 128 ou 256) &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a power of two up to 256.</source>
@@ -4028,7 +4068,7 @@ Il n&apos;y a rien à ramener.</translation>
         <source>
 Report formats: 1. Scientific  2. Decimal  3. Engineering  4. Architectural  5. Fractional</source>
         <translation>
-Formats : 1. Scientifique  2. Décimal  3. Ingénierie  4. Architecture  5. Fractionnaire</translation>
+Formats&#xa0;: 1. Scientifique  2. Décimal  3. Ingénierie  4. Architecture  5. Fractionnaire</translation>
     </message>
     <message>
         <source>Enter choice, 1 to 5</source>
@@ -4042,7 +4082,7 @@ Formats : 1. Scientifique  2. Décimal  3. Ingénierie  4. Architecture  5. Fra
         <source>
 Systems of angle measure: 1. Decimal degrees  2. Degrees/minutes/seconds  3. Grads  4. Radians  5. Surveyor&apos;s units</source>
         <translation>
-Mesures d&apos;angle : 1. Degrés décimaux  2. Degrés/minutes/secondes  3. Grades  4. Radians  5. Unités géodésiques</translation>
+Mesures d&apos;angle&#xa0;: 1. Degrés décimaux  2. Degrés/minutes/secondes  3. Grades  4. Radians  5. Unités géodésiques</translation>
     </message>
     <message>
         <source>Enter number of fractional places for display of angles (0 to 8)</source>
@@ -4050,11 +4090,11 @@ Mesures d&apos;angle : 1. Degrés décimaux  2. Degrés/minutes/secondes  3. Gr
     </message>
     <message>
         <source>Enter direction for angle 0 &lt;%1&gt;: </source>
-        <translation>Entrez la direction de l&apos;angle 0 &lt;%1&gt; : </translation>
+        <translation>Entrez la direction de l&apos;angle 0 &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Measure angles clockwise? [Yes/No] &lt;%1&gt;: </source>
-        <translation>Mesurer les angles dans le sens horaire ? [Yes/No] &lt;%1&gt; : </translation>
+        <translation>Mesurer les angles dans le sens horaire&#xa0;? [Yes/No] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>%1 mm</source>
@@ -4064,11 +4104,11 @@ Mesures d&apos;angle : 1. Degrés décimaux  2. Degrés/minutes/secondes  3. Gr
         <source>
 Current lineweight: %1</source>
         <translation>
-Épaisseur de ligne courante : %1</translation>
+Épaisseur de ligne courante&#xa0;: %1</translation>
     </message>
     <message>
         <source>Enter default lineweight for new objects or [?]: </source>
-        <translation>Entrez l&apos;épaisseur de ligne par défaut des nouveaux objets ou [?] : </translation>
+        <translation>Entrez l&apos;épaisseur de ligne par défaut des nouveaux objets ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4118,11 +4158,11 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>Center:</source>
-        <translation>Centre :</translation>
+        <translation>Centre&#xa0;:</translation>
     </message>
     <message>
         <source>Major Axis:</source>
-        <translation>Grand axe :</translation>
+        <translation>Grand axe&#xa0;:</translation>
     </message>
     <message>
         <source>at point</source>
@@ -4150,11 +4190,11 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>Control Point:</source>
-        <translation>Point de contrôle :</translation>
+        <translation>Point de contrôle&#xa0;:</translation>
     </message>
     <message>
         <source>Fit Point:</source>
-        <translation>Point de lissage :</translation>
+        <translation>Point de lissage&#xa0;:</translation>
     </message>
     <message>
         <source>alignment point,</source>
@@ -4178,7 +4218,7 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>Location:</source>
-        <translation>Emplacement :</translation>
+        <translation>Emplacement&#xa0;:</translation>
     </message>
     <message>
         <source>Text style</source>
@@ -4226,7 +4266,7 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>defining point:</source>
-        <translation>point de définition :</translation>
+        <translation>point de définition&#xa0;:</translation>
     </message>
     <message>
         <source>Hatch pattern</source>
@@ -4246,23 +4286,23 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>Bounding Box: Lower Bound</source>
-        <translation>Cadre : limite inférieure</translation>
+        <translation>Cadre&#xa0;: limite inférieure</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation>Aire :</translation>
+        <translation>Aire&#xa0;:</translation>
     </message>
     <message>
         <source>Perimeter:</source>
-        <translation>Périmètre :</translation>
+        <translation>Périmètre&#xa0;:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation>Couleur :</translation>
+        <translation>Couleur&#xa0;:</translation>
     </message>
     <message>
         <source>Linetype:</source>
-        <translation>Type de ligne :</translation>
+        <translation>Type de ligne&#xa0;:</translation>
     </message>
     <message>
         <source>Linetype scale</source>
@@ -4270,15 +4310,15 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>Lineweight:</source>
-        <translation>Épaisseur de ligne :</translation>
+        <translation>Épaisseur de ligne&#xa0;:</translation>
     </message>
     <message>
         <source>%1  Layer: &quot;%2&quot;</source>
-        <translation>%1  Calque : &quot;%2&quot;</translation>
+        <translation>%1  Calque&#xa0;: &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Space:</source>
-        <translation>Espace :</translation>
+        <translation>Espace&#xa0;:</translation>
     </message>
     <message>
         <source>Model space</source>
@@ -4290,7 +4330,7 @@ ByLayer, ByBlock, Default ou 0.00 à 2.11 mm</translation>
     </message>
     <message>
         <source>Layout:</source>
-        <translation>Présentation :</translation>
+        <translation>Présentation&#xa0;:</translation>
     </message>
     <message>
         <source>Handle =</source>
@@ -4310,7 +4350,7 @@ Delta X = %1,  Delta Y = %2,   Delta Z = %3</translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo/Total] &lt;Total&gt;: </source>
-        <translation>Spécifiez le point suivant ou [Close/Undo/Total] &lt;Total&gt; : </translation>
+        <translation>Spécifiez le point suivant ou [Close/Undo/Total] &lt;Total&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4320,7 +4360,7 @@ Distance = %1</translation>
     </message>
     <message>
         <source>Specify second point or [Multiple points]: </source>
-        <translation>Spécifiez le second point ou [Multiple points] : </translation>
+        <translation>Spécifiez le second point ou [Multiple points]&#xa0;: </translation>
     </message>
     <message>
         <source>%1 days %2:%3:%4</source>
@@ -4330,37 +4370,37 @@ Distance = %1</translation>
         <source>
 Current time:             </source>
         <translation>
-Date, heure :             </translation>
+Date, heure&#xa0;:             </translation>
     </message>
     <message>
         <source>
 Times for this drawing:</source>
         <translation>
-Dates et durées de ce dessin :</translation>
+Dates et durées de ce dessin&#xa0;:</translation>
     </message>
     <message>
         <source>
   Created:                </source>
         <translation>
-  Création :                </translation>
+  Création&#xa0;:                </translation>
     </message>
     <message>
         <source>
   Last updated:           </source>
         <translation>
-  Mise à jour :           </translation>
+  Mise à jour&#xa0;:           </translation>
     </message>
     <message>
         <source>
   Total editing time:     </source>
         <translation>
-  Durée d&apos;édition :     </translation>
+  Durée d&apos;édition&#xa0;:     </translation>
     </message>
     <message>
         <source>
   Elapsed timer:          </source>
         <translation>
-  Chronomètre :          </translation>
+  Chronomètre&#xa0;:          </translation>
     </message>
     <message>
         <source>
@@ -4390,27 +4430,27 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>Current space:</source>
-        <translation>Espace courant :</translation>
+        <translation>Espace courant&#xa0;:</translation>
     </message>
     <message>
         <source>Current layer:</source>
-        <translation>Calque courant :</translation>
+        <translation>Calque courant&#xa0;:</translation>
     </message>
     <message>
         <source>Current color:</source>
-        <translation>Couleur courante :</translation>
+        <translation>Couleur courante&#xa0;:</translation>
     </message>
     <message>
         <source>Current linetype:</source>
-        <translation>Type de ligne courant :</translation>
+        <translation>Type de ligne courant&#xa0;:</translation>
     </message>
     <message>
         <source>Current elevation:</source>
-        <translation>Élévation courante :</translation>
+        <translation>Élévation courante&#xa0;:</translation>
     </message>
     <message>
         <source>Thickness:</source>
-        <translation>Épaisseur :</translation>
+        <translation>Épaisseur&#xa0;:</translation>
     </message>
     <message>
         <source>A drawing of this version has no such property of layers.</source>
@@ -4418,11 +4458,11 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;7 (white)&gt;: </source>
-        <translation>Nouvelle couleur [Truecolor/COlorbook] &lt;7 (blanc)&gt; : </translation>
+        <translation>Nouvelle couleur [Truecolor/COlorbook] &lt;7 (blanc)&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter loaded linetype name or [?] &lt;%1&gt;: </source>
-        <translation>Entrez le nom d&apos;un type de ligne chargé ou [?] &lt;%1&gt; : </translation>
+        <translation>Entrez le nom d&apos;un type de ligne chargé ou [?] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; not found.</source>
@@ -4434,11 +4474,11 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>Enter lineweight (0.0mm - 2.11mm) or [Default]: </source>
-        <translation>Entrez l&apos;épaisseur de ligne (0.0mm - 2.11mm) ou [Default] : </translation>
+        <translation>Entrez l&apos;épaisseur de ligne (0.0mm - 2.11mm) ou [Default]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter transparency value (0-90): </source>
-        <translation>Entrez la valeur de transparence (0-90) : </translation>
+        <translation>Entrez la valeur de transparence (0-90)&#xa0;: </translation>
     </message>
     <message>
         <source>transparency value %1</source>
@@ -4446,7 +4486,7 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>Enter material name &lt;Global&gt;: </source>
-        <translation>Entrez le nom du matériau &lt;Global&gt; : </translation>
+        <translation>Entrez le nom du matériau &lt;Global&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find material &quot;%1&quot;.</source>
@@ -4458,7 +4498,7 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>Enter a plotting preference [Plot/No plot] &lt;Plot&gt;: </source>
-        <translation>Entrez une préférence de tracé [Plot/No plot] &lt;Plot&gt; : </translation>
+        <translation>Entrez une préférence de tracé [Plot/No plot] &lt;Plot&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>this plot preference</source>
@@ -4466,7 +4506,7 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>Enter layer description: </source>
-        <translation>Entrez la description du calque : </translation>
+        <translation>Entrez la description du calque&#xa0;: </translation>
     </message>
     <message>
         <source>this description</source>
@@ -4474,7 +4514,7 @@ Dates et durées de ce dessin :</translation>
     </message>
     <message>
         <source>This program keeps no named plot styles: nothing was changed.</source>
-        <translation>Ce programme ne conserve pas de styles de tracé nommés : rien n&apos;a été modifié.</translation>
+        <translation>Ce programme ne conserve pas de styles de tracé nommés&#xa0;: rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>
@@ -4490,31 +4530,31 @@ Impossible de geler le calque &quot;%1&quot;. C&apos;est le calque courant.</tra
     </message>
     <message>
         <source>Enter name list of layer(s) to turn on: </source>
-        <translation>Entrez la liste des noms des calques à activer : </translation>
+        <translation>Entrez la liste des noms des calques à activer&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn off: </source>
-        <translation>Entrez la liste des noms des calques à désactiver : </translation>
+        <translation>Entrez la liste des noms des calques à désactiver&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to freeze: </source>
-        <translation>Entrez la liste des noms des calques à geler : </translation>
+        <translation>Entrez la liste des noms des calques à geler&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to thaw: </source>
-        <translation>Entrez la liste des noms des calques à dégeler : </translation>
+        <translation>Entrez la liste des noms des calques à dégeler&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to lock: </source>
-        <translation>Entrez la liste des noms des calques à verrouiller : </translation>
+        <translation>Entrez la liste des noms des calques à verrouiller&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to unlock: </source>
-        <translation>Entrez la liste des noms des calques à déverrouiller : </translation>
+        <translation>Entrez la liste des noms des calques à déverrouiller&#xa0;: </translation>
     </message>
     <message>
         <source>Really want layer &quot;%1&quot; (the CURRENT layer) off? [Yes/No] &lt;No&gt;: </source>
-        <translation>Voulez-vous vraiment désactiver le calque &quot;%1&quot; (le calque COURANT) ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Voulez-vous vraiment désactiver le calque &quot;%1&quot; (le calque COURANT)&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
@@ -4522,27 +4562,27 @@ Impossible de geler le calque &quot;%1&quot;. C&apos;est le calque courant.</tra
     </message>
     <message>
         <source>Cannot make layer &quot;%1&quot; current: it is frozen.</source>
-        <translation>Impossible de rendre courant le calque &quot;%1&quot; : il est gelé.</translation>
+        <translation>Impossible de rendre courant le calque &quot;%1&quot;&#xa0;: il est gelé.</translation>
     </message>
     <message>
         <source>Enter name for new layer (becomes the current layer) &lt;%1&gt;: </source>
-        <translation>Entrez le nom du nouveau calque (qui devient le calque courant) &lt;%1&gt; : </translation>
+        <translation>Entrez le nom du nouveau calque (qui devient le calque courant) &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name to make current or &lt;select object&gt;: </source>
-        <translation>Entrez le nom du calque à rendre courant ou &lt;sélectionner un objet&gt; : </translation>
+        <translation>Entrez le nom du calque à rendre courant ou &lt;sélectionner un objet&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name list for new layer(s): </source>
-        <translation>Entrez la liste des noms des nouveaux calques : </translation>
+        <translation>Entrez la liste des noms des nouveaux calques&#xa0;: </translation>
     </message>
     <message>
         <source>Enter old layer name: </source>
-        <translation>Entrez l&apos;ancien nom du calque : </translation>
+        <translation>Entrez l&apos;ancien nom du calque&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les noms des calques à lister &lt;*&gt; : </translation>
+        <translation>Entrez les noms des calques à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4554,11 +4594,11 @@ Nom du calque  État  Couleur  Type de ligne  Épaisseur</translation>
         <source>
 Current layer:  &quot;%1&quot;</source>
         <translation>
-Calque courant :  &quot;%1&quot;</translation>
+Calque courant&#xa0;:  &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to reconcile: </source>
-        <translation>Entrez la liste des noms des calques à rapprocher : </translation>
+        <translation>Entrez la liste des noms des calques à rapprocher&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4568,21 +4608,21 @@ Aucun calque non rapproché.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) for %1 &lt;%2&gt;: </source>
-        <translation>Entrez la liste des noms des calques pour %1 &lt;%2&gt; : </translation>
+        <translation>Entrez la liste des noms des calques pour %1 &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </source>
-        <translation>Entrez une option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile] : </translation>
+        <translation>Entrez une option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]&#xa0;: </translation>
     </message>
     <message>
         <source>
 States to restore: </source>
         <translation>
-États à restaurer : </translation>
+États à restaurer&#xa0;: </translation>
     </message>
     <message>
         <source>Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </source>
-        <translation>Entrez les états à modifier [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency] : </translation>
+        <translation>Entrez les états à modifier [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4594,7 +4634,7 @@ Aucun état de calques.</translation>
         <source>
 Layer states: </source>
         <translation>
-États de calques : </translation>
+États de calques&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find layer state &quot;%1&quot;.</source>
@@ -4602,7 +4642,7 @@ Layer states: </source>
     </message>
     <message>
         <source>Enter new layer state name: </source>
-        <translation>Entrez le nom du nouvel état de calques : </translation>
+        <translation>Entrez le nom du nouvel état de calques&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version keeps no layer states.</source>
@@ -4610,15 +4650,15 @@ Layer states: </source>
     </message>
     <message>
         <source>Enter name of layer state to restore or [?]: </source>
-        <translation>Entrez le nom de l&apos;état de calques à restaurer ou [?] : </translation>
+        <translation>Entrez le nom de l&apos;état de calques à restaurer ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of layer state to edit or [?]: </source>
-        <translation>Entrez le nom de l&apos;état de calques à modifier ou [?] : </translation>
+        <translation>Entrez le nom de l&apos;état de calques à modifier ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of layer state to rename or [?]: </source>
-        <translation>Entrez le nom de l&apos;état de calques à renommer ou [?] : </translation>
+        <translation>Entrez le nom de l&apos;état de calques à renommer ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Layer state &quot;%1&quot; already exists or cannot be one.</source>
@@ -4626,11 +4666,11 @@ Layer states: </source>
     </message>
     <message>
         <source>Enter name of layer state to delete or [?]: </source>
-        <translation>Entrez le nom de l&apos;état de calques à supprimer ou [?] : </translation>
+        <translation>Entrez le nom de l&apos;état de calques à supprimer ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of file to import: </source>
-        <translation>Entrez le nom du fichier à importer : </translation>
+        <translation>Entrez le nom du fichier à importer&#xa0;: </translation>
     </message>
     <message>
         <source>No layer state was taken from &quot;%1&quot;.</source>
@@ -4644,15 +4684,15 @@ Layer state &quot;%1&quot; imported.</source>
     </message>
     <message>
         <source>Enter name of layer state to export or [?]: </source>
-        <translation>Entrez le nom de l&apos;état de calques à exporter ou [?] : </translation>
+        <translation>Entrez le nom de l&apos;état de calques à exporter ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of file to export: </source>
-        <translation>Entrez le nom du fichier d&apos;exportation : </translation>
+        <translation>Entrez le nom du fichier d&apos;exportation&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </source>
-        <translation>Entrez une option [?/Save/Restore/Edit/Name/Delete/Import/EXport] : </translation>
+        <translation>Entrez une option [?/Save/Restore/Edit/Name/Delete/Import/EXport]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4664,13 +4704,13 @@ Impossible de lire le fichier de types de ligne &quot;%1&quot;.</translation>
         <source>
 Cannot read linetype file &quot;%1&quot;: %2 (the limit is %3 MB).</source>
         <translation>
-Impossible de lire le fichier de types de ligne &quot;%1&quot; : %2 (la limite est de %3 Mo).</translation>
+Impossible de lire le fichier de types de ligne &quot;%1&quot;&#xa0;: %2 (la limite est de %3 Mo).</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not loaded: %2.</source>
         <translation>
-Type de ligne &quot;%1&quot; non chargé : %2.</translation>
+Type de ligne &quot;%1&quot; non chargé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>
@@ -4680,19 +4720,19 @@ Type de ligne &quot;%1&quot; introuvable.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Set]: </source>
-        <translation>Entrez une option [?/Load/Set] : </translation>
+        <translation>Entrez une option [?/Load/Set]&#xa0;: </translation>
     </message>
     <message>
         <source>Specify linetype name: </source>
-        <translation>Spécifiez le nom du type de ligne : </translation>
+        <translation>Spécifiez le nom du type de ligne&#xa0;: </translation>
     </message>
     <message>
         <source>Enter linetype(s) to load: </source>
-        <translation>Entrez les types de ligne à charger : </translation>
+        <translation>Entrez les types de ligne à charger&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of linetype file: </source>
-        <translation>Entrez le nom du fichier de types de ligne : </translation>
+        <translation>Entrez le nom du fichier de types de ligne&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4702,19 +4742,19 @@ Aucun type de ligne correspondant trouvé.</translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; is already loaded. Reload it? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Le type de ligne &quot;%1&quot; est déjà chargé. Le recharger ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Le type de ligne &quot;%1&quot; est déjà chargé. Le recharger&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter setting for layers not isolated [Off/Lock and fade] &lt;%1&gt;: </source>
-        <translation>Entrez le paramètre des calques non isolés [Off/Lock and fade] &lt;%1&gt; : </translation>
+        <translation>Entrez le paramètre des calques non isolés [Off/Lock and fade] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation>Dans une fenêtre de l&apos;espace papier, utiliser [Vpfreeze/Off] &lt;Vpfreeze&gt; : </translation>
+        <translation>Dans une fenêtre de l&apos;espace papier, utiliser [Vpfreeze/Off] &lt;Vpfreeze&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter fade value (0-90) &lt;50&gt;: </source>
-        <translation>Entrez la valeur d&apos;estompage (0-90) &lt;50&gt; : </translation>
+        <translation>Entrez la valeur d&apos;estompage (0-90) &lt;50&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4732,17 +4772,17 @@ Le calque &quot;%1&quot; a été isolé.</translation>
         <source>
 Current setting: Hide layers, Viewports=Vpfreeze</source>
         <translation>
-Paramètre courant : masquer les calques, Viewports=Vpfreeze</translation>
+Paramètre courant&#xa0;: masquer les calques, Viewports=Vpfreeze</translation>
     </message>
     <message>
         <source>
 Current setting: Lock layers, Fade=50</source>
         <translation>
-Paramètre courant : verrouiller les calques, estompage=50</translation>
+Paramètre courant&#xa0;: verrouiller les calques, estompage=50</translation>
     </message>
     <message>
         <source>Select objects on the layer(s) to be isolated or [Settings]: </source>
-        <translation>Sélectionnez des objets sur les calques à isoler ou [Settings] : </translation>
+        <translation>Sélectionnez des objets sur les calques à isoler ou [Settings]&#xa0;: </translation>
     </message>
     <message>
         <source>Nothing was selected.</source>
@@ -4774,7 +4814,7 @@ L&apos;état précédent des calques a été restauré.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be frozen or [Settings/Undo]: </source>
-        <translation>Sélectionnez un objet sur le calque à geler ou [Settings/Undo] : </translation>
+        <translation>Sélectionnez un objet sur le calque à geler ou [Settings/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4784,7 +4824,7 @@ Le calque &quot;%1&quot; a été gelé.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be turned off or [Settings/Undo]: </source>
-        <translation>Sélectionnez un objet sur le calque à désactiver ou [Settings/Undo] : </translation>
+        <translation>Sélectionnez un objet sur le calque à désactiver ou [Settings/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4794,19 +4834,19 @@ Le calque &quot;%1&quot; a été désactivé.</translation>
     </message>
     <message>
         <source>Enter setting type for [Viewports/Block selection]: </source>
-        <translation>Entrez le type de paramètre pour [Viewports/Block selection] : </translation>
+        <translation>Entrez le type de paramètre pour [Viewports/Block selection]&#xa0;: </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation>Dans une fenêtre de l&apos;espace papier, utiliser [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt; : </translation>
+        <translation>Dans une fenêtre de l&apos;espace papier, utiliser [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter block selection nesting level [Block/Entity/None] &lt;Entity&gt;: </source>
-        <translation>Entrez le niveau d&apos;imbrication de la sélection de blocs [Block/Entity/None] &lt;Entity&gt; : </translation>
+        <translation>Entrez le niveau d&apos;imbrication de la sélection de blocs [Block/Entity/None] &lt;Entity&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is current, do you want to turn it off? [Yes/No] &lt;No&gt;: </source>
-        <translation>Le calque &quot;%1&quot; est courant, voulez-vous le désactiver ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Le calque &quot;%1&quot; est courant, voulez-vous le désactiver&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4822,11 +4862,11 @@ Tous les calques ont été dégelés.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be locked: </source>
-        <translation>Sélectionnez un objet sur le calque à verrouiller : </translation>
+        <translation>Sélectionnez un objet sur le calque à verrouiller&#xa0;: </translation>
     </message>
     <message>
         <source>Select an object on the layer to be unlocked: </source>
-        <translation>Sélectionnez un objet sur le calque à déverrouiller : </translation>
+        <translation>Sélectionnez un objet sur le calque à déverrouiller&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4854,23 +4894,23 @@ Un objet placé sur le calque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Select objects to be changed to the current layer: </source>
-        <translation>Sélectionnez les objets à placer sur le calque courant : </translation>
+        <translation>Sélectionnez les objets à placer sur le calque courant&#xa0;: </translation>
     </message>
     <message>
         <source>Select objects to be changed: </source>
-        <translation>Sélectionnez les objets à modifier : </translation>
+        <translation>Sélectionnez les objets à modifier&#xa0;: </translation>
     </message>
     <message>
         <source>Select object on destination layer or [Name]: </source>
-        <translation>Sélectionnez un objet du calque de destination ou [Name] : </translation>
+        <translation>Sélectionnez un objet du calque de destination ou [Name]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name: </source>
-        <translation>Entrez le nom du calque : </translation>
+        <translation>Entrez le nom du calque&#xa0;: </translation>
     </message>
     <message>
         <source>Select object whose layer will become current: </source>
-        <translation>Sélectionnez l&apos;objet dont le calque deviendra courant : </translation>
+        <translation>Sélectionnez l&apos;objet dont le calque deviendra courant&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4880,11 +4920,11 @@ Un objet placé sur le calque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>This command works through a viewport of a sheet: MSPACE goes into one.</source>
-        <translation>Cette commande travaille à travers une fenêtre d&apos;une feuille : MSPACE y entre.</translation>
+        <translation>Cette commande travaille à travers une fenêtre d&apos;une feuille&#xa0;: MSPACE y entre.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be isolated in viewport or [Settings/Undo]: </source>
-        <translation>Sélectionnez un objet sur le calque à isoler dans la fenêtre ou [Settings/Undo] : </translation>
+        <translation>Sélectionnez un objet sur le calque à isoler dans la fenêtre ou [Settings/Undo]&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -4896,19 +4936,19 @@ Le calque &quot;%1&quot; a été gelé dans toutes les fenêtres sauf la fenêtr
         <source>
 Selected layers: %1.</source>
         <translation>
-Calques sélectionnés : %1.</translation>
+Calques sélectionnés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Do you wish to continue? [Yes/No] &lt;No&gt;: </source>
-        <translation>Voulez-vous continuer ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Voulez-vous continuer&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select object on layer to delete or %1: </source>
-        <translation>Sélectionnez un objet du calque à supprimer ou %1 : </translation>
+        <translation>Sélectionnez un objet du calque à supprimer ou %1&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name to delete: </source>
-        <translation>Entrez le nom du calque à supprimer : </translation>
+        <translation>Entrez le nom du calque à supprimer&#xa0;: </translation>
     </message>
     <message>
         <source>All that is on layer(s) %1 is erased, and the layers are deleted.</source>
@@ -4922,15 +4962,15 @@ Calques sélectionnés : %1.</translation>
     </message>
     <message>
         <source>Select object on layer to merge or %1: </source>
-        <translation>Sélectionnez un objet du calque à fusionner ou %1 : </translation>
+        <translation>Sélectionnez un objet du calque à fusionner ou %1&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name to merge: </source>
-        <translation>Entrez le nom du calque à fusionner : </translation>
+        <translation>Entrez le nom du calque à fusionner&#xa0;: </translation>
     </message>
     <message>
         <source>Select object on target layer or [Name]: </source>
-        <translation>Sélectionnez un objet du calque cible ou [Name] : </translation>
+        <translation>Sélectionnez un objet du calque cible ou [Name]&#xa0;: </translation>
     </message>
     <message>
         <source>You are about to merge %1 layer(s) into layer &quot;%2&quot;.</source>
@@ -4944,7 +4984,7 @@ Calques sélectionnés : %1.</translation>
     </message>
     <message>
         <source>Enter variable(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les variables à lister &lt;*&gt; : </translation>
+        <translation>Entrez les variables à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source> (read only)</source>
@@ -4978,11 +5018,11 @@ Aucune variable ne porte ce nom.</translation>
     </message>
     <message>
         <source>Enter variable name or [?]: </source>
-        <translation>Entrez le nom de la variable ou [?] : </translation>
+        <translation>Entrez le nom de la variable ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Unknown variable name &quot;%1&quot;. Type SETVAR ? for a list of variables.</source>
-        <translation>Variable inconnue &quot;%1&quot;. Tapez SETVAR ? pour une liste des variables.</translation>
+        <translation>Variable inconnue &quot;%1&quot;. Tapez SETVAR&#xa0;? pour une liste des variables.</translation>
     </message>
     <message>
         <source>
@@ -4992,19 +5032,19 @@ Aucune variable ne porte ce nom.</translation>
     </message>
     <message>
         <source>Enter new value for %1 &lt;%2&gt;: </source>
-        <translation>Entrez la nouvelle valeur de %1 &lt;%2&gt; : </translation>
+        <translation>Entrez la nouvelle valeur de %1 &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Active layouts:</source>
         <translation>
-Présentations actives :</translation>
+Présentations actives&#xa0;:</translation>
     </message>
     <message>
         <source>
 Layout: %1	Block name: %2.</source>
         <translation>
-Présentation : %1	Nom du bloc : %2.</translation>
+Présentation&#xa0;: %1	Nom du bloc&#xa0;: %2.</translation>
     </message>
     <message>
         <source>
@@ -5014,11 +5054,11 @@ Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>Enter name of layout to copy: </source>
-        <translation>Entrez le nom de la présentation à copier : </translation>
+        <translation>Entrez le nom de la présentation à copier&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layout name for copy: </source>
-        <translation>Entrez le nom de la copie : </translation>
+        <translation>Entrez le nom de la copie&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; copied to &quot;%2&quot;.</source>
@@ -5026,7 +5066,7 @@ Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>Enter new Layout name: </source>
-        <translation>Entrez le nom de la nouvelle présentation : </translation>
+        <translation>Entrez le nom de la nouvelle présentation&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; created.</source>
@@ -5034,11 +5074,11 @@ Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>Enter layout to rename: </source>
-        <translation>Entrez la présentation à renommer : </translation>
+        <translation>Entrez la présentation à renommer&#xa0;: </translation>
     </message>
     <message>
         <source>Enter new layout name: </source>
-        <translation>Entrez le nouveau nom de la présentation : </translation>
+        <translation>Entrez le nouveau nom de la présentation&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; renamed to &quot;%2&quot;.</source>
@@ -5046,7 +5086,7 @@ Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>Enter name of layout to delete: </source>
-        <translation>Entrez le nom de la présentation à supprimer : </translation>
+        <translation>Entrez le nom de la présentation à supprimer&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; deleted.</source>
@@ -5054,15 +5094,15 @@ Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>Enter layout to make current: </source>
-        <translation>Entrez la présentation à rendre courante : </translation>
+        <translation>Entrez la présentation à rendre courante&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layout to move: </source>
-        <translation>Entrez la présentation à déplacer : </translation>
+        <translation>Entrez la présentation à déplacer&#xa0;: </translation>
     </message>
     <message>
         <source>Enter its place among the layouts: </source>
-        <translation>Entrez sa place parmi les présentations : </translation>
+        <translation>Entrez sa place parmi les présentations&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; moved.</source>
@@ -5070,15 +5110,15 @@ Présentation : %1	Nom du bloc : %2.</translation>
     </message>
     <message>
         <source>Enter layout to save to template: </source>
-        <translation>Entrez la présentation à enregistrer comme gabarit : </translation>
+        <translation>Entrez la présentation à enregistrer comme gabarit&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </source>
-        <translation>Entrez une option de présentation [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?] : </translation>
+        <translation>Entrez une option de présentation [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot;: %2.</source>
-        <translation>Présentation &quot;%1&quot; : %2.</translation>
+        <translation>Présentation &quot;%1&quot;&#xa0;: %2.</translation>
     </message>
     <message>
         <source>
@@ -5092,11 +5132,11 @@ Présentation &quot;%1&quot; créée.</translation>
     </message>
     <message>
         <source>Enter template file name: </source>
-        <translation>Entrez le nom du fichier gabarit : </translation>
+        <translation>Entrez le nom du fichier gabarit&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layout name(s): </source>
-        <translation>Entrez les noms des présentations : </translation>
+        <translation>Entrez les noms des présentations&#xa0;: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found in %2.</source>
@@ -5104,11 +5144,11 @@ Présentation &quot;%1&quot; créée.</translation>
     </message>
     <message>
         <source>Enter file name to save layout to: </source>
-        <translation>Entrez le nom du fichier où enregistrer la présentation : </translation>
+        <translation>Entrez le nom du fichier où enregistrer la présentation&#xa0;: </translation>
     </message>
     <message>
         <source>Enter view name to save: </source>
-        <translation>Entrez le nom de la vue à enregistrer : </translation>
+        <translation>Entrez le nom de la vue à enregistrer&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a view.</source>
@@ -5118,7 +5158,7 @@ Présentation &quot;%1&quot; créée.</translation>
         <source>
 Specify opposite corner: </source>
         <translation>
-Spécifiez le coin opposé : </translation>
+Spécifiez le coin opposé&#xa0;: </translation>
     </message>
     <message>
         <source>The window has no area.</source>
@@ -5126,7 +5166,7 @@ Spécifiez le coin opposé : </translation>
     </message>
     <message>
         <source>Select viewport for view: </source>
-        <translation>Sélectionnez la fenêtre pour la vue : </translation>
+        <translation>Sélectionnez la fenêtre pour la vue&#xa0;: </translation>
     </message>
     <message>
         <source>The view shows model space, and no viewport was chosen for it.</source>
@@ -5134,11 +5174,11 @@ Spécifiez le coin opposé : </translation>
     </message>
     <message>
         <source>Enter view name to restore: </source>
-        <translation>Entrez le nom de la vue à restaurer : </translation>
+        <translation>Entrez le nom de la vue à restaurer&#xa0;: </translation>
     </message>
     <message>
         <source>Enter view name(s) to delete: </source>
-        <translation>Entrez les noms des vues à supprimer : </translation>
+        <translation>Entrez les noms des vues à supprimer&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5148,15 +5188,15 @@ Aucune vue correspondante trouvée.</translation>
     </message>
     <message>
         <source>Enter view name(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les noms des vues à lister &lt;*&gt; : </translation>
+        <translation>Entrez les noms des vues à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </source>
-        <translation>Entrez une option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt; : </translation>
+        <translation>Entrez une option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Save current UCS with named views? [Yes/No] &lt;Yes&gt;: </source>
-        <translation>Enregistrer le SCU courant avec les vues nommées ? [Yes/No] &lt;Yes&gt; : </translation>
+        <translation>Enregistrer le SCU courant avec les vues nommées&#xa0;? [Yes/No] &lt;Yes&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5166,27 +5206,27 @@ Les systèmes de coordonnées ne sont pas conservés avec les vues.</translation
     </message>
     <message>
         <source>Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </source>
-        <translation>Entrez une option [?/Delete/Orthographic/Restore/Save/Ucs/Window] : </translation>
+        <translation>Entrez une option [?/Delete/Orthographic/Restore/Save/Ucs/Window]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Current ucs/Ucs/World] &lt;Current&gt;: </source>
-        <translation>Entrez une option [Current ucs/Ucs/World] &lt;Current&gt; : </translation>
+        <translation>Entrez une option [Current ucs/Ucs/World] &lt;Current&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of UCS or [?]: </source>
-        <translation>Entrez le nom du SCU ou [?] : </translation>
+        <translation>Entrez le nom du SCU ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter angle in XY plane from X axis: </source>
-        <translation>Entrez l&apos;angle dans le plan XY depuis l&apos;axe X : </translation>
+        <translation>Entrez l&apos;angle dans le plan XY depuis l&apos;axe X&#xa0;: </translation>
     </message>
     <message>
         <source>Enter angle from XY plane: </source>
-        <translation>Entrez l&apos;angle depuis le plan XY : </translation>
+        <translation>Entrez l&apos;angle depuis le plan XY&#xa0;: </translation>
     </message>
     <message>
         <source>Specify a view point or [Rotate] &lt;%1&gt;: </source>
-        <translation>Spécifiez un point de vue ou [Rotate] &lt;%1&gt; : </translation>
+        <translation>Spécifiez un point de vue ou [Rotate] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>There is no direction from the target to itself.</source>
@@ -5194,7 +5234,7 @@ Les systèmes de coordonnées ne sont pas conservés avec les vues.</translation
     </message>
     <message>
         <source>Enter name for new viewport configuration or [?]: </source>
-        <translation>Entrez le nom de la nouvelle configuration de fenêtres ou [?] : </translation>
+        <translation>Entrez le nom de la nouvelle configuration de fenêtres ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a viewport configuration.</source>
@@ -5202,7 +5242,7 @@ Les systèmes de coordonnées ne sont pas conservés avec les vues.</translation
     </message>
     <message>
         <source>Enter name of viewport configuration to restore or [?]: </source>
-        <translation>Entrez le nom de la configuration de fenêtres à restaurer ou [?] : </translation>
+        <translation>Entrez le nom de la configuration de fenêtres à restaurer ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Cannot find viewport configuration &quot;%1&quot;.</source>
@@ -5210,7 +5250,7 @@ Les systèmes de coordonnées ne sont pas conservés avec les vues.</translation
     </message>
     <message>
         <source>Enter name(s) of viewport configurations to delete &lt;none&gt;: </source>
-        <translation>Entrez les noms des configurations de fenêtres à supprimer &lt;aucune&gt; : </translation>
+        <translation>Entrez les noms des configurations de fenêtres à supprimer &lt;aucune&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5220,7 +5260,7 @@ Aucune configuration de fenêtres correspondante trouvée.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configuration(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les noms des configurations de fenêtres à lister &lt;*&gt; : </translation>
+        <translation>Entrez les noms des configurations de fenêtres à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>The screen is divided into too many viewports already.</source>
@@ -5228,11 +5268,11 @@ Aucune configuration de fenêtres correspondante trouvée.</translation>
     </message>
     <message>
         <source>The window shows one view: the viewports to join cannot be picked.</source>
-        <translation>La fenêtre du programme montre une vue : les fenêtres à joindre ne peuvent pas être désignées.</translation>
+        <translation>La fenêtre du programme montre une vue&#xa0;: les fenêtres à joindre ne peuvent pas être désignées.</translation>
     </message>
     <message>
         <source>Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </source>
-        <translation>Entrez une option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt; : </translation>
+        <translation>Entrez une option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>** Command not allowed in Model Tab **</source>
@@ -5248,11 +5288,11 @@ Aucune configuration de fenêtres correspondante trouvée.</translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical] &lt;Vertical&gt;: </source>
-        <translation>Entrez la disposition des fenêtres [Horizontal/Vertical] &lt;Vertical&gt; : </translation>
+        <translation>Entrez la disposition des fenêtres [Horizontal/Vertical] &lt;Vertical&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </source>
-        <translation>Entrez la disposition des fenêtres [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt; : </translation>
+        <translation>Entrez la disposition des fenêtres [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5264,11 +5304,11 @@ Aucune fenêtre n&apos;a été choisie.</translation>
         <source>
 Current osnap modes: </source>
         <translation>
-Modes d&apos;accrochage aux objets courants : </translation>
+Modes d&apos;accrochage aux objets courants&#xa0;: </translation>
     </message>
     <message>
         <source>Enter list of object snap modes: </source>
-        <translation>Entrez la liste des modes d&apos;accrochage aux objets : </translation>
+        <translation>Entrez la liste des modes d&apos;accrochage aux objets&#xa0;: </translation>
     </message>
     <message>
         <source>Invalid object snap mode.</source>
@@ -5276,7 +5316,7 @@ Modes d&apos;accrochage aux objets courants : </translation>
     </message>
     <message>
         <source>Object snap target height (1-50 pixels) &lt;%1&gt;: </source>
-        <translation>Hauteur de la cible d&apos;accrochage (1-50 pixels) &lt;%1&gt; : </translation>
+        <translation>Hauteur de la cible d&apos;accrochage (1-50 pixels) &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Value must be between 1 and 50.</source>
@@ -5288,11 +5328,11 @@ Modes d&apos;accrochage aux objets courants : </translation>
     </message>
     <message>
         <source>Specify new origin point or [Zdepth] &lt;%1&gt;: </source>
-        <translation>Spécifiez la nouvelle origine ou [Zdepth] &lt;%1&gt; : </translation>
+        <translation>Spécifiez la nouvelle origine ou [Zdepth] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify Z depth &lt;0&gt;: </source>
-        <translation>Spécifiez la profondeur Z &lt;0&gt; : </translation>
+        <translation>Spécifiez la profondeur Z &lt;0&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on positive portion of X-axis</source>
@@ -5316,11 +5356,11 @@ Modes d&apos;accrochage aux objets courants : </translation>
     </message>
     <message>
         <source>Specify rotation angle about %1 axis &lt;%2&gt;: </source>
-        <translation>Spécifiez l&apos;angle de rotation autour de l&apos;axe %1 &lt;%2&gt; : </translation>
+        <translation>Spécifiez l&apos;angle de rotation autour de l&apos;axe %1 &lt;%2&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select object to align UCS: </source>
-        <translation>Sélectionnez l&apos;objet sur lequel aligner le SCU : </translation>
+        <translation>Sélectionnez l&apos;objet sur lequel aligner le SCU&#xa0;: </translation>
     </message>
     <message>
         <source>No UCS can be aligned with this object.</source>
@@ -5328,7 +5368,7 @@ Modes d&apos;accrochage aux objets courants : </translation>
     </message>
     <message>
         <source>Enter name to save current UCS or [?]: </source>
-        <translation>Entrez le nom sous lequel enregistrer le SCU courant ou [?] : </translation>
+        <translation>Entrez le nom sous lequel enregistrer le SCU courant ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a UCS.</source>
@@ -5336,15 +5376,15 @@ Modes d&apos;accrochage aux objets courants : </translation>
     </message>
     <message>
         <source>UCS &quot;%1&quot; already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation>Le SCU &quot;%1&quot; existe déjà. Le remplacer ? [Yes/No] &lt;No&gt; : </translation>
+        <translation>Le SCU &quot;%1&quot; existe déjà. Le remplacer&#xa0;? [Yes/No] &lt;No&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name of UCS to restore or [?]: </source>
-        <translation>Entrez le nom du SCU à restaurer ou [?] : </translation>
+        <translation>Entrez le nom du SCU à restaurer ou [?]&#xa0;: </translation>
     </message>
     <message>
         <source>Enter UCS name(s) to delete &lt;none&gt;: </source>
-        <translation>Entrez les noms des SCU à supprimer &lt;aucun&gt; : </translation>
+        <translation>Entrez les noms des SCU à supprimer &lt;aucun&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5356,11 +5396,11 @@ Aucun nom de SCU correspondant trouvé.</translation>
         <source>
 Current UCS:  %1</source>
         <translation>
-SCU courant :  %1</translation>
+SCU courant&#xa0;:  %1</translation>
     </message>
     <message>
         <source>Enter UCS name(s) to list &lt;*&gt;: </source>
-        <translation>Entrez les noms des SCU à lister &lt;*&gt; : </translation>
+        <translation>Entrez les noms des SCU à lister &lt;*&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot;  Origin = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</source>
@@ -5378,29 +5418,29 @@ Aucun système de coordonnées précédent enregistré.</translation>
     </message>
     <message>
         <source>Specify point on X-axis or &lt;accept&gt;: </source>
-        <translation>Spécifiez un point sur l&apos;axe X ou &lt;accepter&gt; : </translation>
+        <translation>Spécifiez un point sur l&apos;axe X ou &lt;accepter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify point on the XY plane or &lt;accept&gt;: </source>
-        <translation>Spécifiez un point du plan XY ou &lt;accepter&gt; : </translation>
+        <translation>Spécifiez un point du plan XY ou &lt;accepter&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </source>
-        <translation>Spécifiez l&apos;origine du nouveau SCU ou [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt; : </translation>
+        <translation>Spécifiez l&apos;origine du nouveau SCU ou [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Current ucs name:  %1</source>
         <translation>
-Nom du SCU courant :  %1</translation>
+Nom du SCU courant&#xa0;:  %1</translation>
     </message>
     <message>
         <source>Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </source>
-        <translation>Spécifiez l&apos;origine du SCU ou [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt; : </translation>
+        <translation>Spécifiez l&apos;origine du SCU ou [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter an option [Restore/Save/Delete/?]: </source>
-        <translation>Entrez une option [Restore/Save/Delete/?] : </translation>
+        <translation>Entrez une option [Restore/Save/Delete/?]&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a scale factor, two corners or an option keyword.</source>
@@ -5408,13 +5448,13 @@ Nom du SCU courant :  %1</translation>
     </message>
     <message>
         <source>A scale of the sheet is for viewports: MSPACE goes into one.</source>
-        <translation>Une échelle de la feuille s&apos;applique aux fenêtres : MSPACE y entre.</translation>
+        <translation>Une échelle de la feuille s&apos;applique aux fenêtres&#xa0;: MSPACE y entre.</translation>
     </message>
     <message>
         <source>
 Enter magnification or height &lt;%1&gt;: </source>
         <translation>
-Entrez l&apos;agrandissement ou la hauteur &lt;%1&gt; : </translation>
+Entrez l&apos;agrandissement ou la hauteur &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Requires a height, or a magnification (nX).</source>
@@ -5422,25 +5462,25 @@ Entrez l&apos;agrandissement ou la hauteur &lt;%1&gt; : </translation>
     </message>
     <message>
         <source>Specify center point: </source>
-        <translation>Spécifiez le centre : </translation>
+        <translation>Spécifiez le centre&#xa0;: </translation>
     </message>
     <message>
         <source>Specify lower left corner point: </source>
-        <translation>Spécifiez le coin inférieur gauche : </translation>
+        <translation>Spécifiez le coin inférieur gauche&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a scale factor (nX or nXP): </source>
-        <translation>Entrez un facteur d&apos;échelle (nX ou nXP) : </translation>
+        <translation>Entrez un facteur d&apos;échelle (nX ou nXP)&#xa0;: </translation>
     </message>
     <message>
         <source>There is no dynamic zoom: use the window&apos;s wheel.</source>
-        <translation>Il n&apos;y a pas de zoom dynamique : utilisez la molette dans la fenêtre.</translation>
+        <translation>Il n&apos;y a pas de zoom dynamique&#xa0;: utilisez la molette dans la fenêtre.</translation>
     </message>
     <message>
         <source>
 Specify corner of window, enter a scale factor (nX or nXP), or [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;real time&gt;: </source>
         <translation>
-Spécifiez un coin de la fenêtre, entrez un facteur d&apos;échelle (nX ou nXP) ou [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;temps réel&gt; : </translation>
+Spécifiez un coin de la fenêtre, entrez un facteur d&apos;échelle (nX ou nXP) ou [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;temps réel&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5450,15 +5490,15 @@ Aucune vue précédente enregistrée.</translation>
     </message>
     <message>
         <source>Specify base point or displacement: </source>
-        <translation>Spécifiez le point de base ou le déplacement : </translation>
+        <translation>Spécifiez le point de base ou le déplacement&#xa0;: </translation>
     </message>
     <message>
         <source>Specify first corner or [Fit] &lt;Fit&gt;: </source>
-        <translation>Spécifiez le premier coin ou [Fit] &lt;Fit&gt; : </translation>
+        <translation>Spécifiez le premier coin ou [Fit] &lt;Fit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter viewport configuration name or [?] &lt;*Active&gt;: </source>
-        <translation>Entrez le nom de la configuration de fenêtres ou [?] &lt;*Active&gt; : </translation>
+        <translation>Entrez le nom de la configuration de fenêtres ou [?] &lt;*Active&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no viewports with other outlines than rectangles.</source>
@@ -5470,7 +5510,7 @@ Aucune vue précédente enregistrée.</translation>
     </message>
     <message>
         <source>Select object to clip viewport: </source>
-        <translation>Sélectionnez l&apos;objet qui délimite la fenêtre : </translation>
+        <translation>Sélectionnez l&apos;objet qui délimite la fenêtre&#xa0;: </translation>
     </message>
     <message>
         <source>A viewport has three corners at least.</source>
@@ -5478,15 +5518,15 @@ Aucune vue précédente enregistrée.</translation>
     </message>
     <message>
         <source>Viewport View Locking [ON/OFF]: </source>
-        <translation>Verrouillage de la vue de la fenêtre [ON/OFF] : </translation>
+        <translation>Verrouillage de la vue de la fenêtre [ON/OFF]&#xa0;: </translation>
     </message>
     <message>
         <source>Shade plot? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </source>
-        <translation>Tracé ombré ? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt; : </translation>
+        <translation>Tracé ombré&#xa0;? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </source>
-        <translation>Spécifiez un coin de la fenêtre ou [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt; : </translation>
+        <translation>Spécifiez un coin de la fenêtre ou [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -5502,23 +5542,23 @@ Déjà dans l&apos;espace papier.</translation>
     </message>
     <message>
         <source>Enter an option [All/Select/Current/eXcept current] &lt;Current&gt;: </source>
-        <translation>Entrez une option [All/Select/Current/eXcept current] &lt;Current&gt; : </translation>
+        <translation>Entrez une option [All/Select/Current/eXcept current] &lt;Current&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter name(s) of new layers frozen in all viewports: </source>
-        <translation>Entrez les noms des nouveaux calques gelés dans toutes les fenêtres : </translation>
+        <translation>Entrez les noms des nouveaux calques gelés dans toutes les fenêtres&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to change viewport visibility: </source>
-        <translation>Entrez les noms des calques dont modifier la visibilité dans les fenêtres : </translation>
+        <translation>Entrez les noms des calques dont modifier la visibilité dans les fenêtres&#xa0;: </translation>
     </message>
     <message>
         <source>Enter a viewport visibility option [Frozen/Thawed] &lt;Thawed&gt;: </source>
-        <translation>Entrez une option de visibilité dans les fenêtres [Frozen/Thawed] &lt;Thawed&gt; : </translation>
+        <translation>Entrez une option de visibilité dans les fenêtres [Frozen/Thawed] &lt;Thawed&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Select a viewport: </source>
-        <translation>Sélectionnez une fenêtre : </translation>
+        <translation>Sélectionnez une fenêtre&#xa0;: </translation>
     </message>
     <message>
         <source>No viewport was chosen.</source>
@@ -5528,58 +5568,54 @@ Déjà dans l&apos;espace papier.</translation>
         <source>
 Layers currently frozen in viewport %1:</source>
         <translation>
-Calques actuellement gelés dans la fenêtre %1 :</translation>
+Calques actuellement gelés dans la fenêtre %1&#xa0;:</translation>
     </message>
     <message>
         <source>Enter layer name(s) to freeze or &lt;select objects&gt;: </source>
-        <translation>Entrez les noms des calques à geler ou &lt;sélectionner des objets&gt; : </translation>
+        <translation>Entrez les noms des calques à geler ou &lt;sélectionner des objets&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to thaw: </source>
-        <translation>Entrez les noms des calques à dégeler : </translation>
+        <translation>Entrez les noms des calques à dégeler&#xa0;: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to reset: </source>
-        <translation>Entrez les noms des calques à réinitialiser : </translation>
+        <translation>Entrez les noms des calques à réinitialiser&#xa0;: </translation>
     </message>
     <message>
         <source>Layers have the same properties in all viewports here: nothing was changed.</source>
-        <translation>Les calques ont ici les mêmes propriétés dans toutes les fenêtres : rien n&apos;a été modifié.</translation>
+        <translation>Les calques ont ici les mêmes propriétés dans toutes les fenêtres&#xa0;: rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
-        <translation>Entrez une option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt] : </translation>
+        <translation>Entrez une option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]&#xa0;: </translation>
     </message>
 </context>
 <context>
     <name>Comparing</name>
     <message>
         <source>dates and editing time: $TD...</source>
-        <translation>dates et temps d&apos;édition : $TD...</translation>
+        <translation>dates et temps d&apos;édition&#xa0;: $TD...</translation>
     </message>
     <message>
         <source>the next free handle: $HANDSEED</source>
-        <translation>le prochain identificateur libre : $HANDSEED</translation>
+        <translation>le prochain identificateur libre&#xa0;: $HANDSEED</translation>
     </message>
     <message>
         <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation>noms du fichier et de qui l&apos;a enregistré : $VERSIONGUID, $LASTSAVEDBY, ...</translation>
+        <translation>noms du fichier et de qui l&apos;a enregistré&#xa0;: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
     </message>
     <message>
         <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation>étendue, qui découle des objets : $EXTMIN, ...</translation>
-    </message>
-    <message>
-        <source>which objects want to hear of changes: {ACAD_REACTORS</source>
-        <translation>quels objets veulent être avertis des changements : {ACAD_REACTORS</translation>
+        <translation>étendue, qui découle des objets&#xa0;: $EXTMIN, ...</translation>
     </message>
     <message>
         <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation>version et page de codes : $ACADVER, $DWGCODEPAGE</translation>
+        <translation>version et page de codes&#xa0;: $ACADVER, $DWGCODEPAGE</translation>
     </message>
     <message>
         <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation>ce que les fenêtres montraient en dernier : la table VPORT, $VIEWCTR, ...</translation>
+        <translation>ce que les fenêtres montraient en dernier&#xa0;: la table VPORT, $VIEWCTR, ...</translation>
     </message>
     <message>
         <source>all variables of the header</source>
@@ -5591,7 +5627,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation>tout ce qui n&apos;est pas dessiné : dictionnaires, présentations, ...</translation>
+        <translation>tout ce qui n&apos;est pas dessiné&#xa0;: dictionnaires, présentations, ...</translation>
     </message>
     <message>
         <source>extended data</source>
@@ -5600,6 +5636,10 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     <message>
         <source>which entity is drawn over which</source>
         <translation>quel objet est dessiné par-dessus lequel</translation>
+    </message>
+    <message>
+        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
+        <translation>qui veut être averti des changements et qui montre un bloc&#xa0;: {ACAD_REACTORS, {BLKREFS</translation>
     </message>
 </context>
 <context>
@@ -5781,11 +5821,11 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation>Introuvable : %1 &quot;%2&quot;.</translation>
+        <translation>Introuvable&#xa0;: %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be renamed.</source>
-        <translation>Ne peut pas être renommé : %1 &quot;%2&quot;.</translation>
+        <translation>Ne peut pas être renommé&#xa0;: %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be a name.</source>
@@ -5793,7 +5833,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; already exists.</source>
-        <translation>Existe déjà : %1 &quot;%2&quot;.</translation>
+        <translation>Existe déjà&#xa0;: %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Registered applications cannot be renamed.</source>
@@ -5961,11 +6001,11 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
-        <translation>%1 a pour le groupe %2 une valeur à laquelle la forme binaire n&apos;a pas de place : &quot;%3&quot;</translation>
+        <translation>%1 a pour le groupe %2 une valeur à laquelle la forme binaire n&apos;a pas de place&#xa0;: &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 with the handle %2</source>
@@ -6021,7 +6061,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>%1: this is a folder</source>
-        <translation>%1 : c&apos;est un dossier</translation>
+        <translation>%1&#xa0;: c&apos;est un dossier</translation>
     </message>
     <message>
         <source> (--recover opens what is sound of it)</source>
@@ -6041,7 +6081,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>recovered: %1 dropped%2, %3 mended, %4 added</source>
-        <translation>récupéré : %1 écartés%2, %3 réparés, %4 ajoutés</translation>
+        <translation>récupéré&#xa0;: %1 écartés%2, %3 réparés, %4 ajoutés</translation>
     </message>
     <message>
         <source>what was written does not read back the same</source>
@@ -6053,19 +6093,19 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>what would be written could not be opened the same: see %1 of handle %2</source>
-        <translation>ce qui serait écrit ne pourrait pas être rouvert à l&apos;identique : voir %1 d&apos;identificateur %2</translation>
+        <translation>ce qui serait écrit ne pourrait pas être rouvert à l&apos;identique&#xa0;: voir %1 d&apos;identificateur %2</translation>
     </message>
     <message>
         <source>%1: the file cannot be written: %2</source>
-        <translation>%1 : le fichier ne peut pas être écrit : %2</translation>
+        <translation>%1&#xa0;: le fichier ne peut pas être écrit&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: %2; the old file was kept</source>
-        <translation>%1 : %2 ; l&apos;ancien fichier a été conservé</translation>
+        <translation>%1&#xa0;: %2&#xa0;; l&apos;ancien fichier a été conservé</translation>
     </message>
     <message>
         <source>%1: this program cannot write DWG files; give the file a name ending in .dxf</source>
-        <translation>%1 : ce programme ne peut pas écrire de fichiers DWG ; donnez au fichier un nom finissant par .dxf</translation>
+        <translation>%1&#xa0;: ce programme ne peut pas écrire de fichiers DWG&#xa0;; donnez au fichier un nom finissant par .dxf</translation>
     </message>
     <message>
         <source>header variable</source>
@@ -6113,7 +6153,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>the one for the entities here was lost; it is %1 now</source>
-        <translation>celui des objets présents ici était perdu ; c&apos;est maintenant %1</translation>
+        <translation>celui des objets présents ici était perdu&#xa0;; c&apos;est maintenant %1</translation>
     </message>
     <message>
         <source>nothing is open that it could end</source>
@@ -6137,19 +6177,19 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>%1: this is not a file</source>
-        <translation>%1 : ce n&apos;est pas un fichier</translation>
+        <translation>%1&#xa0;: ce n&apos;est pas un fichier</translation>
     </message>
     <message>
         <source>%1: drawings of this version have no room for such data</source>
-        <translation>%1 : les dessins de cette version n&apos;ont pas de place pour de telles données</translation>
+        <translation>%1&#xa0;: les dessins de cette version n&apos;ont pas de place pour de telles données</translation>
     </message>
     <message>
         <source>%1: %2 stands for something else in this drawing</source>
-        <translation>%1 : %2 désigne autre chose dans ce dessin</translation>
+        <translation>%1&#xa0;: %2 désigne autre chose dans ce dessin</translation>
     </message>
     <message>
         <source>%1: the file is larger than 4 GB</source>
-        <translation>%1 : le fichier dépasse 4 Go</translation>
+        <translation>%1&#xa0;: le fichier dépasse 4 Go</translation>
     </message>
     <message>
         <source>the drawing has no paper space</source>
@@ -6157,15 +6197,15 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>POLYLINE: its vertices are missing</source>
-        <translation>POLYLINE : ses sommets manquent</translation>
+        <translation>POLYLINE&#xa0;: ses sommets manquent</translation>
     </message>
     <message>
         <source>%1: an entity of this type has no parts</source>
-        <translation>%1 : un objet de ce type n&apos;a pas de parties</translation>
+        <translation>%1&#xa0;: un objet de ce type n&apos;a pas de parties</translation>
     </message>
     <message>
         <source>%1: %2 expected, found %3</source>
-        <translation>%1 : %2 attendu, %3 trouvé</translation>
+        <translation>%1&#xa0;: %2 attendu, %3 trouvé</translation>
     </message>
     <message>
         <source>the entity is erased</source>
@@ -6229,15 +6269,15 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>this is not a DXF file: </source>
-        <translation>ce n&apos;est pas un fichier DXF : </translation>
+        <translation>ce n&apos;est pas un fichier DXF&#xa0;: </translation>
     </message>
     <message>
         <source>this is not a DXF file: it has no sections</source>
-        <translation>ce n&apos;est pas un fichier DXF : il n&apos;a pas de sections</translation>
+        <translation>ce n&apos;est pas un fichier DXF&#xa0;: il n&apos;a pas de sections</translation>
     </message>
     <message>
         <source>the file is cut off: it ends before EOF</source>
-        <translation>le fichier est tronqué : il finit avant EOF</translation>
+        <translation>le fichier est tronqué&#xa0;: il finit avant EOF</translation>
     </message>
     <message>
         <source>the section has no name</source>
@@ -6249,7 +6289,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>%1 inside a section: ENDSEC is missing</source>
-        <translation>%1 dans une section : ENDSEC manque</translation>
+        <translation>%1 dans une section&#xa0;: ENDSEC manque</translation>
     </message>
     <message>
         <source>%1 stands in the header section</source>
@@ -6257,7 +6297,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>this is not a DXF file: section expected, found </source>
-        <translation>ce n&apos;est pas un fichier DXF : section attendue, trouvé </translation>
+        <translation>ce n&apos;est pas un fichier DXF&#xa0;: section attendue, trouvé </translation>
     </message>
     <message>
         <source>%1 stands outside of the sections</source>
@@ -6265,31 +6305,31 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>TABLE inside a table: ENDTAB is missing</source>
-        <translation>TABLE dans une table : ENDTAB manque</translation>
+        <translation>TABLE dans une table&#xa0;: ENDTAB manque</translation>
     </message>
     <message>
         <source>%1 stands outside of the tables: TABLE is missing</source>
-        <translation>%1 se trouve hors des tables : TABLE manque</translation>
+        <translation>%1 se trouve hors des tables&#xa0;: TABLE manque</translation>
     </message>
     <message>
         <source>BLOCK inside a block: ENDBLK is missing</source>
-        <translation>BLOCK dans un bloc : ENDBLK manque</translation>
+        <translation>BLOCK dans un bloc&#xa0;: ENDBLK manque</translation>
     </message>
     <message>
         <source>%1 stands outside of the blocks: BLOCK is missing</source>
-        <translation>%1 se trouve hors des blocs : BLOCK manque</translation>
+        <translation>%1 se trouve hors des blocs&#xa0;: BLOCK manque</translation>
     </message>
     <message>
         <source>the section ends inside a table: ENDTAB is missing</source>
-        <translation>la section finit dans une table : ENDTAB manque</translation>
+        <translation>la section finit dans une table&#xa0;: ENDTAB manque</translation>
     </message>
     <message>
         <source>the section ends inside a block: ENDBLK is missing</source>
-        <translation>la section finit dans un bloc : ENDBLK manque</translation>
+        <translation>la section finit dans un bloc&#xa0;: ENDBLK manque</translation>
     </message>
     <message>
         <source>tag %1 of the binary file: %2</source>
-        <translation>balise %1 du fichier binaire : %2</translation>
+        <translation>balise %1 du fichier binaire&#xa0;: %2</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB as text</source>
@@ -6301,7 +6341,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>this is a DWG file; this program reads DXF only</source>
-        <translation>c&apos;est un fichier DWG ; ce programme ne lit que DXF</translation>
+        <translation>c&apos;est un fichier DWG&#xa0;; ce programme ne lit que DXF</translation>
     </message>
     <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
@@ -6309,7 +6349,7 @@ Calques actuellement gelés dans la fenêtre %1 :</translation>
     </message>
     <message>
         <source>this is a packed file; unpack it first</source>
-        <translation>c&apos;est un fichier compressé ; décompressez-le d&apos;abord</translation>
+        <translation>c&apos;est un fichier compressé&#xa0;; décompressez-le d&apos;abord</translation>
     </message>
     <message>
         <source>this is a binary DXF file whose first bytes are damaged, as by a transfer as text</source>
@@ -6473,7 +6513,7 @@ Written: %1
         <source>
 New color &lt;%1&gt;: </source>
         <translation>
-Nouvelle couleur &lt;%1&gt; : </translation>
+Nouvelle couleur &lt;%1&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -6494,7 +6534,7 @@ Commande inconnue &quot;%1&quot;.
 Left over from (command): %1
 </source>
         <translation>
-Reste de (command) : %1
+Reste de (command)&#xa0;: %1
 </translation>
     </message>
     <message>
@@ -6510,7 +6550,7 @@ Le fichier de boîtes de dialogue &quot;%1&quot; est introuvable.
 The actions that the file gives to the tiles of &quot;%1&quot; do not run: its folder is not trusted.
 </source>
         <translation>
-Les actions que le fichier donne aux éléments de &quot;%1&quot; ne s&apos;exécutent pas : son dossier n&apos;est pas de confiance.
+Les actions que le fichier donne aux éléments de &quot;%1&quot; ne s&apos;exécutent pas&#xa0;: son dossier n&apos;est pas de confiance.
 </translation>
     </message>
     <message>
@@ -6526,7 +6566,7 @@ Il n&apos;y a pas de boîte de dialogue &quot;%1&quot; dans ce qui a été charg
 Nobody is there to answer the dialog &quot;%1&quot;: cancelled.
 </source>
         <translation>
-Personne n&apos;est là pour répondre à la boîte de dialogue &quot;%1&quot; : annulé.
+Personne n&apos;est là pour répondre à la boîte de dialogue &quot;%1&quot;&#xa0;: annulé.
 </translation>
     </message>
     <message>
@@ -6537,14 +6577,14 @@ Personne n&apos;est là pour répondre à la boîte de dialogue &quot;%1&quot; 
         <source>
 Select object: </source>
         <translation>
-Sélectionnez un objet : </translation>
+Sélectionnez un objet&#xa0;: </translation>
     </message>
     <message>
         <source>
 startapp: %1 is not started: the user&apos;s settings do not let programs start others.
 </source>
         <translation>
-startapp : %1 n&apos;est pas démarré : les paramètres de l&apos;utilisateur ne permettent pas aux programmes d&apos;en démarrer d&apos;autres.
+startapp&#xa0;: %1 n&apos;est pas démarré&#xa0;: les paramètres de l&apos;utilisateur ne permettent pas aux programmes d&apos;en démarrer d&apos;autres.
 </translation>
     </message>
     <message>
@@ -6572,7 +6612,7 @@ startapp : %1 n&apos;est pas démarré : les paramètres de l&apos;utilisateur
 The slide &quot;%1&quot;: %2.
 </source>
         <translation>
-Le cliché &quot;%1&quot; : %2.
+Le cliché &quot;%1&quot;&#xa0;: %2.
 </translation>
     </message>
 </context>
@@ -6580,7 +6620,7 @@ Le cliché &quot;%1&quot; : %2.
     <name>Help</name>
     <message>
         <source>0: heights count</source>
-        <translation>0 : les hauteurs comptent</translation>
+        <translation>0&#xa0;: les hauteurs comptent</translation>
     </message>
     <message>
         <source>As -COLOR</source>
@@ -6588,63 +6628,63 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>As -COLOR; there is no window for it</source>
-        <translation>Comme -COLOR ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -COLOR&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LAYDEL; there is no window for it</source>
-        <translation>Comme -LAYDEL ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -LAYDEL&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LAYER; entered by hand in the window it shows the layer panel</source>
-        <translation>Comme -LAYER ; saisi à la main dans la fenêtre, montre le panneau des calques</translation>
+        <translation>Comme -LAYER&#xa0;; saisi à la main dans la fenêtre, montre le panneau des calques</translation>
     </message>
     <message>
         <source>As -LAYMRG; there is no window for it</source>
-        <translation>Comme -LAYMRG ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -LAYMRG&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LINETYPE; there is no window for it</source>
-        <translation>Comme -LINETYPE ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -LINETYPE&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -LWEIGHT; there is no window for it</source>
-        <translation>Comme -LWEIGHT ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -LWEIGHT&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -PAN; the middle button of the mouse moves the view too</source>
-        <translation>Comme -PAN ; le bouton central de la souris déplace aussi la vue</translation>
+        <translation>Comme -PAN&#xa0;; le bouton central de la souris déplace aussi la vue</translation>
     </message>
     <message>
         <source>As -PURGE; there is no window for it</source>
-        <translation>Comme -PURGE ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -PURGE&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -RENAME; there is no window for it</source>
-        <translation>Comme -RENAME ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -RENAME&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -UNITS; there is no window for it</source>
-        <translation>Comme -UNITS ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -UNITS&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -VIEW; there is no window for it</source>
-        <translation>Comme -VIEW ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -VIEW&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -VPOINT; there is no window for it</source>
-        <translation>Comme -VPOINT ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -VPOINT&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -VPORTS; there is no window for it</source>
-        <translation>Comme -VPORTS ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -VPORTS&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As -XREF; there is no window for it</source>
-        <translation>Comme -XREF ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme -XREF&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As LAYOUT; there is no window for it</source>
-        <translation>Comme LAYOUT ; il n&apos;y a pas de fenêtre pour cela</translation>
+        <translation>Comme LAYOUT&#xa0;; il n&apos;y a pas de fenêtre pour cela</translation>
     </message>
     <message>
         <source>As NEW</source>
@@ -6712,7 +6752,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Chooses entities; they are the previous selection then</source>
-        <translation>Choisit des objets ; ils forment alors la sélection précédente</translation>
+        <translation>Choisit des objets&#xa0;; ils forment alors la sélection précédente</translation>
     </message>
     <message>
         <source>Chooses the isometric plane</source>
@@ -6824,7 +6864,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Draws a circle: centre and radius, two or three points, two tangents and radius</source>
-        <translation>Dessine un cercle : centre et rayon, deux ou trois points, deux tangentes et rayon</translation>
+        <translation>Dessine un cercle&#xa0;: centre et rayon, deux ou trois points, deux tangentes et rayon</translation>
     </message>
     <message>
         <source>Draws a cloud of arcs, or makes one of an entity</source>
@@ -6864,7 +6904,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Draws an arc: three points, or start, center, end, angle, length, direction, radius</source>
-        <translation>Dessine un arc : trois points, ou départ, centre, fin, angle, longueur, direction, rayon</translation>
+        <translation>Dessine un arc&#xa0;: trois points, ou départ, centre, fin, angle, longueur, direction, rayon</translation>
     </message>
     <message>
         <source>Draws an arrow with a note as one entity</source>
@@ -6924,7 +6964,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Edits polylines: closes, joins, widens, smooths, changes vertices</source>
-        <translation>Modifie des polylignes : les ferme, joint, élargit, lisse, change leurs sommets</translation>
+        <translation>Modifie des polylignes&#xa0;: les ferme, joint, élargit, lisse, change leurs sommets</translation>
     </message>
     <message>
         <source>Evaluates the expressions of texts anew</source>
@@ -7140,7 +7180,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Plots a layout to a file; in the window as a dialog with a preview</source>
-        <translation>Trace une présentation dans un fichier ; dans la fenêtre, par une boîte de dialogue avec aperçu</translation>
+        <translation>Trace une présentation dans un fichier&#xa0;; dans la fenêtre, par une boîte de dialogue avec aperçu</translation>
     </message>
     <message>
         <source>Puts objects on the current layer</source>
@@ -7276,11 +7316,11 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Takes a file&apos;s name; programs for other hosts do not run here</source>
-        <translation>Prend un nom de fichier ; les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici</translation>
+        <translation>Prend un nom de fichier&#xa0;; les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici</translation>
     </message>
     <message>
         <source>Takes back steps; marks and groups them</source>
-        <translation>Annule des pas ; les marque et les groupe</translation>
+        <translation>Annule des pas&#xa0;; les marque et les groupe</translation>
     </message>
     <message>
         <source>Takes back the last change of layer settings</source>
@@ -7304,15 +7344,15 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>Takes the name of a menu file; there are none here</source>
-        <translation>Prend le nom d&apos;un fichier de menu ; il n&apos;y en a pas ici</translation>
+        <translation>Prend le nom d&apos;un fichier de menu&#xa0;; il n&apos;y en a pas ici</translation>
     </message>
     <message>
         <source>Takes the name of a menu; there are none here</source>
-        <translation>Prend le nom d&apos;un menu ; il n&apos;y en a pas ici</translation>
+        <translation>Prend le nom d&apos;un menu&#xa0;; il n&apos;y en a pas ici</translation>
     </message>
     <message>
         <source>Takes what programs ask of it; programs for other hosts do not run here</source>
-        <translation>Prend ce que les programmes lui demandent ; les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici</translation>
+        <translation>Prend ce que les programmes lui demandent&#xa0;; les programmes d&apos;autres hôtes ne s&apos;exécutent pas ici</translation>
     </message>
     <message>
         <source>Tells the coordinates of a point</source>
@@ -7532,7 +7572,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>attributes: none are shown (0), as they say (1), all (2)</source>
-        <translation>attributs : aucun n&apos;est affiché (0), selon leur réglage (1), tous (2)</translation>
+        <translation>attributs&#xa0;: aucun n&apos;est affiché (0), selon leur réglage (1), tous (2)</translation>
     </message>
     <message>
         <source>blocks cannot be edited in place</source>
@@ -7616,7 +7656,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>date and time as a number: YYYYMMDD.HHMMSS</source>
-        <translation>date et heure en un nombre : AAAAMMJJ.HHMMSS</translation>
+        <translation>date et heure en un nombre&#xa0;: AAAAMMJJ.HHMMSS</translation>
     </message>
     <message>
         <source>date and time as days of the Julian calendar</source>
@@ -7628,7 +7668,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>decimals of angles; -1 as DIMDEC</source>
-        <translation>décimales des angles ; -1 comme DIMDEC</translation>
+        <translation>décimales des angles&#xa0;; -1 comme DIMDEC</translation>
     </message>
     <message>
         <source>decimals of dimensions</source>
@@ -7696,7 +7736,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>entities have handles: always 1</source>
-        <translation>les objets ont des identificateurs : toujours 1</translation>
+        <translation>les objets ont des identificateurs&#xa0;: toujours 1</translation>
     </message>
     <message>
         <source>entities may be chosen before a command</source>
@@ -7816,7 +7856,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>how angles are shown: degrees, minutes, gradians, radians, surveyor&apos;s units</source>
-        <translation>affichage des angles : degrés, minutes, grades, radians, unités géodésiques</translation>
+        <translation>affichage des angles&#xa0;: degrés, minutes, grades, radians, unités géodésiques</translation>
     </message>
     <message>
         <source>how areas are picked</source>
@@ -7840,7 +7880,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>how external drawings&apos; names are bound: with $ (0) or as if inserted (1)</source>
-        <translation>comment les noms des dessins externes sont liés : avec $ (0) ou comme insérés (1)</translation>
+        <translation>comment les noms des dessins externes sont liés&#xa0;: avec $ (0) ou comme insérés (1)</translation>
     </message>
     <message>
         <source>how faces and edges are shaded</source>
@@ -7900,7 +7940,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>how lengths are shown: scientific, decimal, engineering, architectural, fractional</source>
-        <translation>affichage des longueurs : scientifique, décimal, ingénierie, architecture, fractionnaire</translation>
+        <translation>affichage des longueurs&#xa0;: scientifique, décimal, ingénierie, architecture, fractionnaire</translation>
     </message>
     <message>
         <source>how lofted surfaces are shaped, as bits</source>
@@ -8112,7 +8152,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>kept as it is set, for programs: nothing here depends on it</source>
-        <translation>conservé comme défini, pour les programmes : rien n&apos;en dépend ici</translation>
+        <translation>conservé comme défini, pour les programmes&#xa0;: rien n&apos;en dépend ici</translation>
     </message>
     <message>
         <source>kept for programs that ask for it</source>
@@ -8216,7 +8256,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>marks of centres: their size, negative with lines, 0 for none</source>
-        <translation>marques de centre : leur taille, négative avec lignes, 0 pour aucune</translation>
+        <translation>marques de centre&#xa0;: leur taille, négative avec lignes, 0 pour aucune</translation>
     </message>
     <message>
         <source>marks where points were picked</source>
@@ -8236,7 +8276,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>menus of the right button, as bits: at rest, for what is chosen, at prompts, with options, held</source>
-        <translation>menus du bouton droit, en bits : au repos, pour ce qui est choisi, aux invites, avec options, tenu</translation>
+        <translation>menus du bouton droit, en bits&#xa0;: au repos, pour ce qui est choisi, aux invites, avec options, tenu</translation>
     </message>
     <message>
         <source>milliseconds since the machine was started</source>
@@ -8352,11 +8392,11 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>polylines are made light: never (0), new ones (1), old ones too (2)</source>
-        <translation>les polylignes sont allégées : jamais (0), les nouvelles (1), les anciennes aussi (2)</translation>
+        <translation>les polylignes sont allégées&#xa0;: jamais (0), les nouvelles (1), les anciennes aussi (2)</translation>
     </message>
     <message>
         <source>programs from elsewhere: loaded (0), asked for (1), refused (2); trusted folders decide here</source>
-        <translation>programmes venus d&apos;ailleurs : chargés (0), demandés (1), refusés (2) ; les dossiers de confiance décident ici</translation>
+        <translation>programmes venus d&apos;ailleurs&#xa0;: chargés (0), demandés (1), refusés (2)&#xa0;; les dossiers de confiance décident ici</translation>
     </message>
     <message>
         <source>prompts are not printed</source>
@@ -8600,7 +8640,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the colour of new hatches; &quot;.&quot; is the current one</source>
-        <translation>la couleur des nouvelles hachures ; &quot;.&quot; est la couleur courante</translation>
+        <translation>la couleur des nouvelles hachures&#xa0;; &quot;.&quot; est la couleur courante</translation>
     </message>
     <message>
         <source>the colour of texts</source>
@@ -8684,7 +8724,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the distance that OFFSET proposes; negative for through a point</source>
-        <translation>la distance que propose OFFSET ; négative pour par un point</translation>
+        <translation>la distance que propose OFFSET&#xa0;; négative pour par un point</translation>
     </message>
     <message>
         <source>the distance that was measured last</source>
@@ -8972,7 +9012,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the layer of new dimensions; &quot;.&quot; is the current one</source>
-        <translation>le calque des nouvelles cotes ; &quot;.&quot; est le calque courant</translation>
+        <translation>le calque des nouvelles cotes&#xa0;; &quot;.&quot; est le calque courant</translation>
     </message>
     <message>
         <source>the layer of new entities</source>
@@ -8980,11 +9020,11 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the layer of new external drawings; &quot;.&quot; is the current one</source>
-        <translation>le calque des nouveaux dessins externes ; &quot;.&quot; est le calque courant</translation>
+        <translation>le calque des nouveaux dessins externes&#xa0;; &quot;.&quot; est le calque courant</translation>
     </message>
     <message>
         <source>the layer of new hatches; &quot;.&quot; is the current one</source>
-        <translation>le calque des nouvelles hachures ; &quot;.&quot; est le calque courant</translation>
+        <translation>le calque des nouvelles hachures&#xa0;; &quot;.&quot; est le calque courant</translation>
     </message>
     <message>
         <source>the least speed of smooth changes of the view</source>
@@ -9124,7 +9164,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the number of the current viewport; 1 is the sheet</source>
-        <translation>le numéro de la fenêtre courante ; 1 est la feuille</translation>
+        <translation>le numéro de la fenêtre courante&#xa0;; 1 est la feuille</translation>
     </message>
     <message>
         <source>the offset of plots counts from the margin (0) or the edge (1)</source>
@@ -9212,7 +9252,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the radius that CIRCLE proposes; 0 for none</source>
-        <translation>le rayon que propose CIRCLE ; 0 pour aucun</translation>
+        <translation>le rayon que propose CIRCLE&#xa0;; 0 pour aucun</translation>
     </message>
     <message>
         <source>the radius that FILLET takes</source>
@@ -9228,7 +9268,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the room round the text; negative with a frame</source>
-        <translation>la place autour du texte ; négative avec un cadre</translation>
+        <translation>la place autour du texte&#xa0;; négative avec un cadre</translation>
     </message>
     <message>
         <source>the running object snaps, as bits</source>
@@ -9240,7 +9280,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the scale of everything in dimensions; 0 by the sheet</source>
-        <translation>l&apos;échelle de tout dans les cotes ; 0 selon la feuille</translation>
+        <translation>l&apos;échelle de tout dans les cotes&#xa0;; 0 selon la feuille</translation>
     </message>
     <message>
         <source>the scale of hatches</source>
@@ -9332,7 +9372,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the size of ticks; 0 for arrows</source>
-        <translation>la taille des traits obliques ; 0 pour des flèches</translation>
+        <translation>la taille des traits obliques&#xa0;; 0 pour des flèches</translation>
     </message>
     <message>
         <source>the size of tolerances</source>
@@ -9432,7 +9472,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>the transparency of new hatches; &quot;.&quot; is the current one</source>
-        <translation>la transparence des nouvelles hachures ; &quot;.&quot; est la transparence courante</translation>
+        <translation>la transparence des nouvelles hachures&#xa0;; &quot;.&quot; est la transparence courante</translation>
     </message>
     <message>
         <source>the turn of snap and grid</source>
@@ -9576,7 +9616,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>typed coordinates go before object snap: never (0), always (1), not in scripts (2)</source>
-        <translation>les coordonnées saisies l&apos;emportent sur l&apos;accrochage : jamais (0), toujours (1), sauf dans les scripts (2)</translation>
+        <translation>les coordonnées saisies l&apos;emportent sur l&apos;accrochage&#xa0;: jamais (0), toujours (1), sauf dans les scripts (2)</translation>
     </message>
     <message>
         <source>units of light</source>
@@ -9684,7 +9724,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>what is under way: a command (1), transparent one (2), script (4), dialog (8), Lisp (32)</source>
-        <translation>ce qui est en cours : une commande (1), transparente (2), script (4), boîte de dialogue (8), Lisp (32)</translation>
+        <translation>ce qui est en cours&#xa0;: une commande (1), transparente (2), script (4), boîte de dialogue (8), Lisp (32)</translation>
     </message>
     <message>
         <source>what keeps to the drawing order</source>
@@ -9752,7 +9792,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>what the view is: perspective, clipped, ..., as bits</source>
-        <translation>ce qu&apos;est la vue : perspective, délimitée, ..., en bits</translation>
+        <translation>ce qu&apos;est la vue&#xa0;: perspective, délimitée, ..., en bits</translation>
     </message>
     <message>
         <source>what the view looks at</source>
@@ -9816,7 +9856,7 @@ Le cliché &quot;%1&quot; : %2.
     </message>
     <message>
         <source>where multilines lie on their points: top, middle, bottom</source>
-        <translation>où les multilignes se tiennent sur leurs points : haut, milieu, bas</translation>
+        <translation>où les multilignes se tiennent sur leurs points&#xa0;: haut, milieu, bas</translation>
     </message>
     <message>
         <source>where new hatches lie in the drawing order</source>
@@ -9944,6 +9984,165 @@ Le cliché &quot;%1&quot; : %2.
     </message>
 </context>
 <context>
+    <name>Inspecting</name>
+    <message>
+        <source>%1: what is mended is not written over the drawing</source>
+        <translation>%1&#xa0;: ce qui est réparé n&apos;est pas écrit par-dessus le dessin</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>non lu</translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation>sain</translation>
+    </message>
+    <message>
+        <source>%1 faults</source>
+        <translation>%1 défauts</translation>
+    </message>
+    <message>
+        <source>, opens with --recover alone</source>
+        <translation>, ne s&apos;ouvre qu&apos;avec --recover</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> et %1 de plus</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>by %1</source>
+        <translation>par %1</translation>
+    </message>
+    <message>
+        <source>begun %1</source>
+        <translation>commencé %1</translation>
+    </message>
+    <message>
+        <source>the file says %1</source>
+        <translation>le fichier dit %1</translation>
+    </message>
+    <message>
+        <source>; %1 in blocks</source>
+        <translation>; %1 dans des blocs</translation>
+    </message>
+    <message>
+        <source> off</source>
+        <translation> inactif</translation>
+    </message>
+    <message>
+        <source> frozen</source>
+        <translation> gelé</translation>
+    </message>
+    <message>
+        <source> locked</source>
+        <translation> verrouillé</translation>
+    </message>
+    <message>
+        <source> (not found: %1)</source>
+        <translation> (introuvable&#xa0;: %1)</translation>
+    </message>
+    <message>
+        <source> (not found)</source>
+        <translation> (introuvable)</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>, %1 records without</source>
+        <translation>, %1 enregistrements sans</translation>
+    </message>
+    <message>
+        <source>, %1 twice</source>
+        <translation>, %1 en double</translation>
+    </message>
+    <message>
+        <source>, the next one (%1) is taken</source>
+        <translation>, le suivant (%1) est pris</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>format</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>titre</translation>
+    </message>
+    <message>
+        <source>author</source>
+        <translation>auteur</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>enregistré</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unités</translation>
+    </message>
+    <message>
+        <source>extents</source>
+        <translation>étendue</translation>
+    </message>
+    <message>
+        <source>entities</source>
+        <translation>objets</translation>
+    </message>
+    <message>
+        <source>layers</source>
+        <translation>calques</translation>
+    </message>
+    <message>
+        <source>blocks</source>
+        <translation>blocs</translation>
+    </message>
+    <message>
+        <source>layouts</source>
+        <translation>présentations</translation>
+    </message>
+    <message>
+        <source>text styles</source>
+        <translation>styles de texte</translation>
+    </message>
+    <message>
+        <source>fonts</source>
+        <translation>polices</translation>
+    </message>
+    <message>
+        <source>linetypes</source>
+        <translation>types de ligne</translation>
+    </message>
+    <message>
+        <source>dimensions</source>
+        <translation>cotes</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <translation>fichiers</translation>
+    </message>
+    <message>
+        <source>classes</source>
+        <translation>classes</translation>
+    </message>
+    <message>
+        <source>proxies</source>
+        <translation>proxys</translation>
+    </message>
+    <message>
+        <source>handles</source>
+        <translation>identificateurs</translation>
+    </message>
+</context>
+<context>
     <name>Kernel</name>
     <message>
         <source>%1 has no file yet.</source>
@@ -9962,7 +10161,7 @@ D&apos;autres fichiers que nomme le dessin n&apos;ont pas été lus.
 %1 was not read: %2.
 </source>
         <translation>
-%1 n&apos;a pas été lu : %2.
+%1 n&apos;a pas été lu&#xa0;: %2.
 </translation>
     </message>
     <message>
@@ -9974,7 +10173,7 @@ D&apos;autres fichiers que nomme le dessin n&apos;ont pas été lus.
 Saving this drawing was broken off once. What was to be saved is in %1; the drawing&apos;s own file may have only a part of it.
 </source>
         <translation>
-L&apos;enregistrement de ce dessin a été interrompu une fois. Ce qui devait être enregistré est dans %1 ; le fichier du dessin lui-même n&apos;en a peut-être qu&apos;une partie.
+L&apos;enregistrement de ce dessin a été interrompu une fois. Ce qui devait être enregistré est dans %1&#xa0;; le fichier du dessin lui-même n&apos;en a peut-être qu&apos;une partie.
 </translation>
     </message>
     <message>
@@ -9991,7 +10190,7 @@ L&apos;enregistrement de ce dessin a été interrompu une fois. Ce qui devait ê
     </message>
     <message>
         <source>%1: %2; nothing was changed.</source>
-        <translation>%1 : %2 ; rien n&apos;a été modifié.</translation>
+        <translation>%1&#xa0;: %2&#xa0;; rien n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>%1 stays open while a session is played on it.</source>
@@ -9999,15 +10198,15 @@ L&apos;enregistrement de ce dessin a été interrompu une fois. Ce qui devait ê
     </message>
     <message>
         <source>%1 was not closed: it was changed since.</source>
-        <translation>%1 n&apos;a pas été fermé : il a été modifié depuis.</translation>
+        <translation>%1 n&apos;a pas été fermé&#xa0;: il a été modifié depuis.</translation>
     </message>
     <message>
         <source>%1 was not closed: a program of it runs.</source>
-        <translation>%1 n&apos;a pas été fermé : l&apos;un de ses programmes s&apos;exécute.</translation>
+        <translation>%1 n&apos;a pas été fermé&#xa0;: l&apos;un de ses programmes s&apos;exécute.</translation>
     </message>
     <message>
         <source>%1: %2 done, %3 skipped</source>
-        <translation>%1 : %2 faits, %3 ignorés</translation>
+        <translation>%1&#xa0;: %2 faits, %3 ignorés</translation>
     </message>
     <message>
         <source>and %1 more
@@ -10025,11 +10224,11 @@ L&apos;enregistrement de ce dessin a été interrompu une fois. Ce qui devait ê
     </message>
     <message>
         <source>This cannot be allowed here: %1.</source>
-        <translation>Cela ne peut pas être autorisé ici : %1.</translation>
+        <translation>Cela ne peut pas être autorisé ici&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The folder cannot be trusted: everyone may write to it, or its name has a &quot;;&quot;.</source>
-        <translation>On ne peut pas faire confiance à ce dossier : tout le monde peut y écrire, ou son nom contient un &quot;;&quot;.</translation>
+        <translation>On ne peut pas faire confiance à ce dossier&#xa0;: tout le monde peut y écrire, ou son nom contient un &quot;;&quot;.</translation>
     </message>
     <message>
         <source>The list cannot be kept in %1.</source>
@@ -10056,12 +10255,12 @@ TRUSTEDPATHS ne peut pas être conservé dans %1.
 %1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.
 </source>
         <translation>
-%1 n&apos;a pas été chargé : %2. TRUSTEDPATHS, ou l&apos;option --trust, nomme les dossiers dont les programmes peuvent s&apos;exécuter.
+%1 n&apos;a pas été chargé&#xa0;: %2. TRUSTEDPATHS, ou l&apos;option --trust, nomme les dossiers dont les programmes peuvent s&apos;exécuter.
 </translation>
     </message>
     <message>
         <source>%1 was opened for reading only; save it under another name.</source>
-        <translation>%1 a été ouvert en lecture seule ; enregistrez-le sous un autre nom.</translation>
+        <translation>%1 a été ouvert en lecture seule&#xa0;; enregistrez-le sous un autre nom.</translation>
     </message>
     <message>
         <source>%1 was changed by another program since it was opened or saved here.</source>
@@ -10073,7 +10272,7 @@ TRUSTEDPATHS ne peut pas être conservé dans %1.
     </message>
     <message>
         <source>%1 is the damaged file that this drawing was recovered from; save it under another name.</source>
-        <translation>%1 est le fichier endommagé d&apos;où ce dessin a été récupéré ; enregistrez-le sous un autre nom.</translation>
+        <translation>%1 est le fichier endommagé d&apos;où ce dessin a été récupéré&#xa0;; enregistrez-le sous un autre nom.</translation>
     </message>
     <message>
         <source>%1 leads to another file than when it was opened or saved here.</source>
@@ -10081,7 +10280,7 @@ TRUSTEDPATHS ne peut pas être conservé dans %1.
     </message>
     <message>
         <source>%1 is open in this program; close it first, or give another name.</source>
-        <translation>%1 est ouvert dans ce programme ; fermez-le d&apos;abord, ou donnez un autre nom.</translation>
+        <translation>%1 est ouvert dans ce programme&#xa0;; fermez-le d&apos;abord, ou donnez un autre nom.</translation>
     </message>
     <message>
         <source>%1 is open in another program (%2).</source>
@@ -10093,53 +10292,53 @@ TRUSTEDPATHS ne peut pas être conservé dans %1.
     </message>
     <message>
         <source> (need %1): </source>
-        <translation> (besoin de %1) : </translation>
+        <translation> (besoin de %1)&#xa0;: </translation>
     </message>
     <message>
         <source>
 Second point of mid: </source>
         <translation>
-Second point du milieu : </translation>
+Second point du milieu&#xa0;: </translation>
     </message>
     <message>
         <source>
 First point of mid: </source>
         <translation>
-Premier point du milieu : </translation>
+Premier point du milieu&#xa0;: </translation>
     </message>
     <message>
         <source>&lt;Offset&gt;: </source>
-        <translation>&lt;Décalage&gt; : </translation>
+        <translation>&lt;Décalage&gt;&#xa0;: </translation>
     </message>
     <message>
         <source>
 Base point: </source>
         <translation>
-Point de base : </translation>
+Point de base&#xa0;: </translation>
     </message>
     <message>
         <source>
 Next point (Press ENTER to end tracking): </source>
         <translation>
-Point suivant (ENTRÉE termine le repérage) : </translation>
+Point suivant (ENTRÉE termine le repérage)&#xa0;: </translation>
     </message>
     <message>
         <source>
 First tracking point: </source>
         <translation>
-Premier point de repérage : </translation>
+Premier point de repérage&#xa0;: </translation>
     </message>
     <message>
         <source>
 Specify point: </source>
         <translation>
-Spécifiez un point : </translation>
+Spécifiez un point&#xa0;: </translation>
     </message>
     <message>
         <source>
 Specify temporary tracking point: </source>
         <translation>
-Spécifiez un point de repérage temporaire : </translation>
+Spécifiez un point de repérage temporaire&#xa0;: </translation>
     </message>
     <message>
         <source>Requires an integer value or option keyword.</source>
@@ -10209,7 +10408,7 @@ Spécifiez un point de repérage temporaire : </translation>
         <source>
 Specify second point: </source>
         <translation>
-Spécifiez le second point : </translation>
+Spécifiez le second point&#xa0;: </translation>
     </message>
     <message>
         <source> to </source>
@@ -10219,47 +10418,47 @@ Spécifiez le second point : </translation>
         <source>
 Angle Override: </source>
         <translation>
-Angle imposé : </translation>
+Angle imposé&#xa0;: </translation>
     </message>
     <message>
         <source>No %1 found for specified point.</source>
-        <translation>Introuvable au point spécifié : %1.</translation>
+        <translation>Introuvable au point spécifié&#xa0;: %1.</translation>
     </message>
     <message>
         <source>
 Enter group name: </source>
         <translation>
-Entrez le nom du groupe : </translation>
+Entrez le nom du groupe&#xa0;: </translation>
     </message>
     <message>
         <source>
 Remove objects: </source>
         <translation>
-Retirez des objets : </translation>
+Retirez des objets&#xa0;: </translation>
     </message>
     <message>
         <source>
 First point: </source>
         <translation>
-Premier point : </translation>
+Premier point&#xa0;: </translation>
     </message>
     <message>
         <source>
 Specify first corner: </source>
         <translation>
-Spécifiez le premier coin : </translation>
+Spécifiez le premier coin&#xa0;: </translation>
     </message>
     <message>
         <source>
 Next point: </source>
         <translation>
-Point suivant : </translation>
+Point suivant&#xa0;: </translation>
     </message>
     <message>
         <source>
 Specify opposite corner: </source>
         <translation>
-Spécifiez le coin opposé : </translation>
+Spécifiez le coin opposé&#xa0;: </translation>
     </message>
     <message>
         <source>
@@ -10289,7 +10488,7 @@ Groupe &quot;%1&quot; introuvable.</translation>
         <source>
 Select objects: </source>
         <translation>
-Sélectionnez des objets : </translation>
+Sélectionnez des objets&#xa0;: </translation>
     </message>
     <message>
         <source>endpoint</source>
@@ -10364,7 +10563,7 @@ Le reste de ce qui a été saisi d&apos;avance est omis.
 Nobody is there to answer &quot;%1&quot;: cancelled.
 </source>
         <translation>
-Personne n&apos;est là pour répondre à &quot;%1&quot; : annulé.
+Personne n&apos;est là pour répondre à &quot;%1&quot;&#xa0;: annulé.
 </translation>
     </message>
     <message>
@@ -10399,7 +10598,7 @@ Personne n&apos;est là pour répondre à &quot;%1&quot; : annulé.
     </message>
     <message>
         <source>Cannot load %1: %2</source>
-        <translation>Impossible de charger %1 : %2</translation>
+        <translation>Impossible de charger %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>
@@ -10412,12 +10611,12 @@ Personne n&apos;est là pour répondre à &quot;%1&quot; : annulé.
 %1: the setting cannot be written to %2.
 </source>
         <translation>
-%1 : le paramètre ne peut pas être écrit dans %2.
+%1&#xa0;: le paramètre ne peut pas être écrit dans %2.
 </translation>
     </message>
     <message>
         <source>The command aliases in %1 cannot be read: %2 The ones before stay in use.</source>
-        <translation>Les alias de commandes dans %1 ne peuvent pas être lus : %2 Les précédents restent en usage.</translation>
+        <translation>Les alias de commandes dans %1 ne peuvent pas être lus&#xa0;: %2 Les précédents restent en usage.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
@@ -13294,6 +13493,18 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
         <source>Zoom &amp;window</source>
         <translation>Zoom &amp;fenêtre</translation>
     </message>
+    <message>
+        <source>Draw</source>
+        <translation>Dessin</translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
 </context>
 <context>
     <name>Panels</name>
@@ -13342,7 +13553,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>%1 does not take &quot;%2&quot;; it shows &quot;%3&quot;</source>
-        <translation>%1 n&apos;accepte pas &quot;%2&quot; ; il affiche &quot;%3&quot;</translation>
+        <translation>%1 n&apos;accepte pas &quot;%2&quot;&#xa0;; il affiche &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 has no button &quot;%2&quot;</source>
@@ -13354,7 +13565,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>%1 has no item &quot;%2&quot;; it has %3</source>
-        <translation>%1 n&apos;a pas d&apos;élément &quot;%2&quot; ; il a %3</translation>
+        <translation>%1 n&apos;a pas d&apos;élément &quot;%2&quot;&#xa0;; il a %3</translation>
     </message>
     <message>
         <source>%1 has no row &quot;%2&quot;</source>
@@ -13370,7 +13581,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>%1 has no widget &quot;%2&quot;; it has %3</source>
-        <translation>%1 n&apos;a pas d&apos;élément &quot;%2&quot; ; il a %3</translation>
+        <translation>%1 n&apos;a pas d&apos;élément &quot;%2&quot;&#xa0;; il a %3</translation>
     </message>
     <message>
         <source>%1 has the keyboard</source>
@@ -13398,7 +13609,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>%1 is still open</source>
-        <translation>%1 : encore ouvert</translation>
+        <translation>%1&#xa0;: encore ouvert</translation>
     </message>
     <message>
         <source>%1 is too long for a session</source>
@@ -13406,7 +13617,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>%1 stays as it is; another button of its group must be checked</source>
-        <translation>%1 reste tel quel ; un autre bouton de son groupe doit être coché</translation>
+        <translation>%1 reste tel quel&#xa0;; un autre bouton de son groupe doit être coché</translation>
     </message>
     <message>
         <source>%1 takes no file name</source>
@@ -13430,7 +13641,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>&quot;%1&quot; is no point; write x,y or x,y,z</source>
-        <translation>&quot;%1&quot; n&apos;est pas un point ; écrivez x,y ou x,y,z</translation>
+        <translation>&quot;%1&quot; n&apos;est pas un point&#xa0;; écrivez x,y ou x,y,z</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number from 0 up</source>
@@ -13450,7 +13661,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>cannot read %1: %2</source>
-        <translation>impossible de lire %1 : %2</translation>
+        <translation>impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>cell %1, %2 of %3 cannot be written to</source>
@@ -13466,15 +13677,15 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>done again, the drawing differs from what it was: %1</source>
-        <translation>après rétablissement, le dessin diffère de ce qu&apos;il était : %1</translation>
+        <translation>après rétablissement, le dessin diffère de ce qu&apos;il était&#xa0;: %1</translation>
     </message>
     <message>
         <source>drawing: only the first line says which drawing it is</source>
-        <translation>drawing : seule la première ligne dit de quel dessin il s&apos;agit</translation>
+        <translation>drawing&#xa0;: seule la première ligne dit de quel dessin il s&apos;agit</translation>
     </message>
     <message>
         <source>end: no part was begun</source>
-        <translation>end : aucune partie n&apos;a été commencée</translation>
+        <translation>end&#xa0;: aucune partie n&apos;a été commencée</translation>
     </message>
     <message>
         <source>it is disabled</source>
@@ -13506,15 +13717,15 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>line %1%2 (%3): </source>
-        <translation>ligne %1%2 (%3) : </translation>
+        <translation>ligne %1%2 (%3)&#xa0;: </translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
-        <translation>ligne %1 : la session a des cas, qui demandent chacun que le dessin soit rouvert</translation>
+        <translation>ligne %1&#xa0;: la session a des cas, qui demandent chacun que le dessin soit rouvert</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -13550,39 +13761,39 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>part: a part cannot be written in a part</source>
-        <translation>part : une partie ne peut pas être écrite dans une partie</translation>
+        <translation>part&#xa0;: une partie ne peut pas être écrite dans une partie</translation>
     </message>
     <message>
         <source>part: it has no end</source>
-        <translation>part : elle n&apos;a pas de fin</translation>
+        <translation>part&#xa0;: elle n&apos;a pas de fin</translation>
     </message>
     <message>
         <source>part: the part before it has no end</source>
-        <translation>part : la partie précédente n&apos;a pas de fin</translation>
+        <translation>part&#xa0;: la partie précédente n&apos;a pas de fin</translation>
     </message>
     <message>
         <source>part: there is a part %1 already</source>
-        <translation>part : il y a déjà une partie %1</translation>
+        <translation>part&#xa0;: il y a déjà une partie %1</translation>
     </message>
     <message>
         <source>play: the part %1 plays itself</source>
-        <translation>play : la partie %1 se joue elle-même</translation>
+        <translation>play&#xa0;: la partie %1 se joue elle-même</translation>
     </message>
     <message>
         <source>play: the part %1 takes %2</source>
-        <translation>play : la partie %1 prend %2</translation>
+        <translation>play&#xa0;: la partie %1 prend %2</translation>
     </message>
     <message>
         <source>play: the parts write too much</source>
-        <translation>play : les parties écrivent trop</translation>
+        <translation>play&#xa0;: les parties écrivent trop</translation>
     </message>
     <message>
         <source>play: there is no part %1</source>
-        <translation>play : il n&apos;y a pas de partie %1</translation>
+        <translation>play&#xa0;: il n&apos;y a pas de partie %1</translation>
     </message>
     <message>
         <source>play: too many parts are played one in the other</source>
-        <translation>play : trop de parties sont jouées l&apos;une dans l&apos;autre</translation>
+        <translation>play&#xa0;: trop de parties sont jouées l&apos;une dans l&apos;autre</translation>
     </message>
     <message>
         <source>row &quot;%1&quot; of %2 cannot be checked</source>
@@ -13602,7 +13813,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the drawing differs from what it was: %1</source>
-        <translation>le dessin diffère de ce qu&apos;il était : %1</translation>
+        <translation>le dessin diffère de ce qu&apos;il était&#xa0;: %1</translation>
     </message>
     <message>
         <source>the drawing has no entity with the handle %1</source>
@@ -13622,7 +13833,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the file does not hold it; its text is &quot;%1&quot;</source>
-        <translation>le fichier ne le contient pas ; son texte est &quot;%1&quot;</translation>
+        <translation>le fichier ne le contient pas&#xa0;; son texte est &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the file is there</source>
@@ -13634,7 +13845,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the files differ at byte %1: &quot;%2&quot; and &quot;%3&quot;</source>
-        <translation>les fichiers diffèrent à l&apos;octet %1 : &quot;%2&quot; et &quot;%3&quot;</translation>
+        <translation>les fichiers diffèrent à l&apos;octet %1&#xa0;: &quot;%2&quot; et &quot;%3&quot;</translation>
     </message>
     <message>
         <source>the items are &quot;%1&quot;</source>
@@ -13650,7 +13861,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the menu has no entry &quot;%1&quot;; it has %2</source>
-        <translation>le menu n&apos;a pas d&apos;entrée &quot;%1&quot; ; il a %2</translation>
+        <translation>le menu n&apos;a pas d&apos;entrée &quot;%1&quot;&#xa0;; il a %2</translation>
     </message>
     <message>
         <source>the menu&apos;s entry &quot;%1&quot; is disabled</source>
@@ -13686,11 +13897,11 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the session ends while %1 is open</source>
-        <translation>la session finit alors que ceci est ouvert : %1</translation>
+        <translation>la session finit alors que ceci est ouvert&#xa0;: %1</translation>
     </message>
     <message>
         <source>the session took longer than %1 s; open is %2</source>
-        <translation>la session a duré plus de %1 s ; est ouvert : %2</translation>
+        <translation>la session a duré plus de %1 s&#xa0;; est ouvert&#xa0;: %2</translation>
     </message>
     <message>
         <source>the title is &quot;%1&quot;</source>
@@ -13726,11 +13937,11 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>too much on the line: &quot;%1&quot;</source>
-        <translation>il y a quelque chose de trop sur la ligne : &quot;%1&quot;</translation>
+        <translation>il y a quelque chose de trop sur la ligne&#xa0;: &quot;%1&quot;</translation>
     </message>
     <message>
         <source>undone, the drawing differs from what it was: %1</source>
-        <translation>après annulation, le dessin diffère de ce qu&apos;il était : %1</translation>
+        <translation>après annulation, le dessin diffère de ce qu&apos;il était&#xa0;: %1</translation>
     </message>
     <message>
         <source>unknown word &quot;%1&quot;</source>
@@ -14119,7 +14330,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>cut short: there is more than is drawn in one go</source>
-        <translation>interrompu : il y a plus que ce qui est dessiné en une fois</translation>
+        <translation>interrompu&#xa0;: il y a plus que ce qui est dessiné en une fois</translation>
     </message>
 </context>
 <context>
@@ -14515,7 +14726,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>Load this program? It can do whatever you can.</source>
-        <translation>Charger ce programme ? Il peut faire tout ce que vous pouvez faire.</translation>
+        <translation>Charger ce programme&#xa0;? Il peut faire tout ce que vous pouvez faire.</translation>
     </message>
 </context>
 <context>
@@ -14558,11 +14769,11 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the sheet of a layout as its page setup has it; &quot;model&quot; for the page of model space; &quot;all&quot; for every sheet: a page each in a pdf, a file each as png and svg, with its name: OUT-NAME.png</source>
-        <translation>la feuille d&apos;une présentation selon sa mise en page ; &quot;model&quot; pour la page de l&apos;espace objet ; &quot;all&quot; pour chaque feuille : une page chacune dans un pdf, un fichier chacune en png et svg, avec son nom : OUT-NAME.png</translation>
+        <translation>la feuille d&apos;une présentation selon sa mise en page&#xa0;; &quot;model&quot; pour la page de l&apos;espace objet&#xa0;; &quot;all&quot; pour chaque feuille&#xa0;: une page chacune dans un pdf, un fichier chacune en png et svg, avec son nom&#xa0;: OUT-NAME.png</translation>
     </message>
     <message>
         <source>another sheet, on which everything is to be seen: A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres as 420x297; -landscape or -portrait behind it turns it</source>
-        <translation>une autre feuille, où tout doit être visible : A0 à A6, B0 à B6, ANSI-A à ANSI-E, ARCH-A à ARCH-E1 ou des millimètres comme 420x297 ; -landscape ou -portrait à la suite l&apos;oriente</translation>
+        <translation>une autre feuille, où tout doit être visible&#xa0;: A0 à A6, B0 à B6, ANSI-A à ANSI-E, ARCH-A à ARCH-E1 ou des millimètres comme 420x297&#xa0;; -landscape ou -portrait à la suite l&apos;oriente</translation>
     </message>
     <message>
         <source>millimetres on the sheet to drawing units, in place of what the page says or as fits</source>
@@ -14574,11 +14785,11 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>png, svg: so many pixels, 1 to 16000 each way; a sheet goes into their middle</source>
-        <translation>png, svg : tant de pixels, 1 à 16000 par côté ; une feuille se place en leur milieu</translation>
+        <translation>png, svg&#xa0;: tant de pixels, 1 à 16000 par côté&#xa0;; une feuille se place en leur milieu</translation>
     </message>
     <message>
         <source>png, svg: pixels an inch of the sheet</source>
-        <translation>png, svg : pixels par pouce de la feuille</translation>
+        <translation>png, svg&#xa0;: pixels par pouce de la feuille</translation>
     </message>
     <message>
         <source>what it lies on</source>
@@ -14586,15 +14797,15 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>only layers whose names match, as in a layer filter: &quot;walls,door*&quot;</source>
-        <translation>seulement les calques dont les noms conviennent, comme dans un filtre de calques : &quot;walls,door*&quot;</translation>
+        <translation>seulement les calques dont les noms conviennent, comme dans un filtre de calques&#xa0;: &quot;walls,door*&quot;</translation>
     </message>
     <message>
         <source>pdf, svg: texts as areas, or as text that can be searched</source>
-        <translation>pdf, svg : textes en surfaces, ou en texte où l&apos;on peut chercher</translation>
+        <translation>pdf, svg&#xa0;: textes en surfaces, ou en texte où l&apos;on peut chercher</translation>
     </message>
     <message>
         <source>a table of plot styles (ctb, stb) in place of what the page names; &quot;none&quot; for none. Without a file there are monochrome, grayscale and screening 25%, 50%, 75%, 100%</source>
-        <translation>une table de styles de tracé (ctb, stb) au lieu de celle que nomme la page ; &quot;none&quot; pour aucune. Sans fichier il y a monochrome, grayscale et screening 25%, 50%, 75%, 100%</translation>
+        <translation>une table de styles de tracé (ctb, stb) au lieu de celle que nomme la page&#xa0;; &quot;none&quot; pour aucune. Sans fichier il y a monochrome, grayscale et screening 25%, 50%, 75%, 100%</translation>
     </message>
     <message>
         <source>all lines as thin as can be</source>
@@ -14602,7 +14813,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>the most it may take; OUT stays as it was when it takes longer</source>
-        <translation>la durée maximale ; OUT reste tel quel quand elle est dépassée</translation>
+        <translation>la durée maximale&#xa0;; OUT reste tel quel quand elle est dépassée</translation>
     </message>
     <message>
         <source>no limit</source>
@@ -14618,15 +14829,11 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>write a DXF file in the binary form; without it, as text</source>
-        <translation>écrit un fichier DXF sous la forme binaire ; sans cela, en texte</translation>
+        <translation>écrit un fichier DXF sous la forme binaire&#xa0;; sans cela, en texte</translation>
     </message>
     <message>
         <source>open a damaged IN as far as it is sound, and tell on standard error what was dropped; OUT must be another file</source>
-        <translation>ouvre un IN endommagé autant qu&apos;il est sain, et dit sur l&apos;erreur standard ce qui a été écarté ; OUT doit être un autre fichier</translation>
-    </message>
-    <message>
-        <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation>affiche une ligne de JSON : input, output, et pour les images complete, drawn, invisible, inPart et notDrawn (un nombre pour chaque type) et cutShort ; avec --layout, tout cela pour chacune des pages, avec layout et output ; avec --recover, de même ce qui a été écarté, réparé et ajouté</translation>
+        <translation>ouvre un IN endommagé autant qu&apos;il est sain, et dit sur l&apos;erreur standard ce qui a été écarté&#xa0;; OUT doit être un autre fichier</translation>
     </message>
     <message>
         <source>writes a drawing as DXF, PNG, SVG or PDF</source>
@@ -14642,7 +14849,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation>Ouvre un dessin et l&apos;écrit selon l&apos;extension de OUT : dxf, png, svg ou pdf. Ce qu&apos;une image ne montre pas, ou seulement en partie, est dit sur l&apos;erreur standard, par type.</translation>
+        <translation>Ouvre un dessin et l&apos;écrit selon l&apos;extension de OUT&#xa0;: dxf, png, svg ou pdf. Ce qu&apos;une image ne montre pas, ou seulement en partie, est dit sur l&apos;erreur standard, par type.</translation>
     </message>
     <message>
         <source>Pictures</source>
@@ -14650,7 +14857,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, with the lineweights that it would have on a sheet 297 mm long; pdf shows it on A4.</source>
-        <translation>Sans les options d&apos;une feuille, png et svg montrent tout l&apos;espace objet en 1600 sur 1200 pixels, avec les épaisseurs de ligne qu&apos;il aurait sur une feuille de 297 mm de long ; pdf le montre sur A4.</translation>
+        <translation>Sans les options d&apos;une feuille, png et svg montrent tout l&apos;espace objet en 1600 sur 1200 pixels, avec les épaisseurs de ligne qu&apos;il aurait sur une feuille de 297 mm de long&#xa0;; pdf le montre sur A4.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -14658,27 +14865,27 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>default: %1</source>
-        <translation>par défaut : %1</translation>
+        <translation>par défaut&#xa0;: %1</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was more to show than is drawn in one go: a few lines of a drawing can make millions.</source>
-        <translation>Statut de sortie : 0 fait, 1 un outil, une expression ou une session a échoué ou dépassé une limite, 2 mauvais usage, 3 une partie d&apos;un lot a échoué ou, avec --strict, manque dans une image, 4 un fichier n&apos;a pas pu être lu ou écrit, 5 une image a été écrite, mais il y avait plus à montrer que ce qui est dessiné en une fois : quelques lignes d&apos;un dessin peuvent en faire des millions.</translation>
+        <translation>Statut de sortie&#xa0;: 0 fait, 1 un outil, une expression ou une session a échoué ou dépassé une limite, 2 mauvais usage, 3 une partie d&apos;un lot a échoué ou, avec --strict, manque dans une image, 4 un fichier n&apos;a pas pu être lu ou écrit, 5 une image a été écrite, mais il y avait plus à montrer que ce qui est dessiné en une fois&#xa0;: quelques lignes d&apos;un dessin peuvent en faire des millions.</translation>
     </message>
     <message>
         <source>Usage: </source>
-        <translation>Usage : </translation>
+        <translation>Usage&#xa0;: </translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation>Commandes :</translation>
+        <translation>Commandes&#xa0;:</translation>
     </message>
     <message>
         <source>Drafting tools without their dialogs:</source>
-        <translation>Outils de dessin sans leurs boîtes de dialogue :</translation>
+        <translation>Outils de dessin sans leurs boîtes de dialogue&#xa0;:</translation>
     </message>
     <message>
         <source>Options for every use:</source>
-        <translation>Options pour tout usage :</translation>
+        <translation>Options pour tout usage&#xa0;:</translation>
     </message>
     <message>
         <source>there is no kind of finding &quot;%1&quot;</source>
@@ -14705,16 +14912,12 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
         <translation>--check et --test ne vont pas ensemble</translation>
     </message>
     <message>
-        <source>Kinds of findings:</source>
-        <translation>Sortes de constats :</translation>
-    </message>
-    <message>
         <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
 
 What these files load must lie in a trusted folder: the installation, the folder of the user&apos;s data, those that the system variable TRUSTEDPATHS lists, and those named here.</source>
-        <translation>Charge les fichiers Lisp dans l&apos;ordre et affiche ce qu&apos;ils affichent. &quot;-&quot; lit des expressions de l&apos;entrée standard. Sans --drawing, un nouveau dessin est ouvert. Rien n&apos;est demandé à personne : les invites sont annulées, et une boîte de dialogue finit le programme par le statut 1.
+        <translation>Charge les fichiers Lisp dans l&apos;ordre et affiche ce qu&apos;ils affichent. &quot;-&quot; lit des expressions de l&apos;entrée standard. Sans --drawing, un nouveau dessin est ouvert. Rien n&apos;est demandé à personne&#xa0;: les invites sont annulées, et une boîte de dialogue finit le programme par le statut 1.
 
-Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;installation, le dossier des données de l&apos;utilisateur, ceux que liste la variable système TRUSTEDPATHS, et ceux nommés ici.</translation>
+Ce que ces fichiers chargent doit être dans un dossier de confiance&#xa0;: l&apos;installation, le dossier des données de l&apos;utilisateur, ceux que liste la variable système TRUSTEDPATHS, et ceux nommés ici.</translation>
     </message>
     <message>
         <source>the drawing to work on</source>
@@ -14746,7 +14949,7 @@ Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;i
     </message>
     <message>
         <source>It is a prompt: expressions are evaluated as they are typed, and their values printed. Tab completes names, &quot;help NAME&quot; or &quot;?NAME&quot; tells about one, Ctrl+C stops what runs, Ctrl+D ends. What is piped in is evaluated form by form; errors go to standard error with their line, the forms behind one are evaluated all the same, and the status is 1 then.</source>
-        <translation>C&apos;est une invite : les expressions sont évaluées à mesure qu&apos;elles sont saisies, et leurs valeurs affichées. Tab complète les noms, &quot;help NAME&quot; ou &quot;?NAME&quot; en explique un, Ctrl+C arrête ce qui s&apos;exécute, Ctrl+D termine. Ce qui est transmis par un tube est évalué forme par forme ; les erreurs vont sur l&apos;erreur standard avec leur ligne, les formes suivantes sont évaluées quand même, et le statut est alors 1.</translation>
+        <translation>C&apos;est une invite&#xa0;: les expressions sont évaluées à mesure qu&apos;elles sont saisies, et leurs valeurs affichées. Tab complète les noms, &quot;help NAME&quot; ou &quot;?NAME&quot; en explique un, Ctrl+C arrête ce qui s&apos;exécute, Ctrl+D termine. Ce qui est transmis par un tube est évalué forme par forme&#xa0;; les erreurs vont sur l&apos;erreur standard avec leur ligne, les formes suivantes sont évaluées quand même, et le statut est alors 1.</translation>
     </message>
     <message>
         <source>With --check</source>
@@ -14754,7 +14957,7 @@ Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;i
     </message>
     <message>
         <source>The files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.</source>
-        <translation>Les fichiers sont lus et non exécutés, et ce qui y paraît faux est dit, une ligne chacun : FILE:LINE:COLUMN: erreur ou avertissement : ce que c&apos;est [KIND]. Ce que l&apos;un d&apos;eux définit, les autres le connaissent. Finit par le statut 1 quand quelque chose a été dit.</translation>
+        <translation>Les fichiers sont lus et non exécutés, et ce qui y paraît faux est dit, une ligne chacun&#xa0;: FILE:LINE:COLUMN: erreur ou avertissement&#xa0;: ce que c&apos;est [KIND]. Ce que l&apos;un d&apos;eux définit, les autres le connaissent. Finit par le statut 1 quand quelque chose a été dit.</translation>
     </message>
     <message>
         <source>read the files and tell what looks wrong in them</source>
@@ -14762,7 +14965,7 @@ Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;i
     </message>
     <message>
         <source>tell it as one line of JSON: findings, each with file, line, column, severity, kind and message, and the numbers of errors and warnings</source>
-        <translation>le dit en une ligne de JSON : findings, chacun avec file, line, column, severity, kind et message, et les nombres d&apos;erreurs et d&apos;avertissements</translation>
+        <translation>le dit en une ligne de JSON&#xa0;: findings, chacun avec file, line, column, severity, kind et message, et les nombres d&apos;erreurs et d&apos;avertissements</translation>
     </message>
     <message>
         <source>tell only these kinds</source>
@@ -14786,7 +14989,7 @@ Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;i
     </message>
     <message>
         <source>run only tests of such names: * stands for any characters, ? for one</source>
-        <translation>n&apos;exécute que les tests de tels noms : * vaut pour des caractères quelconques, ? pour un seul</translation>
+        <translation>n&apos;exécute que les tests de tels noms&#xa0;: * vaut pour des caractères quelconques,&#xa0;? pour un seul</translation>
     </message>
     <message>
         <source>write a report in JUnit&apos;s XML instead</source>
@@ -14820,7 +15023,7 @@ Ce que ces fichiers chargent doit être dans un dossier de confiance : l&apos;i
   variable  NAME  KIND       WHAT IT IS
 
 Documents are made from this, and scripts/demand compares it with what programs ask for.</source>
-        <translation>Affiche ce que les programmes Lisp trouvent ici dans un nouveau dessin, une ligne chacun avec des tabulations entre les champs, triées :
+        <translation>Affiche ce que les programmes Lisp trouvent ici dans un nouveau dessin, une ligne chacun avec des tabulations entre les champs, triées&#xa0;:
 
   function  NOM  ARGUMENTS  CE QU&apos;ELLE DONNE
   command   NOM  -          CE QU&apos;ELLE FAIT
@@ -14834,7 +15037,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>which one; without it, the program as a whole</source>
-        <translation>laquelle ; sans elle, le programme dans son ensemble</translation>
+        <translation>laquelle&#xa0;; sans elle, le programme dans son ensemble</translation>
     </message>
     <message>
         <source>The same as --help behind the command.</source>
@@ -14850,7 +15053,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>write the drawings that the session changed there, under their own names; of a session with cases, what it saves itself</source>
-        <translation>y écrit les dessins que la session a modifiés, sous leurs propres noms ; d&apos;une session à cas, ce qu&apos;elle enregistre elle-même</translation>
+        <translation>y écrit les dessins que la session a modifiés, sous leurs propres noms&#xa0;; d&apos;une session à cas, ce qu&apos;elle enregistre elle-même</translation>
     </message>
     <message>
         <source>write a picture of each drawing as it is in the end to the out folder, or else beside the drawing</source>
@@ -14858,7 +15061,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>an independent reader for sessions that ask one (default: the environment&apos;s ORTAKIT_AUDIT); see scripts/audit</source>
-        <translation>un lecteur indépendant pour les sessions qui en interrogent un (par défaut : ORTAKIT_AUDIT de l&apos;environnement) ; voir scripts/audit</translation>
+        <translation>un lecteur indépendant pour les sessions qui en interrogent un (par défaut&#xa0;: ORTAKIT_AUDIT de l&apos;environnement)&#xa0;; voir scripts/audit</translation>
     </message>
     <message>
         <source>where pictures go that the session takes, and those of --png</source>
@@ -14866,7 +15069,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>the most the session may take with one drawing; one that does not stop then ends the program</source>
-        <translation>la durée maximale de la session avec un dessin ; si elle ne s&apos;arrête pas alors, le programme finit</translation>
+        <translation>la durée maximale de la session avec un dessin&#xa0;; si elle ne s&apos;arrête pas alors, le programme finit</translation>
     </message>
     <message>
         <source>plays a recorded session over drawings</source>
@@ -14882,7 +15085,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>Plays a recorded session over each drawing, one after the other, each opened afresh; without a drawing, over the one that the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each of them. What a picture does not show, or only in part, is told on standard error, by type.</source>
-        <translation>Joue une session enregistrée sur chaque dessin, l&apos;un après l&apos;autre, chacun ouvert à neuf ; sans dessin, sur celui que dit la session. Les dessins eux-mêmes restent tels quels. Affiche une ligne pour chacun, et pour une session à cas, pour chacun d&apos;eux. Ce qu&apos;une image ne montre pas, ou seulement en partie, est dit sur l&apos;erreur standard, par type.</translation>
+        <translation>Joue une session enregistrée sur chaque dessin, l&apos;un après l&apos;autre, chacun ouvert à neuf&#xa0;; sans dessin, sur celui que dit la session. Les dessins eux-mêmes restent tels quels. Affiche une ligne pour chacun, et pour une session à cas, pour chacun d&apos;eux. Ce qu&apos;une image ne montre pas, ou seulement en partie, est dit sur l&apos;erreur standard, par type.</translation>
     </message>
     <message>
         <source>look of windows and dialogs</source>
@@ -14894,7 +15097,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>$ORTAKIT_LANGUAGE; else the window&apos;s setting or the desktop&apos;s language, and English where there is no window or a session is played</source>
-        <translation>$ORTAKIT_LANGUAGE ; sinon le paramètre de la fenêtre ou la langue du bureau, et l&apos;anglais où il n&apos;y a pas de fenêtre ou qu&apos;une session est jouée</translation>
+        <translation>$ORTAKIT_LANGUAGE&#xa0;; sinon le paramètre de la fenêtre ou la langue du bureau, et l&apos;anglais où il n&apos;y a pas de fenêtre ou qu&apos;une session est jouée</translation>
     </message>
     <message>
         <source>folder of the user&apos;s data</source>
@@ -14922,7 +15125,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>let drawings name files of this folder and those below; may be given again. Else they are read from the drawing&apos;s own folder, those below and trusted ones only</source>
-        <translation>laisse les dessins nommer des fichiers de ce dossier et de ceux qu&apos;il contient ; peut être répété. Sinon, ils ne sont lus que dans le dossier du dessin, ceux qu&apos;il contient et ceux de confiance</translation>
+        <translation>laisse les dessins nommer des fichiers de ce dossier et de ceux qu&apos;il contient&#xa0;; peut être répété. Sinon, ils ne sont lus que dans le dossier du dessin, ceux qu&apos;il contient et ceux de confiance</translation>
     </message>
     <message>
         <source>tell this and end</source>
@@ -14934,15 +15137,15 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source> (did you mean %1?)</source>
-        <translation> (vouliez-vous dire %1 ?)</translation>
+        <translation> (vouliez-vous dire %1&#xa0;?)</translation>
     </message>
     <message>
         <source>run programs of this folder and those below as well; may be given again</source>
-        <translation>exécute aussi les programmes de ce dossier et de ceux qu&apos;il contient ; peut être répété</translation>
+        <translation>exécute aussi les programmes de ce dossier et de ceux qu&apos;il contient&#xa0;; peut être répété</translation>
     </message>
     <message>
         <source>the most memory Lisp may take, more being an error of the program</source>
-        <translation>la mémoire maximale que Lisp peut prendre ; au-delà, c&apos;est une erreur du programme</translation>
+        <translation>la mémoire maximale que Lisp peut prendre&#xa0;; au-delà, c&apos;est une erreur du programme</translation>
     </message>
     <message>
         <source>the system variable LISPHEAPMAX, which is 2048 as long as nobody changed it</source>
@@ -14950,7 +15153,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>open damaged drawings as far as they are sound; they have no file until they are saved under a name</source>
-        <translation>ouvre les dessins endommagés autant qu&apos;ils sont sains ; ils n&apos;ont pas de fichier avant d&apos;être enregistrés sous un nom</translation>
+        <translation>ouvre les dessins endommagés autant qu&apos;ils sont sains&#xa0;; ils n&apos;ont pas de fichier avant d&apos;être enregistrés sous un nom</translation>
     </message>
     <message>
         <source>open what a program that was killed left of changed drawings, without asking</source>
@@ -14986,7 +15189,7 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>Opens the drawings in a window, or works on them without one. &quot;ortakit help COMMAND&quot; tells more about a command. A drawing whose name is that of a command is written with its folder: ./run</source>
-        <translation>Ouvre les dessins dans une fenêtre, ou travaille dessus sans elle. &quot;ortakit help COMMAND&quot; en dit plus sur une commande. Un dessin dont le nom est celui d&apos;une commande s&apos;écrit avec son dossier : ./run</translation>
+        <translation>Ouvre les dessins dans une fenêtre, ou travaille dessus sans elle. &quot;ortakit help COMMAND&quot; en dit plus sur une commande. Un dessin dont le nom est celui d&apos;une commande s&apos;écrit avec son dossier&#xa0;: ./run</translation>
     </message>
     <message>
         <source>Options of the window</source>
@@ -14998,11 +15201,495 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
     </message>
     <message>
         <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
-        <translation>travaille sur tant de fichiers à la fois, chacun dans un processus à lui, si bien qu&apos;un fichier qui plante ou dure trop longtemps n&apos;est qu&apos;un fichier en échec ; ce qui est dit et son ordre sont les mêmes pour tout N</translation>
+        <translation>travaille sur tant de fichiers à la fois, chacun dans un processus à lui, si bien qu&apos;un fichier qui plante ou dure trop longtemps n&apos;est qu&apos;un fichier en échec&#xa0;; ce qui est dit et son ordre sont les mêmes pour tout N</translation>
     </message>
     <message>
         <source>one process for all</source>
         <translation>un seul processus pour tous</translation>
+    </message>
+    <message>
+        <source>%1 asks for points or entities: play a recorded session with ortakit run</source>
+        <translation>%1 demande des points ou des objets&#xa0;: jouez une session enregistrée avec ortakit run</translation>
+    </message>
+    <message>
+        <source>%1 needs a drawing</source>
+        <translation>%1 demande un dessin</translation>
+    </message>
+    <message>
+        <source>--out and --in-place do not go together</source>
+        <translation>--out et --in-place ne vont pas ensemble</translation>
+    </message>
+    <message>
+        <source>%1 changes drawings: say where they go, --out DIR or --in-place</source>
+        <translation>%1 modifie des dessins&#xa0;: dites où ils vont, --out DIR ou --in-place</translation>
+    </message>
+    <message>
+        <source>%1 works on no selection</source>
+        <translation>%1 ne travaille sur aucune sélection</translation>
+    </message>
+    <message>
+        <source>of several drawings each has its own file: put {name} into %1</source>
+        <translation>de plusieurs dessins, chacun a son propre fichier&#xa0;: mettez {name} dans %1</translation>
+    </message>
+    <message>
+        <source>%1 needs a file to write: --set %2=PATH</source>
+        <translation>%1 demande un fichier à écrire&#xa0;: --set %2=PATH</translation>
+    </message>
+    <message>
+        <source>%1 has no button %2%3; it has %4</source>
+        <translation>%1 n&apos;a pas de bouton %2%3&#xa0;; il a %4</translation>
+    </message>
+    <message>
+        <source>%1 has no key %2%3; it has %4</source>
+        <translation>%1 n&apos;a pas de clé %2%3&#xa0;; il a %4</translation>
+    </message>
+    <message>
+        <source>the file to write; {name} stands for the drawing&apos;s name</source>
+        <translation>le fichier à écrire&#xa0;; {name} tient lieu du nom du dessin</translation>
+    </message>
+    <message>
+        <source>the file to read</source>
+        <translation>le fichier à lire</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>oui ou non (yes, no)</translation>
+    </message>
+    <message>
+        <source>yes or no, one of its group</source>
+        <translation>oui ou non (yes, no), un de son groupe</translation>
+    </message>
+    <message>
+        <source>one of a list</source>
+        <translation>un élément d&apos;une liste</translation>
+    </message>
+    <message>
+        <source>one of: %1</source>
+        <translation>un de&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>un nombre de %1 à %2</translation>
+    </message>
+    <message>
+        <source>a number, %1 or more</source>
+        <translation>un nombre, %1 ou plus</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>un nombre</translation>
+    </message>
+    <message>
+        <source>a colour&apos;s number, 0 to 256</source>
+        <translation>un numéro de couleur, 0 à 256</translation>
+    </message>
+    <message>
+        <source>rows by the texts of their first column with ^ between; * for all</source>
+        <translation>des lignes par les textes de leur première colonne séparés par ^&#xa0;; * pour toutes</translation>
+    </message>
+    <message>
+        <source>a file or folder</source>
+        <translation>un fichier ou un dossier</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>un texte</translation>
+    </message>
+    <message>
+        <source> (default: %1)</source>
+        <translation> (par défaut&#xa0;: %1)</translation>
+    </message>
+    <message>
+        <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
+        <translation>--select prend all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], ou une liste de filtres, non &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>makes one paragraph of single-line texts</source>
+        <translation>fait un paragraphe de textes d&apos;une ligne</translation>
+    </message>
+    <message>
+        <source>writes texts in capitals, small letters or as titles</source>
+        <translation>écrit des textes en majuscules, en minuscules ou comme des titres</translation>
+    </message>
+    <message>
+        <source>writes texts of attributes to a table in a text file</source>
+        <translation>écrit des textes d&apos;attributs dans un tableau d&apos;un fichier texte</translation>
+    </message>
+    <message>
+        <source>counts the blocks of the drawing, for a text file</source>
+        <translation>compte les blocs du dessin, pour un fichier texte</translation>
+    </message>
+    <message>
+        <source>With --press exporttable the table is drawn instead; its upper left corner and the height of its texts are answers: --answer 0,0 --answer 2.5</source>
+        <translation>Avec --press exporttable, le tableau est dessiné à la place&#xa0;; son coin supérieur gauche et la hauteur de ses textes sont des réponses&#xa0;: --answer 0,0 --answer 2.5</translation>
+    </message>
+    <message>
+        <source>takes texts of attributes from a table in a text file</source>
+        <translation>prend les textes d&apos;attributs d&apos;un tableau dans un fichier texte</translation>
+    </message>
+    <message>
+        <source>All rows of the table are taken unless attributes names some. With --press btreplace, txreplace takes the place of txsearch in them first.</source>
+        <translation>Toutes les lignes du tableau sont prises à moins que attributes n&apos;en nomme. Avec --press btreplace, txreplace y prend d&apos;abord la place de txsearch.</translation>
+    </message>
+    <message>
+        <source>writes numbers into texts in the order of their places</source>
+        <translation>écrit des numéros dans des textes dans l&apos;ordre de leurs places</translation>
+    </message>
+    <message>
+        <source>For the orders by points the points are answers: --answer 0,0</source>
+        <translation>Pour les ordres par points, les points sont des réponses&#xa0;: --answer 0,0</translation>
+    </message>
+    <message>
+        <source>replaces references to blocks by another block of the drawing</source>
+        <translation>remplace des références à des blocs par un autre bloc du dessin</translation>
+    </message>
+    <message>
+        <source>replaces references to blocks by a drawing file</source>
+        <translation>remplace des références à des blocs par un fichier de dessin</translation>
+    </message>
+    <message>
+        <source>directory is the folder of the file, blockstablerep its name there.</source>
+        <translation>directory est le dossier du fichier, blockstablerep son nom là-bas.</translation>
+    </message>
+    <message>
+        <source>draws slots, rectangles or circles around texts</source>
+        <translation>dessine des oblongs, rectangles ou cercles autour de textes</translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
+        <translation>Les textes qui ont un cadre en reçoivent un autre à sa place&#xa0;; --answer No les laisse tels quels.</translation>
+    </message>
+    <message>
+        <source>hides what lies behind texts</source>
+        <translation>cache ce qui se trouve derrière des textes</translation>
+    </message>
+    <message>
+        <source>writes dimension styles of the drawing to a file</source>
+        <translation>écrit des styles de cote du dessin dans un fichier</translation>
+    </message>
+    <message>
+        <source>All styles are written unless lststyles names some.</source>
+        <translation>Tous les styles sont écrits à moins que lststyles n&apos;en nomme.</translation>
+    </message>
+    <message>
+        <source>brings dimension styles from a file into the drawing</source>
+        <translation>amène des styles de cote d&apos;un fichier dans le dessin</translation>
+    </message>
+    <message>
+        <source>All styles of the file are taken unless lststyles names some, by the first words of their names.</source>
+        <translation>Tous les styles du fichier sont pris à moins que lststyles n&apos;en nomme, par les premiers mots de leurs noms.</translation>
+    </message>
+    <message>
+        <source>puts entities over each other in the order of their colours</source>
+        <translation>place des objets les uns sur les autres dans l&apos;ordre de leurs couleurs</translation>
+    </message>
+    <message>
+        <source>Steps are taken in the order in which they are given: --set lstcolors=&quot;5 Blue&quot; --press tofront puts blue on top.</source>
+        <translation>Les pas se font dans l&apos;ordre où ils sont donnés&#xa0;: --set lstcolors=&quot;5 Blue&quot; --press tofront place le bleu au-dessus.</translation>
+    </message>
+    <message>
+        <source>writes a problem report with what the program and the drawing are</source>
+        <translation>écrit un rapport de problème sur le programme et le dessin</translation>
+    </message>
+    <message>
+        <source>writes system variables to a script that sets them again</source>
+        <translation>écrit des variables système dans un script qui les redéfinit</translation>
+    </message>
+    <message>
+        <source>changes the paths of references, images, fonts and remote texts</source>
+        <translation>modifie les chemins de références, d&apos;images, de polices et de textes distants</translation>
+    </message>
+    <message>
+        <source>All paths are meant unless lstfiles names some. --press btreplace puts txreplace in the place of txsearch in them.</source>
+        <translation>Tous les chemins sont visés à moins que lstfiles n&apos;en nomme. --press btreplace y met txreplace à la place de txsearch.</translation>
+    </message>
+    <message>
+        <source>changes and removes hyperlinks of entities</source>
+        <translation>modifie et supprime des hyperliens d&apos;objets</translation>
+    </message>
+    <message>
+        <source>All links are meant unless tableurl names some, by their handles. --press btnreplace puts txreplace in the place of txsearch in them, --press btnremoveurl takes them away.</source>
+        <translation>Tous les liens sont visés à moins que tableurl n&apos;en nomme, par leurs identificateurs. --press btnreplace y met txreplace à la place de txsearch, --press btnremoveurl les supprime.</translation>
+    </message>
+    <message>
+        <source>cuts a line open and draws a break symbol in the gap</source>
+        <translation>ouvre une ligne et dessine un symbole de rupture dans l&apos;intervalle</translation>
+    </message>
+    <message>
+        <source>edits the short names that are typed in place of commands</source>
+        <translation>modifie les noms courts saisis à la place des commandes</translation>
+    </message>
+    <message>
+        <source>shows the functions of Lisp files</source>
+        <translation>affiche les fonctions de fichiers Lisp</translation>
+    </message>
+    <message>
+        <source>makes a linetype of a drawn pattern</source>
+        <translation>fait un type de ligne d&apos;un motif dessiné</translation>
+    </message>
+    <message>
+        <source>makes a shape of drawn lines and arcs</source>
+        <translation>fait une forme de lignes et d&apos;arcs dessinés</translation>
+    </message>
+    <message>
+        <source>makes one drawing of the sheets of several</source>
+        <translation>fait un seul dessin des feuilles de plusieurs</translation>
+    </message>
+    <message>
+        <source>sets up a sheet: title block, viewports, alignment and scale</source>
+        <translation>prépare une feuille&#xa0;: cartouche, fenêtres, alignement et échelle</translation>
+    </message>
+    <message>
+        <source>fills a closed area with copies of a pattern</source>
+        <translation>remplit une zone fermée de copies d&apos;un motif</translation>
+    </message>
+    <message>
+        <source>inserts a block of the drawing or of another drawing file</source>
+        <translation>insère un bloc du dessin ou d&apos;un autre fichier de dessin</translation>
+    </message>
+    <message>
+        <source>shows and sets the time that was worked on drawings</source>
+        <translation>affiche et définit le temps de travail sur des dessins</translation>
+    </message>
+    <message>
+        <source>--to and --out go together</source>
+        <translation>--to et --out vont ensemble</translation>
+    </message>
+    <message>
+        <source>convert needs drawings</source>
+        <translation>convert demande des dessins</translation>
+    </message>
+    <message>
+        <source>-j goes with --to and --out</source>
+        <translation>-j va avec --to et --out</translation>
+    </message>
+    <message>
+        <source>Many drawings</source>
+        <translation>De nombreux dessins</translation>
+    </message>
+    <message>
+        <source>With --to and --out all words are drawings, and each becomes a file of its name in the folder. What became of them is told on standard output, a line each. The time limit is that of each.</source>
+        <translation>Avec --to et --out, tous les mots sont des dessins, et chacun devient un fichier de son nom dans le dossier. Ce qu&apos;il en est advenu est dit sur la sortie standard, une ligne chacun. La limite de temps est celle de chacun.</translation>
+    </message>
+    <message>
+        <source>what they become</source>
+        <translation>ce qu&apos;ils deviennent</translation>
+    </message>
+    <message>
+        <source>where they go</source>
+        <translation>où ils vont</translation>
+    </message>
+    <message>
+        <source>print one line of JSON: of each drawing file, status, messages and out; of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
+        <translation>affiche une ligne de JSON&#xa0;: de chaque dessin file, status, messages et out&#xa0;; pour les images complete, drawn, invisible, inPart et notDrawn (un nombre pour chaque type) et cutShort&#xa0;; avec --layout, tout cela pour chacune des pages, avec layout et output&#xa0;; avec --recover, de même ce qui a été écarté, réparé et ajouté</translation>
+    </message>
+    <message>
+        <source>there is nothing called %1 to ignore%2</source>
+        <translation>il n&apos;y a rien du nom de %1 à ne pas compter%2</translation>
+    </message>
+    <message>
+        <source>diff needs two drawings</source>
+        <translation>diff demande deux dessins</translation>
+    </message>
+    <message>
+        <source>take numbers and coordinates for the same that are no farther apart</source>
+        <translation>tient pour égaux des nombres et des coordonnées qui ne sont pas plus éloignés</translation>
+    </message>
+    <message>
+        <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
+        <translation>ce qui ne compte pas en plus, séparé par des virgules&#xa0;: version, view, header, classes, objects, xdata, order. times, handles, identity, extents et reactors ne comptent pas de toute façon&#xa0;; &quot;none&quot; devant les compte</translation>
+    </message>
+    <message>
+        <source>what makes entities the same one: their handles, or what is in them</source>
+        <translation>ce qui rend des objets identiques&#xa0;: leurs identificateurs, ou leur contenu</translation>
+    </message>
+    <message>
+        <source>auto: by handle, unless far more entities are the same by content</source>
+        <translation>auto&#xa0;: par identificateur, à moins que bien plus d&apos;objets soient identiques par leur contenu</translation>
+    </message>
+    <message>
+        <source>tell the sums alone</source>
+        <translation>ne dit que les totaux</translation>
+    </message>
+    <message>
+        <source>draw both over each other into a png, svg or pdf file: what is gone red and dashed, what is new green and thick, what has changed orange and dashed as it was, blue and thick as it is</source>
+        <translation>dessine les deux l&apos;un sur l&apos;autre dans un fichier png, svg ou pdf&#xa0;: ce qui a disparu en rouge et tireté, ce qui est nouveau en vert et épais, ce qui a changé en orange et tireté tel qu&apos;il était, en bleu et épais tel qu&apos;il est</translation>
+    </message>
+    <message>
+        <source>which sheet the picture shows; without it, model space</source>
+        <translation>quelle feuille montre l&apos;image&#xa0;; sans cela, l&apos;espace objet</translation>
+    </message>
+    <message>
+        <source>write the picture although another program has it open</source>
+        <translation>écrit l&apos;image bien qu&apos;un autre programme l&apos;ait ouverte</translation>
+    </message>
+    <message>
+        <source>the most it may take</source>
+        <translation>la durée maximale</translation>
+    </message>
+    <message>
+        <source>print the differences as one line of JSON</source>
+        <translation>affiche les différences en une ligne de JSON</translation>
+    </message>
+    <message>
+        <source>tells what differs in two drawings</source>
+        <translation>dit ce qui diffère entre deux dessins</translation>
+    </message>
+    <message>
+        <source>a drawing as it was</source>
+        <translation>un dessin tel qu&apos;il était</translation>
+    </message>
+    <message>
+        <source>the drawing as it is</source>
+        <translation>le dessin tel qu&apos;il est</translation>
+    </message>
+    <message>
+        <source>Prints a line for each variable, layer, style, block, entity and object that differs: + for what B has alone, - for what A has alone, ~ for what has other values in B, with these. Sums stand behind =, by type and by layer. The files&apos; forms and versions do not matter, nor how numbers are spelt.
+
+Ends with status 0 when nothing differs, 1 when something does, 2 and more when it could not be found out.
+
+With the seven words that git hands to a program for differences it compares these two files and ends with 0 either way: git config diff.dxf.command &quot;ortakit diff&quot;.</source>
+        <translation>Affiche une ligne pour chaque variable, calque, style, bloc, entité et objet qui diffère&#xa0;: + pour ce que B seul a, - pour ce que A seul a, ~ pour ce qui a d&apos;autres valeurs dans B, avec celles-ci. Les totaux sont derrière =, par type et par calque. La forme et la version des fichiers n&apos;importent pas, ni l&apos;écriture des nombres.
+
+Finit par le statut 0 quand rien ne diffère, 1 quand quelque chose diffère, 2 et plus quand cela n&apos;a pas pu être établi.
+
+Avec les sept mots que git donne à un programme pour les différences, il compare ces deux fichiers et finit par 0 dans tous les cas&#xa0;: git config diff.dxf.command &quot;ortakit diff&quot;.</translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation>Exemple&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 needs at least one drawing</source>
+        <translation>%1 demande au moins un dessin</translation>
+    </message>
+    <message>
+        <source>a drawing to look at</source>
+        <translation>un dessin à examiner</translation>
+    </message>
+    <message>
+        <source>--entities goes neither with --json nor with -j</source>
+        <translation>--entities ne va ni avec --json ni avec -j</translation>
+    </message>
+    <message>
+        <source>--fix and --out go together</source>
+        <translation>--fix et --out vont ensemble</translation>
+    </message>
+    <message>
+        <source>tells what is wrong with drawings</source>
+        <translation>dit ce qui ne va pas dans des dessins</translation>
+    </message>
+    <message>
+        <source>Looks for all that opening with --recover would mend, add or drop, and the command AUDIT would find, and changes nothing. A hundred faults of a drawing are told; with --json all are.
+
+Ends with status 0 when all drawings are sound or were mended, 1 when faults were found, 4 when files could not be read or written, 3 when that is so for some of several.</source>
+        <translation>Cherche tout ce que l&apos;ouverture avec --recover réparerait, ajouterait ou écarterait, et ce que la commande AUDIT trouverait, et ne modifie rien. Cent défauts d&apos;un dessin sont dits&#xa0;; avec --json, tous.
+
+Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 1 quand des défauts ont été trouvés, 4 quand des fichiers n&apos;ont pas pu être lus ou écrits, 3 quand c&apos;est le cas de certains sur plusieurs.</translation>
+    </message>
+    <message>
+        <source>write the drawings with what was found mended, sound ones too</source>
+        <translation>écrit les dessins avec ce qui a été trouvé réparé, les dessins sains aussi</translation>
+    </message>
+    <message>
+        <source>the folder to write them into, under their names</source>
+        <translation>le dossier où les écrire, sous leurs noms</translation>
+    </message>
+    <message>
+        <source>write files although another program has them open</source>
+        <translation>écrit des fichiers bien qu&apos;un autre programme les ait ouverts</translation>
+    </message>
+    <message>
+        <source>the most that each drawing may take</source>
+        <translation>la durée maximale pour chaque dessin</translation>
+    </message>
+    <message>
+        <source>print one line of JSON: for each drawing opens, faults and found, as convert has it for --recover, and out</source>
+        <translation>affiche une ligne de JSON&#xa0;: pour chaque dessin opens, faults et found, comme convert les a pour --recover, et out</translation>
+    </message>
+    <message>
+        <source>tells what drawings are and hold</source>
+        <translation>dit ce que sont et contiennent des dessins</translation>
+    </message>
+    <message>
+        <source>Tells of each drawing its version and form, who saved it when, units, extents as the file says and as measured, how many entities of which type, layers, blocks, layouts with their paper, styles, the files and fonts that it names and whether they are found, and the state of its handles. Lists longer than twelve names are cut short; with --json they are whole.</source>
+        <translation>Dit de chaque dessin sa version et sa forme, qui l&apos;a enregistré et quand, les unités, l&apos;étendue selon le fichier et mesurée, combien d&apos;objets de quel type, les calques, les blocs, les présentations avec leur papier, les styles, les fichiers et polices qu&apos;il nomme et s&apos;ils sont trouvés, et l&apos;état de ses identificateurs. Les listes de plus de douze noms sont abrégées&#xa0;; avec --json elles sont entières.</translation>
+    </message>
+    <message>
+        <source>print in place of that a line for each variable, table entry, block, entity and object, in the file&apos;s order, with all its values: git config diff.dxf.textconv &quot;ortakit info --entities&quot; shows differences of these</source>
+        <translation>affiche à la place une ligne pour chaque variable, entrée de table, bloc, entité et objet, dans l&apos;ordre du fichier, avec toutes ses valeurs&#xa0;: git config diff.dxf.textconv &quot;ortakit info --entities&quot; en montre les différences</translation>
+    </message>
+    <message>
+        <source>print all of it as one line of JSON</source>
+        <translation>affiche tout cela en une ligne de JSON</translation>
+    </message>
+    <message>
+        <source>Kinds of findings</source>
+        <translation>Sortes de constats</translation>
+    </message>
+    <message>
+        <source>uses takes man DIR, completions DIR or document</source>
+        <translation>uses prend man DIR, completions DIR ou document</translation>
+    </message>
+    <message>
+        <source>writes manual pages, completions and a document about the commands</source>
+        <translation>écrit des pages de manuel, des complétions et un document sur les commandes</translation>
+    </message>
+    <message>
+        <source>Writes ortakit(1) and a page for each command to a folder, the completions of bash, zsh and fish to their places below a folder, or the sections of docs/cli.md to standard output.</source>
+        <translation>Écrit ortakit(1) et une page pour chaque commande dans un dossier, les complétions de bash, zsh et fish à leurs places sous un dossier, ou les sections de docs/cli.md sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
+        <translation>--set prend KEY=VALUE, non &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
+        <translation>sur quoi il travaille&#xa0;: all, ou des types d&apos;objets comme TEXT,MTEXT, avec &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; et &quot;in color NUMBER&quot; à la suite, ou une liste de filtres comme ssget la prend&#xa0;: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Ce que l&apos;outil ne peut pas utiliser est omis</translation>
+    </message>
+    <message>
+        <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>
+        <translation>met la valeur dans un champ de la boîte de dialogue&#xa0;; peut être répété. {name} tient lieu du nom du dessin sans dossier ni extension</translation>
+    </message>
+    <message>
+        <source>begin with the values of a state file that the dialog saved</source>
+        <translation>commence par les valeurs d&apos;un fichier d&apos;état que la boîte de dialogue a enregistré</translation>
+    </message>
+    <message>
+        <source>press a button of the dialog behind the values that were set before; may be given again</source>
+        <translation>presse un bouton de la boîte de dialogue après les valeurs définies avant&#xa0;; peut être répété</translation>
+    </message>
+    <message>
+        <source>answer the next prompt with this: a keyword, a number, a point as 10,20; may be given again</source>
+        <translation>répond ainsi à l&apos;invite suivante&#xa0;: un mot-clé, un nombre, un point comme 10,20&#xa0;; peut être répété</translation>
+    </message>
+    <message>
+        <source>write each drawing there, under its own name</source>
+        <translation>y écrit chaque dessin, sous son propre nom</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
+        <translation>enregistre chaque dessin modifié à sa place, avec une copie de l&apos;ancien où SETBACKUPFOLDER a nommé un dossier pour cela</translation>
+    </message>
+    <message>
+        <source>the most it may take with one drawing</source>
+        <translation>la durée maximale avec un dessin</translation>
+    </message>
+    <message>
+        <source>This tool asks for points or entities of the drawing, or works on none: it is for the window, and for recorded sessions, which ortakit run plays over drawings.</source>
+        <translation>Cet outil demande des points ou des objets du dessin, ou ne travaille sur aucun&#xa0;: il est pour la fenêtre, et pour des sessions enregistrées, que ortakit run joue sur des dessins.</translation>
+    </message>
+    <message>
+        <source>Runs the tool over each drawing with its dialog filled in as --set says, and tells what it did. All of the dialog&apos;s checks hold, and what it complains about is an error of that drawing. Fields that are not set are as the dialog opens with them, whatever was chosen last. The drawings themselves stay as they are unless --in-place is given. It works in the space that is current in the drawing.</source>
+        <translation>Exécute l&apos;outil sur chaque dessin, sa boîte de dialogue remplie comme le dit --set, et dit ce qu&apos;il a fait. Tous les contrôles de la boîte de dialogue valent, et ce qu&apos;elle refuse est une erreur de ce dessin. Les champs non définis sont comme la boîte de dialogue s&apos;ouvre, quoi qu&apos;on ait choisi en dernier. Les dessins eux-mêmes restent tels quels à moins que --in-place ne soit donné. Il travaille dans l&apos;espace courant du dessin.</translation>
+    </message>
+    <message>
+        <source>Keys of --set</source>
+        <translation>Clés de --set</translation>
+    </message>
+    <message>
+        <source>what it works on</source>
+        <translation>sur quoi il travaille</translation>
     </message>
 </context>
 <context>
@@ -15568,7 +16255,7 @@ Récupéré dans son état du %1. Il n&apos;est pas dans son fichier tant qu&apo
 This link of the help page is not followed: %1
 </source>
         <translation>
-Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
+Ce lien de la page d&apos;aide n&apos;est pas suivi&#xa0;: %1
 </translation>
     </message>
 </context>
@@ -16188,7 +16875,7 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
     </message>
     <message>
         <source>Length and angle stand at the pointer; Tab locks what was typed</source>
-        <translation>La longueur et l&apos;angle s&apos;affichent au pointeur ; Tab verrouille ce qui est saisi</translation>
+        <translation>La longueur et l&apos;angle s&apos;affichent au pointeur&#xa0;; Tab verrouille ce qui est saisi</translation>
     </message>
 </context>
 <context>
@@ -16430,7 +17117,7 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
     <name>host::kernel::DrawingBackup</name>
     <message>
         <source>No backup of %1: %2.</source>
-        <translation>Aucune copie de sauvegarde de %1 : %2.</translation>
+        <translation>Aucune copie de sauvegarde de %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>the backup would take the place of the drawing</source>
@@ -16442,6 +17129,33 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
     </message>
 </context>
 <context>
+    <name>host::view::DifferencePicture</name>
+    <message>
+        <source>gone: %n</source>
+        <translation>disparus&#xa0;: %n</translation>
+    </message>
+    <message>
+        <source>new: %n</source>
+        <translation>nouveaux&#xa0;: %n</translation>
+    </message>
+    <message>
+        <source>changed, as it was: %n</source>
+        <translation>modifiés, tels qu&apos;ils étaient&#xa0;: %n</translation>
+    </message>
+    <message>
+        <source>changed, as it is: %n</source>
+        <translation>modifiés, tels qu&apos;ils sont&#xa0;: %n</translation>
+    </message>
+    <message>
+        <source>the same in both</source>
+        <translation>identiques dans les deux</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>l&apos;image est trop grande</translation>
+    </message>
+</context>
+<context>
     <name>host::view::Export</name>
     <message>
         <source>Cannot make a picture of this size for %1</source>
@@ -16449,11 +17163,11 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>Impossible d&apos;écrire %1 : %2</translation>
+        <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The sheet would be %1 by %2 pixels; %3 each way are the most</source>
-        <translation>La feuille aurait %1 sur %2 pixels ; %3 par côté est le maximum</translation>
+        <translation>La feuille aurait %1 sur %2 pixels&#xa0;; %3 par côté est le maximum</translation>
     </message>
     <message>
         <source>There is no block named %1</source>
@@ -16469,7 +17183,7 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi : %1
     </message>
     <message>
         <source>the plot styles %1 are left out: %2</source>
-        <translation>les styles de tracé %1 sont omis : %2</translation>
+        <translation>les styles de tracé %1 sont omis&#xa0;: %2</translation>
     </message>
 </context>
 </TS>

@@ -2859,11 +2859,11 @@ Paramètres enregistrés dans&#xa0;: </translation>
     </message>
     <message>
         <source>%1: the drawing has no room for an editing time</source>
-        <translation>%1 : le dessin n&apos;a pas de place pour un temps d&apos;édition</translation>
+        <translation>%1&#xa0;: le dessin n&apos;a pas de place pour un temps d&apos;édition</translation>
     </message>
     <message>
         <source>%1: the drawing is not open any more</source>
-        <translation>%1 : le dessin n&apos;est plus ouvert</translation>
+        <translation>%1&#xa0;: le dessin n&apos;est plus ouvert</translation>
     </message>
     <message>
         <source>A tag or text of the file is too long.</source>
@@ -2879,7 +2879,7 @@ Paramètres enregistrés dans&#xa0;: </translation>
     </message>
     <message>
         <source>Entities that this drawing cannot hold and that were left out: %1.</source>
-        <translation>Objets que ce dessin ne peut pas contenir et qui ont été omis : %1.</translation>
+        <translation>Objets que ce dessin ne peut pas contenir et qui ont été omis&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Error reading alias file.</source>
@@ -2887,7 +2887,7 @@ Paramètres enregistrés dans&#xa0;: </translation>
     </message>
     <message>
         <source>Favorite &quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>Le favori &quot;%1&quot; existe déjà. Voulez-vous le remplacer ?</translation>
+        <translation>Le favori &quot;%1&quot; existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Favorite name is required.</source>
@@ -2923,7 +2923,7 @@ Paramètres enregistrés dans&#xa0;: </translation>
     </message>
     <message>
         <source>The drawing has its own, which stays as it is: %1.</source>
-        <translation>Le dessin a les siens, qui restent tels quels : %1.</translation>
+        <translation>Le dessin a les siens, qui restent tels quels&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The entities of the file expand to too much text.</source>
@@ -2963,11 +2963,11 @@ Cet objet (%1) n&apos;est pas celui qui est demandé.</translation>
         <source>
 This is a %1; asked for is %2.</source>
         <translation>
-C&apos;est %1 ; il est demandé %2.</translation>
+C&apos;est %1&#xa0;; il est demandé %2.</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
