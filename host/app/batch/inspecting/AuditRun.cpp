@@ -78,7 +78,7 @@ QString auditText(const FileResult &result)
         return line + text(QT_TRANSLATE_NOOP("Inspecting", "not read"));
     const qint64 faults = result.more[u"faults"].toInteger();
     line += faults == 0 ? text(QT_TRANSLATE_NOOP("Inspecting", "sound"))
-                        : text(QT_TRANSLATE_NOOP("Inspecting", "%1 faults")).arg(faults);
+                        : text(QT_TRANSLATE_NOOP("Inspecting", "faults: %1")).arg(faults);
     if (!result.more[u"opens"].toBool())
         line += text(QT_TRANSLATE_NOOP("Inspecting", ", opens with --recover alone"));
     if (!result.out.isEmpty())

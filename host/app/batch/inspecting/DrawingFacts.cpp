@@ -134,7 +134,7 @@ void addCounts(QJsonObject &facts, const RecordCounts &counts, const Drawing &dr
     facts.insert(u"handles"_s, QJsonObject{{u"used"_s, counts.withHandle},
                                            {u"missing"_s, counts.withoutHandle},
                                            {u"twice"_s, counts.sameHandle},
-                                           {u"next"_s, seed.toString()},
+                                           {u"next"_s, seed.isNull() ? QString() : seed.toString()},
                                            {u"isNextFree"_s, seed.value > counts.highest.value}});
 }
 

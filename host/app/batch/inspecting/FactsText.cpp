@@ -156,7 +156,7 @@ QString handlesLine(const QJsonObject &handles)
         line += factText(QT_TRANSLATE_NOOP("Inspecting", ", %1 records without")).arg(missing);
     if (const qint64 twice = handles[u"twice"].toInteger(); twice > 0)
         line += factText(QT_TRANSLATE_NOOP("Inspecting", ", %1 twice")).arg(twice);
-    if (!handles[u"isNextFree"].toBool())
+    if (!handles[u"isNextFree"].toBool() && !handles[u"next"].toString().isEmpty())
         line += factText(QT_TRANSLATE_NOOP("Inspecting", ", the next one (%1) is taken")).arg(factOf(handles[u"next"]));
     return line;
 }
