@@ -9998,10 +9998,6 @@ Das Dia &quot;%1&quot;: %2.
         <translation>heil</translation>
     </message>
     <message>
-        <source>%1 faults</source>
-        <translation>%1 Fehler</translation>
-    </message>
-    <message>
         <source>, opens with --recover alone</source>
         <translation>, öffnet nur mit --recover</translation>
     </message>
@@ -10140,6 +10136,10 @@ Das Dia &quot;%1&quot;: %2.
     <message>
         <source>handles</source>
         <translation>Referenznummern</translation>
+    </message>
+    <message>
+        <source>faults: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

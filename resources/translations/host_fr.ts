@@ -9998,10 +9998,6 @@ Le cliché &quot;%1&quot;&#xa0;: %2.
         <translation>sain</translation>
     </message>
     <message>
-        <source>%1 faults</source>
-        <translation>%1 défauts</translation>
-    </message>
-    <message>
         <source>, opens with --recover alone</source>
         <translation>, ne s&apos;ouvre qu&apos;avec --recover</translation>
     </message>
@@ -10140,6 +10136,10 @@ Le cliché &quot;%1&quot;&#xa0;: %2.
     <message>
         <source>handles</source>
         <translation>identificateurs</translation>
+    </message>
+    <message>
+        <source>faults: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

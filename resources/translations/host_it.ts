@@ -9,6 +9,97 @@
     </message>
 </context>
 <context>
+    <name>Batch</name>
+    <message>
+        <source>%1 of %2, %3 failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the process that worked on it was killed or crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interrupted: %1 of %2 were not worked on to the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation type="unfinished">fatto</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>incomplete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, case %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two of the drawings are named %1: their results would have the same name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the extension must be dxf, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--binary is for DXF files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>... and %1 more lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the dialog of %1 does not open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the file cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the tool asks &quot;%1&quot;; see --answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the tool asks for a file; see --set %1=PATH</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the dialog does not go on with these values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is nothing to choose in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not take &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CKvQtColorComboBox</name>
     <message>
         <source>ByBlock</source>
@@ -5519,10 +5610,6 @@ Layer congelati nella finestra %1:</translation>
         <translation>estensioni, che derivano dalle entità: $EXTMIN, ...</translation>
     </message>
     <message>
-        <source>which objects want to hear of changes: {ACAD_REACTORS</source>
-        <translation>quali oggetti vogliono sapere delle modifiche: {ACAD_REACTORS</translation>
-    </message>
-    <message>
         <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
         <translation>versione e tabella codici: $ACADVER, $DWGCODEPAGE</translation>
     </message>
@@ -5549,6 +5636,10 @@ Layer congelati nella finestra %1:</translation>
     <message>
         <source>which entity is drawn over which</source>
         <translation>quale entità viene disegnata sopra quale</translation>
+    </message>
+    <message>
+        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -9893,6 +9984,165 @@ La diapositiva &quot;%1&quot;: %2.
     </message>
 </context>
 <context>
+    <name>Inspecting</name>
+    <message>
+        <source>%1: what is mended is not written over the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>faults: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, opens with --recover alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished">e altri %1</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>begun %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file says %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; %1 in blocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> frozen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (not found: %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (not found)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">nessuno</translation>
+    </message>
+    <message>
+        <source>, %1 records without</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, the next one (%1) is taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>author</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layers</source>
+        <translation type="unfinished">layer</translation>
+    </message>
+    <message>
+        <source>blocks</source>
+        <translation type="unfinished">blocchi</translation>
+    </message>
+    <message>
+        <source>layouts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text styles</source>
+        <translation type="unfinished">stili di testo</translation>
+    </message>
+    <message>
+        <source>fonts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetypes</source>
+        <translation type="unfinished">tipi di linea</translation>
+    </message>
+    <message>
+        <source>dimensions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>classes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>proxies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>handles</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Kernel</name>
     <message>
         <source>%1 has no file yet.</source>
@@ -10325,14 +10575,6 @@ Nessuno può rispondere a &quot;%1&quot;: annullato.
     <message>
         <source>No help page.</source>
         <translation>Nessuna pagina della guida.</translation>
-    </message>
-    <message>
-        <source>
-This link of the help page is not followed: %1
-</source>
-        <translation>
-Questo collegamento della pagina della guida non viene seguito: %1
-</translation>
     </message>
     <message>
         <source>it is no module (odrxGetAPIVersion is missing)</source>
@@ -13251,6 +13493,18 @@ Le impostazioni dell&apos;utente non possono essere conservate.
         <source>Zoom &amp;window</source>
         <translation>Zoom &amp;finestra</translation>
     </message>
+    <message>
+        <source>Draw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Modify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished">Standard</translation>
+    </message>
 </context>
 <context>
     <name>Panels</name>
@@ -14047,10 +14301,6 @@ Le impostazioni dell&apos;utente non possono essere conservate.
         <source>Choose a folder</source>
         <translation>Scegli una cartella</translation>
     </message>
-    <message>
-        <source>Help</source>
-        <translation>Guida</translation>
-    </message>
 </context>
 <context>
     <name>RenderReport</name>
@@ -14586,10 +14836,6 @@ Le impostazioni dell&apos;utente non possono essere conservate.
         <translation>apri un IN danneggiato per quanto è integro, e indica sullo standard error ciò che è stato scartato; OUT deve essere un altro file</translation>
     </message>
     <message>
-        <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation>stampa una riga di JSON: input, output, e delle immagini complete, drawn, invisible, inPart e notDrawn (un numero per ogni tipo) e cutShort; con --layout tutto per ognuna delle pagine, con layout e output; con --recover lo stesso di ciò che è stato scartato, riparato e aggiunto</translation>
-    </message>
-    <message>
         <source>writes a drawing as DXF, PNG, SVG or PDF</source>
         <translation>scrive un disegno come DXF, PNG, SVG o PDF</translation>
     </message>
@@ -14664,10 +14910,6 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     <message>
         <source>--check and --test do not go together</source>
         <translation>--check e --test non vanno insieme</translation>
-    </message>
-    <message>
-        <source>Kinds of findings:</source>
-        <translation>Generi di segnalazioni:</translation>
     </message>
     <message>
         <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
@@ -14953,6 +15195,496 @@ Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i pr
         <source>Options of the window</source>
         <translation>Opzioni della finestra</translation>
     </message>
+    <message>
+        <source>%1 asks for points or entities: play a recorded session with ortakit run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out and --in-place do not go together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 changes drawings: say where they go, --out DIR or --in-place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 works on no selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of several drawings each has its own file: put {name} into %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a file to write: --set %2=PATH</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no button %2%3; it has %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no key %2%3; it has %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file to write; {name} stands for the drawing&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file to read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes or no, one of its group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number, %1 or more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation type="unfinished">un numero</translation>
+    </message>
+    <message>
+        <source>a colour&apos;s number, 0 to 256</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rows by the texts of their first column with ^ between; * for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file or folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation type="unfinished">un testo</translation>
+    </message>
+    <message>
+        <source> (default: %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>makes one paragraph of single-line texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes texts in capitals, small letters or as titles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes texts of attributes to a table in a text file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>counts the blocks of the drawing, for a text file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --press exporttable the table is drawn instead; its upper left corner and the height of its texts are answers: --answer 0,0 --answer 2.5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>takes texts of attributes from a table in a text file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All rows of the table are taken unless attributes names some. With --press btreplace, txreplace takes the place of txsearch in them first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes numbers into texts in the order of their places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the orders by points the points are answers: --answer 0,0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>replaces references to blocks by another block of the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>replaces references to blocks by a drawing file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>directory is the folder of the file, blockstablerep its name there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>draws slots, rectangles or circles around texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hides what lies behind texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes dimension styles of the drawing to a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All styles are written unless lststyles names some.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>brings dimension styles from a file into the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All styles of the file are taken unless lststyles names some, by the first words of their names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>puts entities over each other in the order of their colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steps are taken in the order in which they are given: --set lstcolors=&quot;5 Blue&quot; --press tofront puts blue on top.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes a problem report with what the program and the drawing are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes system variables to a script that sets them again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changes the paths of references, images, fonts and remote texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All paths are meant unless lstfiles names some. --press btreplace puts txreplace in the place of txsearch in them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changes and removes hyperlinks of entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All links are meant unless tableurl names some, by their handles. --press btnreplace puts txreplace in the place of txsearch in them, --press btnremoveurl takes them away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cuts a line open and draws a break symbol in the gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>edits the short names that are typed in place of commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shows the functions of Lisp files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>makes a linetype of a drawn pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>makes a shape of drawn lines and arcs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>makes one drawing of the sheets of several</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sets up a sheet: title block, viewports, alignment and scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fills a closed area with copies of a pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>inserts a block of the drawing or of another drawing file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shows and sets the time that was worked on drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--to and --out go together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>convert needs drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-j goes with --to and --out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Many drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --to and --out all words are drawings, and each becomes a file of its name in the folder. What became of them is told on standard output, a line each. The time limit is that of each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what they become</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where they go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print one line of JSON: of each drawing file, status, messages and out; of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is nothing called %1 to ignore%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>diff needs two drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>take numbers and coordinates for the same that are no farther apart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what makes entities the same one: their handles, or what is in them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>auto: by handle, unless far more entities are the same by content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell the sums alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>draw both over each other into a png, svg or pdf file: what is gone red and dashed, what is new green and thick, what has changed orange and dashed as it was, blue and thick as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which sheet the picture shows; without it, model space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write the picture although another program has it open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most it may take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print the differences as one line of JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tells what differs in two drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing as it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints a line for each variable, layer, style, block, entity and object that differs: + for what B has alone, - for what A has alone, ~ for what has other values in B, with these. Sums stand behind =, by type and by layer. The files&apos; forms and versions do not matter, nor how numbers are spelt.
+
+Ends with status 0 when nothing differs, 1 when something does, 2 and more when it could not be found out.
+
+With the seven words that git hands to a program for differences it compares these two files and ends with 0 either way: git config diff.dxf.command &quot;ortakit diff&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs at least one drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing to look at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--entities goes neither with --json nor with -j</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--fix and --out go together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tells what is wrong with drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks for all that opening with --recover would mend, add or drop, and the command AUDIT would find, and changes nothing. A hundred faults of a drawing are told; with --json all are.
+
+Ends with status 0 when all drawings are sound or were mended, 1 when faults were found, 4 when files could not be read or written, 3 when that is so for some of several.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write the drawings with what was found mended, sound ones too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder to write them into, under their names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write files although another program has them open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most that each drawing may take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print one line of JSON: for each drawing opens, faults and found, as convert has it for --recover, and out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tells what drawings are and hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells of each drawing its version and form, who saved it when, units, extents as the file says and as measured, how many entities of which type, layers, blocks, layouts with their paper, styles, the files and fonts that it names and whether they are found, and the state of its handles. Lists longer than twelve names are cut short; with --json they are whole.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print in place of that a line for each variable, table entry, block, entity and object, in the file&apos;s order, with all its values: git config diff.dxf.textconv &quot;ortakit info --entities&quot; shows differences of these</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print all of it as one line of JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kinds of findings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>uses takes man DIR, completions DIR or document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writes manual pages, completions and a document about the commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes ortakit(1) and a page for each command to a folder, the completions of bash, zsh and fish to their places below a folder, or the sections of docs/cli.md to standard output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell what became of each drawing as one line of JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>begin with the values of a state file that the dialog saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>press a button of the dialog behind the values that were set before; may be given again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answer the next prompt with this: a keyword, a number, a point as 10,20; may be given again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write each drawing there, under its own name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most it may take with one drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This tool asks for points or entities of the drawing, or works on none: it is for the window, and for recorded sessions, which ortakit run plays over drawings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs the tool over each drawing with its dialog filled in as --set says, and tells what it did. All of the dialog&apos;s checks hold, and what it complains about is an error of that drawing. Fields that are not set are as the dialog opens with them, whatever was chosen last. The drawings themselves stay as they are unless --in-place is given. It works in the space that is current in the drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys of --set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what it works on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one process for all</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -15097,6 +15829,53 @@ Nessun disegno è aperto.
     <message>
         <source>%1 (read only)</source>
         <translation>%1 (sola lettura)</translation>
+    </message>
+</context>
+<context>
+    <name>host::app::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished">Guida</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished">Cerca</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished">Contenuto</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">Indietro</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -15464,6 +16243,14 @@ Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
     <message>
         <source>Choose nothing</source>
         <translation>Deseleziona tutto</translation>
+    </message>
+    <message>
+        <source>
+This link of the help page is not followed: %1
+</source>
+        <translation type="unfinished">
+Questo collegamento della pagina della guida non viene seguito: %1
+</translation>
     </message>
 </context>
 <context>
@@ -16333,6 +17120,33 @@ Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
     <message>
         <source>there is no folder %1</source>
         <translation>non c&apos;è una cartella %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::view::DifferencePicture</name>
+    <message>
+        <source>gone: %n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new: %n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed, as it was: %n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed, as it is: %n</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same in both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
