@@ -6,9 +6,14 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QThread>
 
+#include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -54,6 +59,46 @@ QByteArray drawingWithSheets(const QByteArrayList &names)
            layouts + "0\nENDSEC\n0\nEOF\n";
 }
 
+QStringList namesIn(const QJsonValue &array)
+{
+    QStringList names;
+    for (const QJsonValue &name : array.toArray())
+        names.append(name.toString());
+    return names;
+}
+
+void expectKeys(const QJsonObject &object, const QJsonObject &schema)
+{
+    for (const QString &name : namesIn(schema[u"required"_s]))
+        EXPECT_TRUE(object.contains(name)) << name.toStdString();
+}
+
+/// That the output is one report as the schema beside the documents describes it, and counts what it lists.
+void expectReport(const QByteArray &output)
+{
+    QFile file(qEnvironmentVariable("ORTAKIT_SOURCE") + u"/docs/report.schema.json"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject parts = schema[u"properties"_s].toObject();
+    const QJsonObject report = QJsonDocument::fromJson(output).object();
+    expectKeys(report, schema);
+    for (const QString &key : report.keys())
+        EXPECT_TRUE(parts.contains(key)) << key.toStdString();
+    EXPECT_EQ(report[u"schema"_s], parts[u"schema"_s][u"const"_s]);
+    const QJsonObject item = parts[u"results"_s][u"items"_s].toObject();
+    qsizetype done = 0;
+    for (const QJsonValue &result : report[u"results"_s].toArray()) {
+        expectKeys(result.toObject(), item);
+        const QString status = result[u"status"_s].toString();
+        EXPECT_TRUE(namesIn(item[u"properties"_s][u"status"_s][u"enum"_s]).contains(status)) << status.toStdString();
+        done += status == "done"_L1 ? 1 : 0;
+    }
+    const QJsonObject summary = report[u"summary"_s].toObject();
+    expectKeys(summary, parts[u"summary"_s].toObject());
+    EXPECT_EQ(summary[u"done"_s].toInt(), done);
+    EXPECT_EQ(summary[u"results"_s].toInt(), report[u"results"_s].toArray().size());
+}
+
 /// The built program in a folder of its own.
 struct ProgramTest : testing::Test, TestFolder
 {
@@ -97,11 +142,20 @@ struct ProgramTest : testing::Test, TestFolder
         });
     }
 
+    /// Divided at blanks; "%20" is one within a word.
+    static QStringList wordsOf(QString arguments)
+    {
+        const QString build = qEnvironmentVariable("ORTAKIT_BUILD");
+        arguments.replace(u"%BUILD%"_s, build).replace(u"%TOOLS%"_s, build + u"/share/ortakit/tools"_s);
+        arguments.replace(u"%PLAN%"_s, qEnvironmentVariable("ORTAKIT_SOURCE") + u"/samples/plan.dxf"_s);
+        return arguments.split(u' ', Qt::SkipEmptyParts).replaceInStrings(u"%20"_s, u" "_s);
+    }
+
     Ended run(const QString &arguments, const QByteArray &input = {})
     {
         QProcess process;
         prepare(process);
-        process.start(program(), arguments.split(u' ', Qt::SkipEmptyParts));
+        process.start(program(), wordsOf(arguments));
         process.write(input);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished(60'000)) << arguments.toStdString();
@@ -120,7 +174,9 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         for (const auto &row : runs.groups[i]) {
             SCOPED_TRACE(row.place + ' ' + row.source);
             const QString arguments = QString::fromStdString(row.source);
-            const Ended ended = run(QString(arguments).replace(u"%BUILD%"_s, qEnvironmentVariable("ORTAKIT_BUILD")));
+            const Ended ended = run(arguments);
+            if (arguments.contains("--json"_L1) && ended.status != 2)
+                expectReport(ended.output.toUtf8());
             EXPECT_EQ(std::to_string(ended.status), row.text('=')) << ended.messages.toStdString();
             EXPECT_TRUE(ended.output.contains(QString::fromStdString(row.lines('>')))) << ended.output.toStdString();
             EXPECT_TRUE(ended.messages.contains(QString::fromStdString(row.lines('?'))))
@@ -258,6 +314,58 @@ TEST_F(ProgramTest, WritesNothingThatAnotherOneHasOpen)
     const Ended next = run(u"lisp save.lsp --drawing a.dxf"_s);
     EXPECT_EQ(next.status, 0) << next.messages.toStdString();
     EXPECT_FALSE(QFile::exists(WaitingProgram::lock(*this))) << "left behind, taken over and removed";
+}
+
+/// The processes that a process has started.
+QList<qint64> childrenOf(qint64 parent)
+{
+    QFile file(u"/proc/%1/task/%1/children"_s.arg(parent));
+    QList<qint64> children;
+    if (file.open(QIODevice::ReadOnly))
+        for (const QByteArray &child : file.readAll().simplified().split(' '))
+            if (!child.isEmpty())
+                children.append(child.toLongLong());
+    return children;
+}
+
+/// A run over "b.dxf", which is done, and "a.dxf", which never ends.
+struct SharedRun
+{
+    explicit SharedRun(ProgramTest &test)
+    {
+        test.prepare(process);
+        process.start(test.program(), ProgramTest::wordsOf(u"run slow.txt b.dxf a.dxf -j 2 --time-limit 100"_s));
+        while (!output.contains("b.dxf: done\n") && process.waitForReadyRead(60'000))
+            output += process.readAllStandardOutput();
+        const QList<qint64> workers = childrenOf(process.processId());
+        EXPECT_EQ(workers.size(), 1) << "that of a.dxf";
+        worker = static_cast<pid_t>(workers.value(0));
+    }
+
+    QProcess process;
+    QByteArray output;
+    pid_t worker = 0;
+};
+
+TEST_F(ProgramTest, LosesOneFileWithAWorkerThatIsKilled)
+{
+    SharedRun run(*this);
+    ASSERT_GT(run.worker, 0);
+    kill(run.worker, SIGKILL);
+    ASSERT_TRUE(run.process.waitForFinished());
+    EXPECT_EQ(run.process.exitCode(), 3);
+    EXPECT_EQ(run.process.readAllStandardOutput(), "a.dxf: failed\n");
+}
+
+TEST_F(ProgramTest, TakesItsWorkersWithItWhenItIsInterrupted)
+{
+    SharedRun run(*this);
+    ASSERT_GT(run.worker, 0);
+    kill(static_cast<pid_t>(run.process.processId()), SIGINT);
+    ASSERT_TRUE(run.process.waitForFinished());
+    EXPECT_EQ(run.process.exitCode(), 130);
+    EXPECT_TRUE(run.process.readAllStandardError().contains("interrupted: 1 of 2"));
+    EXPECT_NE(kill(run.worker, 0), 0) << "it has ended as well";
 }
 
 TEST_F(ProgramTest, ReportsTestsAsXml)

@@ -39,6 +39,10 @@ QString checkValue(const OptionRow &row, const QString &value)
 
 QString unknownOption(const UseRow &use, const QString &name)
 {
+    if (use.needsSession)
+        return QCoreApplication::translate("Uses",
+                                           "%1 asks for points or entities: play a recorded session with ortakit run")
+            .arg(use.title());
     QStringList names;
     for (const OptionRow *row : optionsOf(use))
         names.append(QString::fromLatin1(row->name));

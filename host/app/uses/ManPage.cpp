@@ -20,6 +20,20 @@ QString manText(QString text)
     return text.replace(lineBegin, u"\\&\\1"_s);
 }
 
+/// The same in lines that editors show whole.
+QString manLines(const QString &text)
+{
+    constexpr qsizetype width = 72;
+    QString lines;
+    qsizetype column = 0;
+    for (const QString &word : text.split(u' ', Qt::SkipEmptyParts)) {
+        const bool fits = column + 1 + word.size() <= width;
+        lines += (column == 0 ? QString() : fits ? u" "_s : u"\n"_s) + word;
+        column = (fits ? column + 1 : 0) + word.size();
+    }
+    return manText(lines) + u'\n';
+}
+
 QString manHeading(const QString &heading)
 {
     return u".SH "_s + manText(heading.toUpper()) + u'\n';
@@ -36,7 +50,7 @@ QString manDate()
 
 QString manEntry(const QString &name, const QString &text)
 {
-    return u".TP\n.B "_s + manText(name) + u'\n' + manText(text) + u'\n';
+    return u".TP\n.B "_s + manText(name) + u'\n' + manLines(text);
 }
 
 QString manOptions(const QList<OptionRow> &rows)
@@ -46,7 +60,7 @@ QString manOptions(const QList<OptionRow> &rows)
         text += u".TP\n\\fB"_s + manText(QString::fromLatin1(row.name)) + u"\\fR"_s;
         if (row.value)
             text += u" \\fI"_s + manText(QString::fromLatin1(row.value)) + u"\\fR"_s;
-        text += u'\n' + manText(optionText(row)) + u'\n';
+        text += u'\n' + manLines(optionText(row));
     }
     return text;
 }
@@ -58,7 +72,7 @@ QString manParagraphs(const char *source)
         if (paragraph.isAsIs)
             text += u".PP\n.nf\n"_s + manText(paragraph.text) + u"\n.fi\n"_s;
         else
-            text += (text.isEmpty() ? QString() : u".PP\n"_s) + manText(paragraph.text) + u'\n';
+            text += (text.isEmpty() ? QString() : u".PP\n"_s) + manLines(paragraph.text);
     }
     return text;
 }
@@ -77,7 +91,7 @@ QString manSynopsis(const UseRow &use)
     QString text = manHeading(u"Synopsis"_s);
     bool isFirst = true;
     for (const char *usage : use.usages) {
-        text += (isFirst ? QString() : u".br\n"_s) + u".B ortakit\n"_s + manText(QString::fromLatin1(usage)) + u'\n';
+        text += (isFirst ? QString() : u".br\n"_s) + u".B ortakit\n"_s + manLines(QString::fromLatin1(usage));
         isFirst = false;
     }
     return text;
@@ -124,7 +138,7 @@ QString manPage(const UseRow &use, const QString &version)
         text += manEntry(key, about);
     text += manHeading(u"Options for every use"_s) + manOptions(commonOptions());
     const QString status = exitStatusText();
-    text += manHeading(u"Exit status"_s) + manText(status.section(u": "_s, 1)) + u'\n';
+    text += manHeading(u"Exit status"_s) + manLines(status.section(u": "_s, 1));
     if (*use.example)
         text += manHeading(u"Example"_s) + u".nf\n"_s + manText(u"ortakit "_s + QString::fromLatin1(use.example)) +
                 u"\n.fi\n"_s;

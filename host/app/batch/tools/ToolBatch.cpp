@@ -74,6 +74,7 @@ private:
     SelectionFilter m_selection;
     QTemporaryDir m_folder; ///< what the tool keeps
     qsizetype m_told = 0;
+    int m_wrongStatus = ExitUsage;
 };
 
 /// What a tool printed: sentences, and of its list of entities, whose fields have tabs between, an object each.
@@ -168,8 +169,10 @@ QString ToolBatch::wrongStep(const ToolForm &form, const ToolStep &step)
 QString ToolBatch::wrongSteps()
 {
     const ToolForm form = m_tool.dialog ? readForm() : ToolForm();
-    if (!form.problem.isEmpty())
+    if (!form.problem.isEmpty()) {
+        m_wrongStatus = ExitFailed;
         return form.problem;
+    }
     for (const ToolStep &step : m_options.toolSteps) {
         if (step.kind == Kind::Answer)
             continue;
@@ -216,7 +219,7 @@ int ToolBatch::run()
         wrong = wrongSteps();
     if (!wrong.isEmpty()) {
         writeMessage(wrong);
-        return ExitUsage;
+        return m_wrongStatus;
     }
     if (!m_options.isInPlace && tellClashingNames(m_options.drawings))
         return ExitUsage;
@@ -328,7 +331,8 @@ QList<ToolStep> ToolBatch::stepsFor(const QString &path) const
     const auto isPath = [this](const ToolStep &step) { return m_tool.hasPath(step.key); };
     const auto behindPaths = std::stable_partition(steps.begin(), behindSets, isPath);
     const QString list = QString::fromLatin1(m_tool.allOf);
-    const bool isNamed = std::ranges::any_of(steps, [&](const ToolStep &step) { return step.key == list; });
+    const bool isNamed = std::ranges::any_of(
+        steps, [&](const ToolStep &step) { return step.key == list || m_tool.dependsOnDrawing(step.key); });
     if (!list.isEmpty() && !isNamed)
         steps.insert(behindPaths, {Kind::Set, list, u"*"_s});
     return steps;

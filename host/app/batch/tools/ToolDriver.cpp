@@ -7,6 +7,7 @@
 #include "host/app/playback/WidgetValues.h"
 #include "host/app/workbench/LimitWatch.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -153,7 +154,8 @@ DialogDriver::Reaction ToolDriver::handleTool(QWidget &dialog, Acquaintance acqu
         return Reaction::Reject; // it came back for the next piece of work, and there is none
     if (m_hasAccepted) {
         if (!m_tool.staysOpen)
-            fail(QCoreApplication::translate("Batch", "the dialog does not go on with these values"));
+            fail(m_told.isEmpty() ? QCoreApplication::translate("Batch", "the dialog does not go on with these values")
+                                  : m_told.takeLast());
         return m_problem.isEmpty() ? Reaction::Reject : Reaction::GiveUp;
     }
     if (const QString error = doNext(dialog); !error.isEmpty())
@@ -205,6 +207,8 @@ QString ToolDriver::setOne(QWidget &dialog, const ToolStep &step)
     }
     if (m_tool.hasPath(step.key))
         return enterPath(widget, step.value);
+    if (step.value == "*"_L1 && qobject_cast<const QAbstractButton *>(&widget))
+        return setChecked(widget, true);
     // What it shows already needs no hand, which a disabled widget would refuse.
     const auto truth = yesOrNoOf(step.value);
     const bool isShown =
@@ -218,7 +222,12 @@ QString ToolDriver::setOne(QWidget &dialog, const ToolStep &step)
 QString ToolDriver::press(QWidget &dialog, const QString &name)
 {
     const FoundWidget found = findWidget(dialog, name);
-    return found ? click(*found.widget) : found.error;
+    if (!found)
+        return found.error;
+    if (!m_tool.passesOver || m_hasAccepted || found.widget->isEnabled())
+        return click(*found.widget);
+    m_told.append(QCoreApplication::translate("Batch", "%1 has nothing to do").arg(name));
+    return {};
 }
 
 } // namespace host::app

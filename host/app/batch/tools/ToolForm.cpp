@@ -169,7 +169,8 @@ QString fieldHelp(const FormField &field, const ToolRow &tool)
     // What is in the drawing, or on this machine, is no default.
     const bool hasDefault = field.kind != FieldKind::Rows && !field.value.isEmpty() &&
                             !tool.dependsOnDrawing(field.key) && !field.value.contains(u'/');
-    return hasDefault ? help + QCoreApplication::translate("Uses", " (default: %1)").arg(field.value) : help;
+    return hasDefault ? help + QCoreApplication::translate("Uses", " (default: %1)").arg(field.value.simplified())
+                      : help;
 }
 
 bool isWithin(const FormField &field, double number)

@@ -24,9 +24,10 @@ struct ToolRow
     bool writesFile = false;      ///< that file is written, not read
     const char *pathKeys = "";    ///< keys of files and folders, with blanks between
     const char *drawingKeys = ""; ///< keys whose choices are in the drawing or in a file
-    const char *allOf = "";       ///< the key of the list whose rows are all chosen unless some are
+    const char *allOf = "";       ///< the list, or the box for it, by which all rows are chosen unless some are named
     const char *stateKeys = "";   ///< keys whose values the state file has when the dialog opens: no hand can give them
     const char *buttons = "";     ///< what --press is for, with blanks between
+    bool passesOver = false;      ///< a button that is disabled has nothing to do in this drawing, which is no error
     const char *state = nullptr;  ///< name of its state file where it is not the tool's
     const char *example = "";     ///< of a command line, behind "ortakit "
 
