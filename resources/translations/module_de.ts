@@ -1667,7 +1667,7 @@
     </message>
     <message>
         <source>&amp;Align Viewports</source>
-        <translation>Fenster &amp;ausrichten</translation>
+        <translation>&amp;Ausrichten</translation>
     </message>
     <message>
         <source>&amp;Scale Viewports</source>

@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Keep original &amp;height</source>
-        <translation>Conservar a&amp;ltura</translation>
+        <translation>C&amp;onservar altura</translation>
     </message>
     <message>
         <source>Ordering</source>
@@ -1560,7 +1560,7 @@
     </message>
     <message>
         <source>Ne&amp;w drawing:</source>
-        <translation>Dibu&amp;jo nuevo:</translation>
+        <translation>&amp;Dibujo nuevo:</translation>
     </message>
     <message>
         <source>Br&amp;owse...</source>
@@ -2495,7 +2495,7 @@
     </message>
     <message>
         <source>&amp;Track</source>
-        <translation>&amp;Contar tiempo</translation>
+        <translation>Contar &amp;tiempo</translation>
     </message>
     <message>
         <source>Counts no more time</source>

@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Keep original &amp;height</source>
-        <translation>Mantieni a&amp;ltezza</translation>
+        <translation>&amp;Mantieni altezza</translation>
     </message>
     <message>
         <source>Ordering</source>
@@ -123,7 +123,7 @@
     </message>
     <message>
         <source>&amp;Lock aspect ratio</source>
-        <translation>Blocca &amp;proporzioni</translation>
+        <translation>Blocca p&amp;roporzioni</translation>
     </message>
     <message>
         <source>Wid&amp;th:</source>
@@ -1128,7 +1128,7 @@
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>S&amp;foglia...</translation>
+        <translation>&amp;Sfoglia...</translation>
     </message>
     <message>
         <source>Browse for location of exported file</source>
@@ -1195,11 +1195,11 @@
     </message>
     <message>
         <source>L&amp;oaded</source>
-        <translation>&amp;Caricate</translation>
+        <translation>C&amp;aricate</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation>Ca&amp;rtella:</translation>
+        <translation>Car&amp;tella:</translation>
     </message>
     <message>
         <source>Browse a folder containing lisp files</source>
@@ -1524,7 +1524,7 @@
     </message>
     <message>
         <source>To &amp;bottom</source>
-        <translation>Alla &amp;fine</translation>
+        <translation>&amp;Alla fine</translation>
     </message>
     <message>
         <source>Select &amp;all</source>

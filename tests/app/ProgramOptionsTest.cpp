@@ -154,6 +154,7 @@ TEST(Mnemonics, NeverGivesALetterTwice)
         {{u"Break line"_s, u"Block info"_s}, {u"&Break line"_s, u"Block &info"_s}},
         {{u"Aa"_s, u"aa"_s, u"A"_s}, {u"&Aa"_s, u"aa"_s, u"A"_s}},
         {{u"Save"_s, u"&Send"_s}, {u"S&ave"_s, u"&Send"_s}},
+        {{u"&Save"_s, u"&Send"_s}, {u"&Save"_s, u"S&end"_s}},
         {{u"R&&D"_s, u"Redo"_s}, {u"&R&&D"_s, u"R&edo"_s}},
         {{QString(), u"…"_s}, {QString(), u"…"_s}},
     };

@@ -214,11 +214,12 @@ struct OtherWords final : QTranslator
 TEST_F(RecordingTest, KeywordsAreRecordedSoThatEveryLanguageTakesThem)
 {
     auto words = std::make_unique<OtherWords>();
-    SessionRecorder recorder(session, path(u"out.txt"_s));
+    auto recorder = std::make_unique<SessionRecorder>(session, path(u"out.txt"_s));
     emit session.input().taken({}, host::kernel::TextAnswer{u"LINE"_s});
     for (const QString &answer : {u"20,0"_s, u"21,0"_s, u"21,1"_s, u"s"_s})
         session.input().push(host::kernel::TextAnswer{answer});
     ASSERT_TRUE(document->runCommand(u"LINE"_s).ok);
+    recorder.reset();
     EXPECT_EQ(QString::fromUtf8(read(u"out.txt"_s)).section(u'\n', 1),
               u"command LINE\nanswer 20,0\nanswer 21,0\nanswer 21,1\nanswer _Close\n");
     expectPlays();

@@ -84,12 +84,19 @@ private:
 
 } // namespace
 
-QStringList withMnemonics(const QStringList &captions)
+QStringList withMnemonics(QStringList captions)
 {
     QSet<QChar> taken;
-    for (const QString &caption : captions)
-        if (const qsizetype place = mnemonicPlace(caption); place >= 0)
+    for (QString &caption : captions) {
+        const qsizetype place = mnemonicPlace(caption);
+        if (place < 0)
+            continue;
+        // Translations choose letters one by one: of two that are the same the first one stays.
+        if (taken.contains(caption[place].toLower()))
+            caption.remove(place - 1, 1);
+        else
             taken.insert(caption[place].toLower());
+    }
     LetterSharing sharing(captions, taken);
     for (qsizetype i = 0; i < captions.size(); ++i)
         if (mnemonicPlace(captions[i]) < 0)
