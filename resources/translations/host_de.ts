@@ -98,6 +98,10 @@
         <source>it does not take &quot;%1&quot;</source>
         <translation>es nimmt &quot;%1&quot; nicht an</translation>
     </message>
+    <message>
+        <source>%1 has nothing to do</source>
+        <translation>%1 hat nichts zu tun</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -10139,7 +10143,7 @@ Das Dia &quot;%1&quot;: %2.
     </message>
     <message>
         <source>faults: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1</translation>
     </message>
 </context>
 <context>

@@ -12,91 +12,95 @@
     <name>Batch</name>
     <message>
         <source>%1 of %2, %3 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2, %3 fallaron</translation>
     </message>
     <message>
         <source>the process that worked on it was killed or crashed</source>
-        <translation type="unfinished"></translation>
+        <translation>el proceso que trabajaba en él fue detenido o falló</translation>
     </message>
     <message>
         <source>interrupted: %1 of %2 were not worked on to the end</source>
-        <translation type="unfinished"></translation>
+        <translation>interrumpido: %1 de %2 no se trabajaron hasta el final</translation>
     </message>
     <message>
         <source>done</source>
-        <translation type="unfinished">hecho</translation>
+        <translation>hecho</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>fallido</translation>
     </message>
     <message>
         <source>not read</source>
-        <translation type="unfinished"></translation>
+        <translation>no leído</translation>
     </message>
     <message>
         <source>not written</source>
-        <translation type="unfinished"></translation>
+        <translation>no escrito</translation>
     </message>
     <message>
         <source>incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>incompleto</translation>
     </message>
     <message>
         <source>cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>abreviado</translation>
     </message>
     <message>
         <source>%1, case %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, caso %2</translation>
     </message>
     <message>
         <source>%1: the folder cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la carpeta no se puede crear</translation>
     </message>
     <message>
         <source>two of the drawings are named %1: their results would have the same name</source>
-        <translation type="unfinished"></translation>
+        <translation>dos de los dibujos se llaman %1: sus resultados tendrían el mismo nombre</translation>
     </message>
     <message>
         <source>%1: the extension must be dxf, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la extensión debe ser dxf, %2</translation>
     </message>
     <message>
         <source>--binary is for DXF files</source>
-        <translation type="unfinished"></translation>
+        <translation>--binary es para archivos DXF</translation>
     </message>
     <message>
         <source>... and %1 more lines</source>
-        <translation type="unfinished"></translation>
+        <translation>... y %1 líneas más</translation>
     </message>
     <message>
         <source>the dialog of %1 does not open</source>
-        <translation type="unfinished"></translation>
+        <translation>el cuadro de diálogo de %1 no se abre</translation>
     </message>
     <message>
         <source>%1: the file cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: el archivo no se puede leer</translation>
     </message>
     <message>
         <source>the tool asks &quot;%1&quot;; see --answer</source>
-        <translation type="unfinished"></translation>
+        <translation>la herramienta pregunta «%1»; véase --answer</translation>
     </message>
     <message>
         <source>the tool asks for a file; see --set %1=PATH</source>
-        <translation type="unfinished"></translation>
+        <translation>la herramienta pide un archivo; véase --set %1=PATH</translation>
     </message>
     <message>
         <source>the dialog does not go on with these values</source>
-        <translation type="unfinished"></translation>
+        <translation>el cuadro de diálogo no continúa con estos valores</translation>
     </message>
     <message>
         <source>there is nothing to choose in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada que elegir en %1</translation>
     </message>
     <message>
         <source>it does not take &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>no acepta «%1»</translation>
+    </message>
+    <message>
+        <source>%1 has nothing to do</source>
+        <translation>%1 no tiene nada que hacer</translation>
     </message>
 </context>
 <context>
@@ -5639,7 +5643,7 @@ Capas inutilizadas en la ventana %1:</translation>
     </message>
     <message>
         <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
-        <translation type="unfinished"></translation>
+        <translation>quién quiere saber de cambios y quién muestra un bloque: {ACAD_REACTORS, {BLKREFS</translation>
     </message>
 </context>
 <context>
@@ -9987,159 +9991,159 @@ La foto &quot;%1&quot;: %2.
     <name>Inspecting</name>
     <message>
         <source>%1: what is mended is not written over the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: lo reparado no se escribe sobre el dibujo</translation>
     </message>
     <message>
         <source>not read</source>
-        <translation type="unfinished"></translation>
+        <translation>no leído</translation>
     </message>
     <message>
         <source>sound</source>
-        <translation type="unfinished"></translation>
+        <translation>intacto</translation>
     </message>
     <message>
         <source>faults: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>defectos: %1</translation>
     </message>
     <message>
         <source>, opens with --recover alone</source>
-        <translation type="unfinished"></translation>
+        <translation>, solo se abre con --recover</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished">y %1 más</translation>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> y %1 más</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bytes</translation>
     </message>
     <message>
         <source>by %1</source>
-        <translation type="unfinished"></translation>
+        <translation>por %1</translation>
     </message>
     <message>
         <source>begun %1</source>
-        <translation type="unfinished"></translation>
+        <translation>empezado %1</translation>
     </message>
     <message>
         <source>the file says %1</source>
-        <translation type="unfinished"></translation>
+        <translation>según el archivo %1</translation>
     </message>
     <message>
         <source>; %1 in blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>; %1 en bloques</translation>
     </message>
     <message>
         <source> off</source>
-        <translation type="unfinished"></translation>
+        <translation> desactivada</translation>
     </message>
     <message>
         <source> frozen</source>
-        <translation type="unfinished"></translation>
+        <translation> inutilizada</translation>
     </message>
     <message>
         <source> locked</source>
-        <translation type="unfinished"></translation>
+        <translation> bloqueada</translation>
     </message>
     <message>
         <source> (not found: %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (no encontrado: %1)</translation>
     </message>
     <message>
         <source> (not found)</source>
-        <translation type="unfinished"></translation>
+        <translation> (no encontrado)</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">ninguno</translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>, %1 records without</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 registros sin él</translation>
     </message>
     <message>
         <source>, %1 twice</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 dos veces</translation>
     </message>
     <message>
         <source>, the next one (%1) is taken</source>
-        <translation type="unfinished"></translation>
+        <translation>, el siguiente (%1) está ocupado</translation>
     </message>
     <message>
         <source>format</source>
-        <translation type="unfinished"></translation>
+        <translation>formato</translation>
     </message>
     <message>
         <source>title</source>
-        <translation type="unfinished"></translation>
+        <translation>título</translation>
     </message>
     <message>
         <source>author</source>
-        <translation type="unfinished"></translation>
+        <translation>autor</translation>
     </message>
     <message>
         <source>saved</source>
-        <translation type="unfinished"></translation>
+        <translation>guardado</translation>
     </message>
     <message>
         <source>units</source>
-        <translation type="unfinished"></translation>
+        <translation>unidades</translation>
     </message>
     <message>
         <source>extents</source>
-        <translation type="unfinished"></translation>
+        <translation>extensión</translation>
     </message>
     <message>
         <source>entities</source>
-        <translation type="unfinished"></translation>
+        <translation>entidades</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished">capas</translation>
+        <translation>capas</translation>
     </message>
     <message>
         <source>blocks</source>
-        <translation type="unfinished">bloques</translation>
+        <translation>bloques</translation>
     </message>
     <message>
         <source>layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>presentaciones</translation>
     </message>
     <message>
         <source>text styles</source>
-        <translation type="unfinished">estilos de texto</translation>
+        <translation>estilos de texto</translation>
     </message>
     <message>
         <source>fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>tipos de letra</translation>
     </message>
     <message>
         <source>linetypes</source>
-        <translation type="unfinished">tipos de línea</translation>
+        <translation>tipos de línea</translation>
     </message>
     <message>
         <source>dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>cotas</translation>
     </message>
     <message>
         <source>files</source>
-        <translation type="unfinished"></translation>
+        <translation>archivos</translation>
     </message>
     <message>
         <source>classes</source>
-        <translation type="unfinished"></translation>
+        <translation>clases</translation>
     </message>
     <message>
         <source>proxies</source>
-        <translation type="unfinished"></translation>
+        <translation>proxies</translation>
     </message>
     <message>
         <source>handles</source>
-        <translation type="unfinished"></translation>
+        <translation>identificadores</translation>
     </message>
 </context>
 <context>
@@ -13495,15 +13499,15 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished">Estándar</translation>
+        <translation>Estándar</translation>
     </message>
 </context>
 <context>
@@ -15197,339 +15201,339 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
     </message>
     <message>
         <source>%1 asks for points or entities: play a recorded session with ortakit run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pide puntos o entidades: reproduzca una sesión grabada con ortakit run</translation>
     </message>
     <message>
         <source>%1 needs a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un dibujo</translation>
     </message>
     <message>
         <source>--out and --in-place do not go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--out y --in-place no van juntos</translation>
     </message>
     <message>
         <source>%1 changes drawings: say where they go, --out DIR or --in-place</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cambia dibujos: diga adónde van, --out DIR o --in-place</translation>
     </message>
     <message>
         <source>%1 works on no selection</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no trabaja con ninguna selección</translation>
     </message>
     <message>
         <source>of several drawings each has its own file: put {name} into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de varios dibujos cada uno tiene su propio archivo: ponga {name} en %1</translation>
     </message>
     <message>
         <source>%1 needs a file to write: --set %2=PATH</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un archivo que escribir: --set %2=PATH</translation>
     </message>
     <message>
         <source>%1 has no button %2%3; it has %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene el botón %2%3; tiene %4</translation>
     </message>
     <message>
         <source>%1 has no key %2%3; it has %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no tiene la clave %2%3; tiene %4</translation>
     </message>
     <message>
         <source>the file to write; {name} stands for the drawing&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo que se escribe; {name} representa el nombre del dibujo</translation>
     </message>
     <message>
         <source>the file to read</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo que se lee</translation>
     </message>
     <message>
         <source>yes or no</source>
-        <translation type="unfinished"></translation>
+        <translation>sí o no</translation>
     </message>
     <message>
         <source>yes or no, one of its group</source>
-        <translation type="unfinished"></translation>
+        <translation>sí o no, uno de su grupo</translation>
     </message>
     <message>
         <source>one of a list</source>
-        <translation type="unfinished"></translation>
+        <translation>uno de una lista</translation>
     </message>
     <message>
         <source>one of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>uno de: %1</translation>
     </message>
     <message>
         <source>a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un número de %1 a %2</translation>
     </message>
     <message>
         <source>a number, %1 or more</source>
-        <translation type="unfinished"></translation>
+        <translation>un número, %1 o más</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished">un número</translation>
+        <translation>un número</translation>
     </message>
     <message>
         <source>a colour&apos;s number, 0 to 256</source>
-        <translation type="unfinished"></translation>
+        <translation>el número de un color, de 0 a 256</translation>
     </message>
     <message>
         <source>rows by the texts of their first column with ^ between; * for all</source>
-        <translation type="unfinished"></translation>
+        <translation>filas según los textos de su primera columna con ^ entre ellos; * para todas</translation>
     </message>
     <message>
         <source>a file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo o una carpeta</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished">un texto</translation>
+        <translation>un texto</translation>
     </message>
     <message>
         <source> (default: %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (predeterminado: %1)</translation>
     </message>
     <message>
         <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--select acepta all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] o una lista de filtro, no «%1»</translation>
     </message>
     <message>
         <source>makes one paragraph of single-line texts</source>
-        <translation type="unfinished"></translation>
+        <translation>hace un párrafo de textos de una línea</translation>
     </message>
     <message>
         <source>writes texts in capitals, small letters or as titles</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe los textos en mayúsculas, en minúsculas o como títulos</translation>
     </message>
     <message>
         <source>writes texts of attributes to a table in a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe textos de atributos en una tabla de un archivo de texto</translation>
     </message>
     <message>
         <source>counts the blocks of the drawing, for a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>cuenta los bloques del dibujo, para un archivo de texto</translation>
     </message>
     <message>
         <source>With --press exporttable the table is drawn instead; its upper left corner and the height of its texts are answers: --answer 0,0 --answer 2.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --press exporttable se dibuja en su lugar la tabla; su esquina superior izquierda y la altura de sus textos son respuestas: --answer 0,0 --answer 2.5</translation>
     </message>
     <message>
         <source>takes texts of attributes from a table in a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>toma textos de atributos de una tabla de un archivo de texto</translation>
     </message>
     <message>
         <source>All rows of the table are taken unless attributes names some. With --press btreplace, txreplace takes the place of txsearch in them first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se toman todas las filas de la tabla, salvo que attributes nombre algunas. Con --press btreplace, antes txreplace ocupa en ellas el lugar de txsearch.</translation>
     </message>
     <message>
         <source>writes numbers into texts in the order of their places</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe números en los textos en el orden de sus lugares</translation>
     </message>
     <message>
         <source>For the orders by points the points are answers: --answer 0,0</source>
-        <translation type="unfinished"></translation>
+        <translation>Para los órdenes por puntos, los puntos son respuestas: --answer 0,0</translation>
     </message>
     <message>
         <source>replaces references to blocks by another block of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>sustituye referencias a bloques por otro bloque del dibujo</translation>
     </message>
     <message>
         <source>replaces references to blocks by a drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>sustituye referencias a bloques por un archivo de dibujo</translation>
     </message>
     <message>
         <source>directory is the folder of the file, blockstablerep its name there.</source>
-        <translation type="unfinished"></translation>
+        <translation>directory es la carpeta del archivo, blockstablerep su nombre en ella.</translation>
     </message>
     <message>
         <source>draws slots, rectangles or circles around texts</source>
-        <translation type="unfinished"></translation>
+        <translation>dibuja ranuras, rectángulos o círculos alrededor de textos</translation>
     </message>
     <message>
         <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los textos que tienen marco reciben otro en su lugar; --answer No los deja como están.</translation>
     </message>
     <message>
         <source>hides what lies behind texts</source>
-        <translation type="unfinished"></translation>
+        <translation>oculta lo que hay detrás de los textos</translation>
     </message>
     <message>
         <source>writes dimension styles of the drawing to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe los estilos de cota del dibujo en un archivo</translation>
     </message>
     <message>
         <source>All styles are written unless lststyles names some.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se escriben todos los estilos, salvo que lststyles nombre algunos.</translation>
     </message>
     <message>
         <source>brings dimension styles from a file into the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>trae al dibujo los estilos de cota de un archivo</translation>
     </message>
     <message>
         <source>All styles of the file are taken unless lststyles names some, by the first words of their names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se toman todos los estilos del archivo, salvo que lststyles nombre algunos, por las primeras palabras de sus nombres.</translation>
     </message>
     <message>
         <source>puts entities over each other in the order of their colours</source>
-        <translation type="unfinished"></translation>
+        <translation>superpone las entidades en el orden de sus colores</translation>
     </message>
     <message>
         <source>Steps are taken in the order in which they are given: --set lstcolors=&quot;5 Blue&quot; --press tofront puts blue on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los pasos se dan en el orden en que se indican: --set lstcolors=&quot;5 Blue&quot; --press tofront pone el azul encima.</translation>
     </message>
     <message>
         <source>writes a problem report with what the program and the drawing are</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe un informe de problemas con lo que son el programa y el dibujo</translation>
     </message>
     <message>
         <source>writes system variables to a script that sets them again</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe variables de sistema en un script que las restablece</translation>
     </message>
     <message>
         <source>changes the paths of references, images, fonts and remote texts</source>
-        <translation type="unfinished"></translation>
+        <translation>cambia las rutas de referencias, imágenes, tipos de letra y textos remotos</translation>
     </message>
     <message>
         <source>All paths are meant unless lstfiles names some. --press btreplace puts txreplace in the place of txsearch in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se entienden todas las rutas, salvo que lstfiles nombre algunas. --press btreplace pone en ellas txreplace en el lugar de txsearch.</translation>
     </message>
     <message>
         <source>changes and removes hyperlinks of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>cambia y elimina hipervínculos de entidades</translation>
     </message>
     <message>
         <source>All links are meant unless tableurl names some, by their handles. --press btnreplace puts txreplace in the place of txsearch in them, --press btnremoveurl takes them away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se entienden todos los enlaces, salvo que tableurl nombre algunos, por sus identificadores. --press btnreplace pone en ellos txreplace en el lugar de txsearch, --press btnremoveurl los elimina.</translation>
     </message>
     <message>
         <source>cuts a line open and draws a break symbol in the gap</source>
-        <translation type="unfinished"></translation>
+        <translation>corta una línea y dibuja un símbolo de rotura en el hueco</translation>
     </message>
     <message>
         <source>edits the short names that are typed in place of commands</source>
-        <translation type="unfinished"></translation>
+        <translation>edita los nombres cortos que se escriben en lugar de los comandos</translation>
     </message>
     <message>
         <source>shows the functions of Lisp files</source>
-        <translation type="unfinished"></translation>
+        <translation>muestra las funciones de archivos Lisp</translation>
     </message>
     <message>
         <source>makes a linetype of a drawn pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>crea un tipo de línea de un patrón dibujado</translation>
     </message>
     <message>
         <source>makes a shape of drawn lines and arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>crea una forma de líneas y arcos dibujados</translation>
     </message>
     <message>
         <source>makes one drawing of the sheets of several</source>
-        <translation type="unfinished"></translation>
+        <translation>hace un dibujo con las hojas de varios</translation>
     </message>
     <message>
         <source>sets up a sheet: title block, viewports, alignment and scale</source>
-        <translation type="unfinished"></translation>
+        <translation>prepara una hoja: cajetín, ventanas gráficas, alineación y escala</translation>
     </message>
     <message>
         <source>fills a closed area with copies of a pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>llena un área cerrada con copias de un patrón</translation>
     </message>
     <message>
         <source>inserts a block of the drawing or of another drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>inserta un bloque del dibujo o de otro archivo de dibujo</translation>
     </message>
     <message>
         <source>shows and sets the time that was worked on drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>muestra y fija el tiempo trabajado en los dibujos</translation>
     </message>
     <message>
         <source>--to and --out go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--to y --out van juntos</translation>
     </message>
     <message>
         <source>convert needs drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>convert necesita dibujos</translation>
     </message>
     <message>
         <source>-j goes with --to and --out</source>
-        <translation type="unfinished"></translation>
+        <translation>-j va con --to y --out</translation>
     </message>
     <message>
         <source>Many drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Muchos dibujos</translation>
     </message>
     <message>
         <source>With --to and --out all words are drawings, and each becomes a file of its name in the folder. What became of them is told on standard output, a line each. The time limit is that of each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --to y --out todas las palabras son dibujos, y cada uno pasa a ser un archivo de su nombre en la carpeta. Lo que fue de ellos se dice en la salida estándar, una línea por cada uno. El límite de tiempo es el de cada uno.</translation>
     </message>
     <message>
         <source>what they become</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que pasan a ser</translation>
     </message>
     <message>
         <source>where they go</source>
-        <translation type="unfinished"></translation>
+        <translation>adónde van</translation>
     </message>
     <message>
         <source>print one line of JSON: of each drawing file, status, messages and out; of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimir una línea de JSON: de cada dibujo file, status, messages y out; de las imágenes complete, drawn, invisible, inPart y notDrawn (un número por tipo) y cutShort; con --layout todo ello de cada una de las páginas, con layout y output; con --recover lo mismo de lo omitido, reparado y añadido</translation>
     </message>
     <message>
         <source>there is nothing called %1 to ignore%2</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada llamado %1 que ignorar%2</translation>
     </message>
     <message>
         <source>diff needs two drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>diff necesita dos dibujos</translation>
     </message>
     <message>
         <source>take numbers and coordinates for the same that are no farther apart</source>
-        <translation type="unfinished"></translation>
+        <translation>tomar por iguales los números y coordenadas que no estén más alejados</translation>
     </message>
     <message>
         <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que además no cuenta, separado por comas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents y reactors no cuentan de todos modos; «none» delante hace que cuenten</translation>
     </message>
     <message>
         <source>what makes entities the same one: their handles, or what is in them</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que hace que las entidades sean la misma: sus identificadores o lo que contienen</translation>
     </message>
     <message>
         <source>auto: by handle, unless far more entities are the same by content</source>
-        <translation type="unfinished"></translation>
+        <translation>auto: por identificador, salvo que muchas más entidades sean las mismas por su contenido</translation>
     </message>
     <message>
         <source>tell the sums alone</source>
-        <translation type="unfinished"></translation>
+        <translation>decir solo las sumas</translation>
     </message>
     <message>
         <source>draw both over each other into a png, svg or pdf file: what is gone red and dashed, what is new green and thick, what has changed orange and dashed as it was, blue and thick as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>dibujar ambos uno sobre otro en un archivo png, svg o pdf: lo que ya no está en rojo y discontinuo, lo nuevo en verde y grueso, lo que ha cambiado en naranja y discontinuo como era, en azul y grueso como es</translation>
     </message>
     <message>
         <source>which sheet the picture shows; without it, model space</source>
-        <translation type="unfinished"></translation>
+        <translation>qué hoja muestra la imagen; sin ello, el espacio modelo</translation>
     </message>
     <message>
         <source>write the picture although another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir la imagen aunque otro programa la tenga abierta</translation>
     </message>
     <message>
         <source>the most it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que puede tardar</translation>
     </message>
     <message>
         <source>print the differences as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimir las diferencias como una línea de JSON</translation>
     </message>
     <message>
         <source>tells what differs in two drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>dice en qué difieren dos dibujos</translation>
     </message>
     <message>
         <source>a drawing as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo como era</translation>
     </message>
     <message>
         <source>the drawing as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo como es</translation>
     </message>
     <message>
         <source>Prints a line for each variable, layer, style, block, entity and object that differs: + for what B has alone, - for what A has alone, ~ for what has other values in B, with these. Sums stand behind =, by type and by layer. The files&apos; forms and versions do not matter, nor how numbers are spelt.
@@ -15537,153 +15541,159 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
 Ends with status 0 when nothing differs, 1 when something does, 2 and more when it could not be found out.
 
 With the seven words that git hands to a program for differences it compares these two files and ends with 0 either way: git config diff.dxf.command &quot;ortakit diff&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime una línea por cada variable, capa, estilo, bloque, entidad y objeto que difiere: + para lo que solo tiene B, - para lo que solo tiene A, ~ para lo que tiene otros valores en B, con ellos. Las sumas están detrás de =, por tipo y por capa. No importan las formas y versiones de los archivos ni cómo se escriben los números.
+
+Termina con el estado 0 cuando nada difiere, 1 cuando algo difiere, 2 y más cuando no se pudo averiguar.
+
+Con las siete palabras que git pasa a un programa de diferencias compara estos dos archivos y termina con 0 en cualquier caso: git config diff.dxf.command &quot;ortakit diff&quot;.</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo:</translation>
     </message>
     <message>
         <source>%1 needs at least one drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita al menos un dibujo</translation>
     </message>
     <message>
         <source>a drawing to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo que mirar</translation>
     </message>
     <message>
         <source>--entities goes neither with --json nor with -j</source>
-        <translation type="unfinished"></translation>
+        <translation>--entities no va ni con --json ni con -j</translation>
     </message>
     <message>
         <source>--fix and --out go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--fix y --out van juntos</translation>
     </message>
     <message>
         <source>tells what is wrong with drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>dice qué está mal en los dibujos</translation>
     </message>
     <message>
         <source>Looks for all that opening with --recover would mend, add or drop, and the command AUDIT would find, and changes nothing. A hundred faults of a drawing are told; with --json all are.
 
 Ends with status 0 when all drawings are sound or were mended, 1 when faults were found, 4 when files could not be read or written, 3 when that is so for some of several.</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca todo lo que abrir con --recover repararía, añadiría u omitiría y lo que encontraría el comando AUDIT, y no cambia nada. Se dicen cien defectos de un dibujo; con --json, todos.
+
+Termina con el estado 0 cuando todos los dibujos están intactos o fueron reparados, 1 cuando se encontraron defectos, 4 cuando no se pudieron leer o escribir archivos, 3 cuando es así en algunos de varios.</translation>
     </message>
     <message>
         <source>write the drawings with what was found mended, sound ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir los dibujos con lo encontrado reparado, también los intactos</translation>
     </message>
     <message>
         <source>the folder to write them into, under their names</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta en que se escriben, con sus nombres</translation>
     </message>
     <message>
         <source>write files although another program has them open</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir archivos aunque otro programa los tenga abiertos</translation>
     </message>
     <message>
         <source>the most that each drawing may take</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que puede tardar cada dibujo</translation>
     </message>
     <message>
         <source>print one line of JSON: for each drawing opens, faults and found, as convert has it for --recover, and out</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimir una línea de JSON: de cada dibujo opens, faults y found, como los tiene convert con --recover, y out</translation>
     </message>
     <message>
         <source>tells what drawings are and hold</source>
-        <translation type="unfinished"></translation>
+        <translation>dice lo que son y contienen los dibujos</translation>
     </message>
     <message>
         <source>Tells of each drawing its version and form, who saved it when, units, extents as the file says and as measured, how many entities of which type, layers, blocks, layouts with their paper, styles, the files and fonts that it names and whether they are found, and the state of its handles. Lists longer than twelve names are cut short; with --json they are whole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice de cada dibujo su versión y forma, quién lo guardó y cuándo, unidades, extensión según el archivo y según lo medido, cuántas entidades de qué tipo, capas, bloques, presentaciones con su papel, estilos, los archivos y tipos de letra que nombra y si se encuentran, y el estado de sus identificadores. Las listas de más de doce nombres se abrevian; con --json están completas.</translation>
     </message>
     <message>
         <source>print in place of that a line for each variable, table entry, block, entity and object, in the file&apos;s order, with all its values: git config diff.dxf.textconv &quot;ortakit info --entities&quot; shows differences of these</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimir en su lugar una línea por cada variable, entrada de tabla, bloque, entidad y objeto, en el orden del archivo, con todos sus valores: git config diff.dxf.textconv &quot;ortakit info --entities&quot; muestra las diferencias de ellas</translation>
     </message>
     <message>
         <source>print all of it as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>imprimirlo todo como una línea de JSON</translation>
     </message>
     <message>
         <source>Kinds of findings</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipos de hallazgos</translation>
     </message>
     <message>
         <source>uses takes man DIR, completions DIR or document</source>
-        <translation type="unfinished"></translation>
+        <translation>uses se llama con «man DIR», «completions DIR» o «document»</translation>
     </message>
     <message>
         <source>writes manual pages, completions and a document about the commands</source>
-        <translation type="unfinished"></translation>
+        <translation>escribe páginas de manual, complementos y un documento sobre los comandos</translation>
     </message>
     <message>
         <source>Writes ortakit(1) and a page for each command to a folder, the completions of bash, zsh and fish to their places below a folder, or the sections of docs/cli.md to standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe ortakit(1) y una página por comando en una carpeta, los complementos de bash, zsh y fish en sus lugares bajo una carpeta, o las secciones de docs/cli.md en la salida estándar.</translation>
     </message>
     <message>
         <source>tell what became of each drawing as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>decir lo que fue de cada dibujo como una línea de JSON</translation>
     </message>
     <message>
         <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--set acepta KEY=VALUE, no «%1»</translation>
     </message>
     <message>
         <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué trabaja: all o tipos de entidades como TEXT,MTEXT, con «on layer PATTERN», «of block PATTERN», «in style PATTERN» e «in color NUMBER» detrás, o una lista de filtro como la toma ssget: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Lo que la herramienta no puede usar se omite</translation>
     </message>
     <message>
         <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>
-        <translation type="unfinished"></translation>
+        <translation>poner el valor en un campo del cuadro de diálogo; se puede repetir. {name} representa el nombre del dibujo sin carpeta ni extensión</translation>
     </message>
     <message>
         <source>begin with the values of a state file that the dialog saved</source>
-        <translation type="unfinished"></translation>
+        <translation>empezar con los valores de un archivo de estado que guardó el cuadro de diálogo</translation>
     </message>
     <message>
         <source>press a button of the dialog behind the values that were set before; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>pulsar un botón del cuadro de diálogo después de los valores puestos antes; se puede repetir</translation>
     </message>
     <message>
         <source>answer the next prompt with this: a keyword, a number, a point as 10,20; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>responder con esto a la siguiente pregunta: una palabra clave, un número, un punto como 10,20; se puede repetir</translation>
     </message>
     <message>
         <source>write each drawing there, under its own name</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir allí cada dibujo, con su propio nombre</translation>
     </message>
     <message>
         <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
-        <translation type="unfinished"></translation>
+        <translation>guardar en su lugar cada dibujo cambiado, con una copia del anterior si SETBACKUPFOLDER ha nombrado una carpeta para ello</translation>
     </message>
     <message>
         <source>the most it may take with one drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>lo máximo que puede tardar con un dibujo</translation>
     </message>
     <message>
         <source>This tool asks for points or entities of the drawing, or works on none: it is for the window, and for recorded sessions, which ortakit run plays over drawings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta herramienta pide puntos o entidades del dibujo, o no trabaja con ninguno: es para la ventana y para sesiones grabadas, que ortakit run reproduce sobre dibujos.</translation>
     </message>
     <message>
         <source>Runs the tool over each drawing with its dialog filled in as --set says, and tells what it did. All of the dialog&apos;s checks hold, and what it complains about is an error of that drawing. Fields that are not set are as the dialog opens with them, whatever was chosen last. The drawings themselves stay as they are unless --in-place is given. It works in the space that is current in the drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasa la herramienta por cada dibujo con su cuadro de diálogo rellenado como dice --set, y dice lo que hizo. Valen todas las comprobaciones del cuadro de diálogo, y aquello de lo que se queja es un error de ese dibujo. Los campos que no se ponen están como el cuadro de diálogo se abre con ellos, se eligiera lo que se eligiera antes. Los propios dibujos quedan como están, salvo con --in-place. Trabaja en el espacio actual del dibujo.</translation>
     </message>
     <message>
         <source>Keys of --set</source>
-        <translation type="unfinished"></translation>
+        <translation>Claves de --set</translation>
     </message>
     <message>
         <source>what it works on</source>
-        <translation type="unfinished"></translation>
+        <translation>con qué trabaja</translation>
     </message>
     <message>
         <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
-        <translation type="unfinished"></translation>
+        <translation>trabajar en tantos archivos a la vez, cada uno en un proceso propio, de modo que uno que falle o tarde demasiado sea un archivo fallido; lo que se dice y su orden son los mismos para cualquier N</translation>
     </message>
     <message>
         <source>one process for all</source>
-        <translation type="unfinished"></translation>
+        <translation>un proceso para todos</translation>
     </message>
 </context>
 <context>
@@ -15835,47 +15845,47 @@ No hay ningún dibujo abierto.
     <name>host::app::HelpWindow</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished">Ayuda</translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Buscar</translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished">Contenido</translation>
+        <translation>Contenido</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo encontrado</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retroceder</translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelante</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Más grande</translation>
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Más pequeño</translation>
     </message>
     <message>
         <source>Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir...</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró nada.</translation>
     </message>
 </context>
 <context>
@@ -16248,8 +16258,8 @@ Recuperado tal como estaba el %1. No está en su archivo hasta que se guarde.
         <source>
 This link of the help page is not followed: %1
 </source>
-        <translation type="unfinished">
-Este vínculo de la página de ayuda no se sigue: %1
+        <translation>
+No se sigue este enlace de la página de ayuda: %1
 </translation>
     </message>
 </context>
@@ -17126,27 +17136,27 @@ Este vínculo de la página de ayuda no se sigue: %1
     <name>host::view::DifferencePicture</name>
     <message>
         <source>gone: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>ya no están: %n</translation>
     </message>
     <message>
         <source>new: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevas: %n</translation>
     </message>
     <message>
         <source>changed, as it was: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>cambiadas, como eran: %n</translation>
     </message>
     <message>
         <source>changed, as it is: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>cambiadas, como son: %n</translation>
     </message>
     <message>
         <source>the same in both</source>
-        <translation type="unfinished"></translation>
+        <translation>lo mismo en ambos</translation>
     </message>
     <message>
         <source>the picture is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>la imagen es demasiado grande</translation>
     </message>
 </context>
 <context>

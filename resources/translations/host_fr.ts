@@ -98,6 +98,10 @@
         <source>it does not take &quot;%1&quot;</source>
         <translation>il n&apos;accepte pas &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>%1 has nothing to do</source>
+        <translation>%1 n&apos;a rien à faire</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -10139,7 +10143,7 @@ Le cliché &quot;%1&quot;&#xa0;: %2.
     </message>
     <message>
         <source>faults: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>défauts : %1</translation>
     </message>
 </context>
 <context>

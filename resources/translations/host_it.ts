@@ -12,91 +12,95 @@
     <name>Batch</name>
     <message>
         <source>%1 of %2, %3 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2, %3 non riusciti</translation>
     </message>
     <message>
         <source>the process that worked on it was killed or crashed</source>
-        <translation type="unfinished"></translation>
+        <translation>il processo che ci lavorava è stato terminato o si è interrotto</translation>
     </message>
     <message>
         <source>interrupted: %1 of %2 were not worked on to the end</source>
-        <translation type="unfinished"></translation>
+        <translation>interrotto: %1 di %2 non sono stati elaborati fino alla fine</translation>
     </message>
     <message>
         <source>done</source>
-        <translation type="unfinished">fatto</translation>
+        <translation>fatto</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>non riuscito</translation>
     </message>
     <message>
         <source>not read</source>
-        <translation type="unfinished"></translation>
+        <translation>non letto</translation>
     </message>
     <message>
         <source>not written</source>
-        <translation type="unfinished"></translation>
+        <translation>non scritto</translation>
     </message>
     <message>
         <source>incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>incompleto</translation>
     </message>
     <message>
         <source>cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>abbreviato</translation>
     </message>
     <message>
         <source>%1, case %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, caso %2</translation>
     </message>
     <message>
         <source>%1: the folder cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la cartella non si può creare</translation>
     </message>
     <message>
         <source>two of the drawings are named %1: their results would have the same name</source>
-        <translation type="unfinished"></translation>
+        <translation>due dei disegni si chiamano %1: i loro risultati avrebbero lo stesso nome</translation>
     </message>
     <message>
         <source>%1: the extension must be dxf, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: l&apos;estensione deve essere dxf, %2</translation>
     </message>
     <message>
         <source>--binary is for DXF files</source>
-        <translation type="unfinished"></translation>
+        <translation>--binary è per file DXF</translation>
     </message>
     <message>
         <source>... and %1 more lines</source>
-        <translation type="unfinished"></translation>
+        <translation>... e altre %1 righe</translation>
     </message>
     <message>
         <source>the dialog of %1 does not open</source>
-        <translation type="unfinished"></translation>
+        <translation>la finestra di dialogo di %1 non si apre</translation>
     </message>
     <message>
         <source>%1: the file cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: il file non si può leggere</translation>
     </message>
     <message>
         <source>the tool asks &quot;%1&quot;; see --answer</source>
-        <translation type="unfinished"></translation>
+        <translation>lo strumento chiede «%1»; vedere --answer</translation>
     </message>
     <message>
         <source>the tool asks for a file; see --set %1=PATH</source>
-        <translation type="unfinished"></translation>
+        <translation>lo strumento chiede un file; vedere --set %1=PATH</translation>
     </message>
     <message>
         <source>the dialog does not go on with these values</source>
-        <translation type="unfinished"></translation>
+        <translation>la finestra di dialogo non prosegue con questi valori</translation>
     </message>
     <message>
         <source>there is nothing to choose in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1 non c&apos;è nulla da scegliere</translation>
     </message>
     <message>
         <source>it does not take &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>non accetta «%1»</translation>
+    </message>
+    <message>
+        <source>%1 has nothing to do</source>
+        <translation>%1 non ha nulla da fare</translation>
     </message>
 </context>
 <context>
@@ -5639,7 +5643,7 @@ Layer congelati nella finestra %1:</translation>
     </message>
     <message>
         <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
-        <translation type="unfinished"></translation>
+        <translation>chi vuole sapere delle modifiche e chi mostra un blocco: {ACAD_REACTORS, {BLKREFS</translation>
     </message>
 </context>
 <context>
@@ -9987,159 +9991,159 @@ La diapositiva &quot;%1&quot;: %2.
     <name>Inspecting</name>
     <message>
         <source>%1: what is mended is not written over the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ciò che è riparato non si scrive sopra il disegno</translation>
     </message>
     <message>
         <source>not read</source>
-        <translation type="unfinished"></translation>
+        <translation>non letto</translation>
     </message>
     <message>
         <source>sound</source>
-        <translation type="unfinished"></translation>
+        <translation>integro</translation>
     </message>
     <message>
         <source>faults: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>difetti: %1</translation>
     </message>
     <message>
         <source>, opens with --recover alone</source>
-        <translation type="unfinished"></translation>
+        <translation>, si apre solo con --recover</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished">e altri %1</translation>
+        <translation>e altri %1</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> e altri %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 byte</translation>
     </message>
     <message>
         <source>by %1</source>
-        <translation type="unfinished"></translation>
+        <translation>di %1</translation>
     </message>
     <message>
         <source>begun %1</source>
-        <translation type="unfinished"></translation>
+        <translation>iniziato %1</translation>
     </message>
     <message>
         <source>the file says %1</source>
-        <translation type="unfinished"></translation>
+        <translation>secondo il file %1</translation>
     </message>
     <message>
         <source>; %1 in blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>; %1 in blocchi</translation>
     </message>
     <message>
         <source> off</source>
-        <translation type="unfinished"></translation>
+        <translation> spento</translation>
     </message>
     <message>
         <source> frozen</source>
-        <translation type="unfinished"></translation>
+        <translation> congelato</translation>
     </message>
     <message>
         <source> locked</source>
-        <translation type="unfinished"></translation>
+        <translation> bloccato</translation>
     </message>
     <message>
         <source> (not found: %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (non trovato: %1)</translation>
     </message>
     <message>
         <source> (not found)</source>
-        <translation type="unfinished"></translation>
+        <translation> (non trovato)</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">nessuno</translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>, %1 records without</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 record senza</translation>
     </message>
     <message>
         <source>, %1 twice</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 doppi</translation>
     </message>
     <message>
         <source>, the next one (%1) is taken</source>
-        <translation type="unfinished"></translation>
+        <translation>, il prossimo (%1) è occupato</translation>
     </message>
     <message>
         <source>format</source>
-        <translation type="unfinished"></translation>
+        <translation>formato</translation>
     </message>
     <message>
         <source>title</source>
-        <translation type="unfinished"></translation>
+        <translation>titolo</translation>
     </message>
     <message>
         <source>author</source>
-        <translation type="unfinished"></translation>
+        <translation>autore</translation>
     </message>
     <message>
         <source>saved</source>
-        <translation type="unfinished"></translation>
+        <translation>salvato</translation>
     </message>
     <message>
         <source>units</source>
-        <translation type="unfinished"></translation>
+        <translation>unità</translation>
     </message>
     <message>
         <source>extents</source>
-        <translation type="unfinished"></translation>
+        <translation>estensione</translation>
     </message>
     <message>
         <source>entities</source>
-        <translation type="unfinished"></translation>
+        <translation>entità</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished">layer</translation>
+        <translation>layer</translation>
     </message>
     <message>
         <source>blocks</source>
-        <translation type="unfinished">blocchi</translation>
+        <translation>blocchi</translation>
     </message>
     <message>
         <source>layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>layout</translation>
     </message>
     <message>
         <source>text styles</source>
-        <translation type="unfinished">stili di testo</translation>
+        <translation>stili di testo</translation>
     </message>
     <message>
         <source>fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>font</translation>
     </message>
     <message>
         <source>linetypes</source>
-        <translation type="unfinished">tipi di linea</translation>
+        <translation>tipi di linea</translation>
     </message>
     <message>
         <source>dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>quote</translation>
     </message>
     <message>
         <source>files</source>
-        <translation type="unfinished"></translation>
+        <translation>file</translation>
     </message>
     <message>
         <source>classes</source>
-        <translation type="unfinished"></translation>
+        <translation>classi</translation>
     </message>
     <message>
         <source>proxies</source>
-        <translation type="unfinished"></translation>
+        <translation>proxy</translation>
     </message>
     <message>
         <source>handles</source>
-        <translation type="unfinished"></translation>
+        <translation>identificatori</translation>
     </message>
 </context>
 <context>
@@ -13495,15 +13499,15 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Disegno</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished">Standard</translation>
+        <translation>Standard</translation>
     </message>
 </context>
 <context>
@@ -15197,339 +15201,339 @@ Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i pr
     </message>
     <message>
         <source>%1 asks for points or entities: play a recorded session with ortakit run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chiede punti o entità: riprodurre una sessione registrata con ortakit run</translation>
     </message>
     <message>
         <source>%1 needs a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha bisogno di un disegno</translation>
     </message>
     <message>
         <source>--out and --in-place do not go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--out e --in-place non vanno insieme</translation>
     </message>
     <message>
         <source>%1 changes drawings: say where they go, --out DIR or --in-place</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 modifica i disegni: dire dove vanno, --out DIR o --in-place</translation>
     </message>
     <message>
         <source>%1 works on no selection</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non lavora su nessuna selezione</translation>
     </message>
     <message>
         <source>of several drawings each has its own file: put {name} into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>di più disegni ciascuno ha il proprio file: mettere {name} in %1</translation>
     </message>
     <message>
         <source>%1 needs a file to write: --set %2=PATH</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha bisogno di un file da scrivere: --set %2=PATH</translation>
     </message>
     <message>
         <source>%1 has no button %2%3; it has %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha il pulsante %2%3; ha %4</translation>
     </message>
     <message>
         <source>%1 has no key %2%3; it has %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha la chiave %2%3; ha %4</translation>
     </message>
     <message>
         <source>the file to write; {name} stands for the drawing&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>il file da scrivere; {name} sta per il nome del disegno</translation>
     </message>
     <message>
         <source>the file to read</source>
-        <translation type="unfinished"></translation>
+        <translation>il file da leggere</translation>
     </message>
     <message>
         <source>yes or no</source>
-        <translation type="unfinished"></translation>
+        <translation>sì o no</translation>
     </message>
     <message>
         <source>yes or no, one of its group</source>
-        <translation type="unfinished"></translation>
+        <translation>sì o no, uno del suo gruppo</translation>
     </message>
     <message>
         <source>one of a list</source>
-        <translation type="unfinished"></translation>
+        <translation>uno di un elenco</translation>
     </message>
     <message>
         <source>one of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>uno di: %1</translation>
     </message>
     <message>
         <source>a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un numero da %1 a %2</translation>
     </message>
     <message>
         <source>a number, %1 or more</source>
-        <translation type="unfinished"></translation>
+        <translation>un numero, %1 o più</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished">un numero</translation>
+        <translation>un numero</translation>
     </message>
     <message>
         <source>a colour&apos;s number, 0 to 256</source>
-        <translation type="unfinished"></translation>
+        <translation>il numero di un colore, da 0 a 256</translation>
     </message>
     <message>
         <source>rows by the texts of their first column with ^ between; * for all</source>
-        <translation type="unfinished"></translation>
+        <translation>righe secondo i testi della loro prima colonna con ^ in mezzo; * per tutte</translation>
     </message>
     <message>
         <source>a file or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>un file o una cartella</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished">un testo</translation>
+        <translation>un testo</translation>
     </message>
     <message>
         <source> (default: %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (predefinito: %1)</translation>
     </message>
     <message>
         <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--select accetta all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] o una lista di filtro, non «%1»</translation>
     </message>
     <message>
         <source>makes one paragraph of single-line texts</source>
-        <translation type="unfinished"></translation>
+        <translation>fa un paragrafo di testi di una riga</translation>
     </message>
     <message>
         <source>writes texts in capitals, small letters or as titles</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive i testi in maiuscole, in minuscole o come titoli</translation>
     </message>
     <message>
         <source>writes texts of attributes to a table in a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive i testi degli attributi in una tabella in un file di testo</translation>
     </message>
     <message>
         <source>counts the blocks of the drawing, for a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>conta i blocchi del disegno, per un file di testo</translation>
     </message>
     <message>
         <source>With --press exporttable the table is drawn instead; its upper left corner and the height of its texts are answers: --answer 0,0 --answer 2.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --press exporttable si disegna invece la tabella; il suo angolo superiore sinistro e l&apos;altezza dei suoi testi sono risposte: --answer 0,0 --answer 2.5</translation>
     </message>
     <message>
         <source>takes texts of attributes from a table in a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>prende i testi degli attributi da una tabella in un file di testo</translation>
     </message>
     <message>
         <source>All rows of the table are taken unless attributes names some. With --press btreplace, txreplace takes the place of txsearch in them first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si prendono tutte le righe della tabella, se attributes non ne nomina alcune. Con --press btreplace, prima txreplace prende in esse il posto di txsearch.</translation>
     </message>
     <message>
         <source>writes numbers into texts in the order of their places</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive numeri nei testi nell&apos;ordine delle loro posizioni</translation>
     </message>
     <message>
         <source>For the orders by points the points are answers: --answer 0,0</source>
-        <translation type="unfinished"></translation>
+        <translation>Per gli ordini per punti, i punti sono risposte: --answer 0,0</translation>
     </message>
     <message>
         <source>replaces references to blocks by another block of the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>sostituisce riferimenti a blocchi con un altro blocco del disegno</translation>
     </message>
     <message>
         <source>replaces references to blocks by a drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>sostituisce riferimenti a blocchi con un file di disegno</translation>
     </message>
     <message>
         <source>directory is the folder of the file, blockstablerep its name there.</source>
-        <translation type="unfinished"></translation>
+        <translation>directory è la cartella del file, blockstablerep il suo nome in essa.</translation>
     </message>
     <message>
         <source>draws slots, rectangles or circles around texts</source>
-        <translation type="unfinished"></translation>
+        <translation>disegna asole, rettangoli o cerchi intorno ai testi</translation>
     </message>
     <message>
         <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>I testi che hanno una cornice ne ricevono un&apos;altra al suo posto; --answer No li lascia come sono.</translation>
     </message>
     <message>
         <source>hides what lies behind texts</source>
-        <translation type="unfinished"></translation>
+        <translation>nasconde ciò che sta dietro i testi</translation>
     </message>
     <message>
         <source>writes dimension styles of the drawing to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive gli stili di quota del disegno in un file</translation>
     </message>
     <message>
         <source>All styles are written unless lststyles names some.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si scrivono tutti gli stili, se lststyles non ne nomina alcuni.</translation>
     </message>
     <message>
         <source>brings dimension styles from a file into the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>porta nel disegno gli stili di quota di un file</translation>
     </message>
     <message>
         <source>All styles of the file are taken unless lststyles names some, by the first words of their names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si prendono tutti gli stili del file, se lststyles non ne nomina alcuni, secondo le prime parole dei loro nomi.</translation>
     </message>
     <message>
         <source>puts entities over each other in the order of their colours</source>
-        <translation type="unfinished"></translation>
+        <translation>sovrappone le entità nell&apos;ordine dei loro colori</translation>
     </message>
     <message>
         <source>Steps are taken in the order in which they are given: --set lstcolors=&quot;5 Blue&quot; --press tofront puts blue on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>I passi si fanno nell&apos;ordine in cui sono dati: --set lstcolors=&quot;5 Blue&quot; --press tofront mette il blu sopra.</translation>
     </message>
     <message>
         <source>writes a problem report with what the program and the drawing are</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive un rapporto sui problemi con ciò che sono il programma e il disegno</translation>
     </message>
     <message>
         <source>writes system variables to a script that sets them again</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive variabili di sistema in uno script che le reimposta</translation>
     </message>
     <message>
         <source>changes the paths of references, images, fonts and remote texts</source>
-        <translation type="unfinished"></translation>
+        <translation>cambia i percorsi di riferimenti, immagini, font e testi remoti</translation>
     </message>
     <message>
         <source>All paths are meant unless lstfiles names some. --press btreplace puts txreplace in the place of txsearch in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si intendono tutti i percorsi, se lstfiles non ne nomina alcuni. --press btreplace vi mette txreplace al posto di txsearch.</translation>
     </message>
     <message>
         <source>changes and removes hyperlinks of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>modifica e rimuove collegamenti ipertestuali di entità</translation>
     </message>
     <message>
         <source>All links are meant unless tableurl names some, by their handles. --press btnreplace puts txreplace in the place of txsearch in them, --press btnremoveurl takes them away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si intendono tutti i collegamenti, se tableurl non ne nomina alcuni, secondo i loro identificatori. --press btnreplace vi mette txreplace al posto di txsearch, --press btnremoveurl li rimuove.</translation>
     </message>
     <message>
         <source>cuts a line open and draws a break symbol in the gap</source>
-        <translation type="unfinished"></translation>
+        <translation>apre una linea e disegna un simbolo di interruzione nello spazio</translation>
     </message>
     <message>
         <source>edits the short names that are typed in place of commands</source>
-        <translation type="unfinished"></translation>
+        <translation>modifica i nomi brevi che si digitano al posto dei comandi</translation>
     </message>
     <message>
         <source>shows the functions of Lisp files</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra le funzioni di file Lisp</translation>
     </message>
     <message>
         <source>makes a linetype of a drawn pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>crea un tipo di linea da un motivo disegnato</translation>
     </message>
     <message>
         <source>makes a shape of drawn lines and arcs</source>
-        <translation type="unfinished"></translation>
+        <translation>crea una forma da linee e archi disegnati</translation>
     </message>
     <message>
         <source>makes one drawing of the sheets of several</source>
-        <translation type="unfinished"></translation>
+        <translation>fa un disegno dei fogli di più disegni</translation>
     </message>
     <message>
         <source>sets up a sheet: title block, viewports, alignment and scale</source>
-        <translation type="unfinished"></translation>
+        <translation>prepara un foglio: cartiglio, finestre, allineamento e scala</translation>
     </message>
     <message>
         <source>fills a closed area with copies of a pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>riempie un&apos;area chiusa con copie di un motivo</translation>
     </message>
     <message>
         <source>inserts a block of the drawing or of another drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>inserisce un blocco del disegno o di un altro file di disegno</translation>
     </message>
     <message>
         <source>shows and sets the time that was worked on drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>mostra e imposta il tempo di lavoro sui disegni</translation>
     </message>
     <message>
         <source>--to and --out go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--to e --out vanno insieme</translation>
     </message>
     <message>
         <source>convert needs drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>convert ha bisogno di disegni</translation>
     </message>
     <message>
         <source>-j goes with --to and --out</source>
-        <translation type="unfinished"></translation>
+        <translation>-j va con --to e --out</translation>
     </message>
     <message>
         <source>Many drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Molti disegni</translation>
     </message>
     <message>
         <source>With --to and --out all words are drawings, and each becomes a file of its name in the folder. What became of them is told on standard output, a line each. The time limit is that of each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --to e --out tutte le parole sono disegni, e ciascuno diventa un file del suo nome nella cartella. Che cosa ne è stato si dice sull&apos;uscita standard, una riga ciascuno. Il limite di tempo vale per ciascuno.</translation>
     </message>
     <message>
         <source>what they become</source>
-        <translation type="unfinished"></translation>
+        <translation>che cosa diventano</translation>
     </message>
     <message>
         <source>where they go</source>
-        <translation type="unfinished"></translation>
+        <translation>dove vanno</translation>
     </message>
     <message>
         <source>print one line of JSON: of each drawing file, status, messages and out; of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
-        <translation type="unfinished"></translation>
+        <translation>stampare una riga di JSON: di ogni disegno file, status, messages e out; delle immagini complete, drawn, invisible, inPart e notDrawn (un numero per tipo) e cutShort; con --layout tutto ciò per ciascuna delle pagine, con layout e output; con --recover lo stesso di ciò che è stato tralasciato, riparato e aggiunto</translation>
     </message>
     <message>
         <source>there is nothing called %1 to ignore%2</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nulla di nome %1 da ignorare%2</translation>
     </message>
     <message>
         <source>diff needs two drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>diff ha bisogno di due disegni</translation>
     </message>
     <message>
         <source>take numbers and coordinates for the same that are no farther apart</source>
-        <translation type="unfinished"></translation>
+        <translation>prendere per uguali numeri e coordinate che non distano di più</translation>
     </message>
     <message>
         <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
-        <translation type="unfinished"></translation>
+        <translation>che cosa inoltre non conta, separato da virgole: version, view, header, classes, objects, xdata, order. times, handles, identity, extents e reactors non contano comunque; «none» davanti li fa contare</translation>
     </message>
     <message>
         <source>what makes entities the same one: their handles, or what is in them</source>
-        <translation type="unfinished"></translation>
+        <translation>che cosa rende le entità la stessa: i loro identificatori o ciò che contengono</translation>
     </message>
     <message>
         <source>auto: by handle, unless far more entities are the same by content</source>
-        <translation type="unfinished"></translation>
+        <translation>auto: per identificatore, a meno che molte più entità siano le stesse per contenuto</translation>
     </message>
     <message>
         <source>tell the sums alone</source>
-        <translation type="unfinished"></translation>
+        <translation>dire solo le somme</translation>
     </message>
     <message>
         <source>draw both over each other into a png, svg or pdf file: what is gone red and dashed, what is new green and thick, what has changed orange and dashed as it was, blue and thick as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>disegnare entrambi uno sull&apos;altro in un file png, svg o pdf: ciò che non c&apos;è più in rosso e tratteggiato, ciò che è nuovo in verde e spesso, ciò che è cambiato in arancione e tratteggiato come era, in blu e spesso come è</translation>
     </message>
     <message>
         <source>which sheet the picture shows; without it, model space</source>
-        <translation type="unfinished"></translation>
+        <translation>quale foglio mostra l&apos;immagine; senza, lo spazio modello</translation>
     </message>
     <message>
         <source>write the picture although another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivere l&apos;immagine anche se un altro programma l&apos;ha aperta</translation>
     </message>
     <message>
         <source>the most it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>il massimo che può impiegare</translation>
     </message>
     <message>
         <source>print the differences as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>stampare le differenze come una riga di JSON</translation>
     </message>
     <message>
         <source>tells what differs in two drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>dice in che cosa differiscono due disegni</translation>
     </message>
     <message>
         <source>a drawing as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno come era</translation>
     </message>
     <message>
         <source>the drawing as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno come è</translation>
     </message>
     <message>
         <source>Prints a line for each variable, layer, style, block, entity and object that differs: + for what B has alone, - for what A has alone, ~ for what has other values in B, with these. Sums stand behind =, by type and by layer. The files&apos; forms and versions do not matter, nor how numbers are spelt.
@@ -15537,153 +15541,159 @@ Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i pr
 Ends with status 0 when nothing differs, 1 when something does, 2 and more when it could not be found out.
 
 With the seven words that git hands to a program for differences it compares these two files and ends with 0 either way: git config diff.dxf.command &quot;ortakit diff&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa una riga per ogni variabile, layer, stile, blocco, entità e oggetto che differisce: + per ciò che ha solo B, - per ciò che ha solo A, ~ per ciò che in B ha altri valori, con questi. Le somme stanno dopo =, per tipo e per layer. Non contano forme e versioni dei file, né come sono scritti i numeri.
+
+Termina con lo stato 0 quando nulla differisce, 1 quando qualcosa differisce, 2 e più quando non è stato possibile stabilirlo.
+
+Con le sette parole che git passa a un programma per le differenze confronta questi due file e termina con 0 in ogni caso: git config diff.dxf.command &quot;ortakit diff&quot;.</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Esempio:</translation>
     </message>
     <message>
         <source>%1 needs at least one drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha bisogno di almeno un disegno</translation>
     </message>
     <message>
         <source>a drawing to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno da guardare</translation>
     </message>
     <message>
         <source>--entities goes neither with --json nor with -j</source>
-        <translation type="unfinished"></translation>
+        <translation>--entities non va né con --json né con -j</translation>
     </message>
     <message>
         <source>--fix and --out go together</source>
-        <translation type="unfinished"></translation>
+        <translation>--fix e --out vanno insieme</translation>
     </message>
     <message>
         <source>tells what is wrong with drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>dice che cosa non va nei disegni</translation>
     </message>
     <message>
         <source>Looks for all that opening with --recover would mend, add or drop, and the command AUDIT would find, and changes nothing. A hundred faults of a drawing are told; with --json all are.
 
 Ends with status 0 when all drawings are sound or were mended, 1 when faults were found, 4 when files could not be read or written, 3 when that is so for some of several.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca tutto ciò che l&apos;apertura con --recover riparerebbe, aggiungerebbe o tralascerebbe e ciò che troverebbe il comando AUDIT, e non cambia nulla. Si dicono cento difetti di un disegno; con --json tutti.
+
+Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati, 1 quando sono stati trovati difetti, 4 quando non è stato possibile leggere o scrivere file, 3 quando è così per alcuni di più disegni.</translation>
     </message>
     <message>
         <source>write the drawings with what was found mended, sound ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivere i disegni con riparato ciò che è stato trovato, anche quelli integri</translation>
     </message>
     <message>
         <source>the folder to write them into, under their names</source>
-        <translation type="unfinished"></translation>
+        <translation>la cartella in cui scriverli, con i loro nomi</translation>
     </message>
     <message>
         <source>write files although another program has them open</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivere i file anche se un altro programma li ha aperti</translation>
     </message>
     <message>
         <source>the most that each drawing may take</source>
-        <translation type="unfinished"></translation>
+        <translation>il massimo che ogni disegno può impiegare</translation>
     </message>
     <message>
         <source>print one line of JSON: for each drawing opens, faults and found, as convert has it for --recover, and out</source>
-        <translation type="unfinished"></translation>
+        <translation>stampare una riga di JSON: per ogni disegno opens, faults e found, come li ha convert per --recover, e out</translation>
     </message>
     <message>
         <source>tells what drawings are and hold</source>
-        <translation type="unfinished"></translation>
+        <translation>dice che cosa sono e contengono i disegni</translation>
     </message>
     <message>
         <source>Tells of each drawing its version and form, who saved it when, units, extents as the file says and as measured, how many entities of which type, layers, blocks, layouts with their paper, styles, the files and fonts that it names and whether they are found, and the state of its handles. Lists longer than twelve names are cut short; with --json they are whole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice di ogni disegno versione e forma, chi lo ha salvato e quando, unità, estensione secondo il file e misurata, quante entità di quale tipo, layer, blocchi, layout con la loro carta, stili, i file e i font che nomina e se si trovano, e lo stato dei suoi identificatori. Gli elenchi più lunghi di dodici nomi sono abbreviati; con --json sono interi.</translation>
     </message>
     <message>
         <source>print in place of that a line for each variable, table entry, block, entity and object, in the file&apos;s order, with all its values: git config diff.dxf.textconv &quot;ortakit info --entities&quot; shows differences of these</source>
-        <translation type="unfinished"></translation>
+        <translation>stampare invece una riga per ogni variabile, voce di tabella, blocco, entità e oggetto, nell&apos;ordine del file, con tutti i suoi valori: git config diff.dxf.textconv &quot;ortakit info --entities&quot; ne mostra le differenze</translation>
     </message>
     <message>
         <source>print all of it as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>stampare tutto come una riga di JSON</translation>
     </message>
     <message>
         <source>Kinds of findings</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipi di rilievi</translation>
     </message>
     <message>
         <source>uses takes man DIR, completions DIR or document</source>
-        <translation type="unfinished"></translation>
+        <translation>uses si chiama con «man DIR», «completions DIR» o «document»</translation>
     </message>
     <message>
         <source>writes manual pages, completions and a document about the commands</source>
-        <translation type="unfinished"></translation>
+        <translation>scrive pagine di manuale, completamenti e un documento sui comandi</translation>
     </message>
     <message>
         <source>Writes ortakit(1) and a page for each command to a folder, the completions of bash, zsh and fish to their places below a folder, or the sections of docs/cli.md to standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive ortakit(1) e una pagina per comando in una cartella, i completamenti di bash, zsh e fish ai loro posti sotto una cartella, o le sezioni di docs/cli.md sull&apos;uscita standard.</translation>
     </message>
     <message>
         <source>tell what became of each drawing as one line of JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>dire che cosa è stato di ogni disegno come una riga di JSON</translation>
     </message>
     <message>
         <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--set accetta KEY=VALUE, non «%1»</translation>
     </message>
     <message>
         <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
-        <translation type="unfinished"></translation>
+        <translation>su che cosa lavora: all o tipi di entità come TEXT,MTEXT, seguiti da «on layer PATTERN», «of block PATTERN», «in style PATTERN» e «in color NUMBER», o una lista di filtro come la accetta ssget: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Ciò che lo strumento non può usare si tralascia</translation>
     </message>
     <message>
         <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>
-        <translation type="unfinished"></translation>
+        <translation>mettere il valore in un campo della finestra di dialogo; si può ripetere. {name} sta per il nome del disegno senza cartella ed estensione</translation>
     </message>
     <message>
         <source>begin with the values of a state file that the dialog saved</source>
-        <translation type="unfinished"></translation>
+        <translation>iniziare con i valori di un file di stato salvato dalla finestra di dialogo</translation>
     </message>
     <message>
         <source>press a button of the dialog behind the values that were set before; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>premere un pulsante della finestra di dialogo dopo i valori impostati prima; si può ripetere</translation>
     </message>
     <message>
         <source>answer the next prompt with this: a keyword, a number, a point as 10,20; may be given again</source>
-        <translation type="unfinished"></translation>
+        <translation>rispondere così alla prossima domanda: una parola chiave, un numero, un punto come 10,20; si può ripetere</translation>
     </message>
     <message>
         <source>write each drawing there, under its own name</source>
-        <translation type="unfinished"></translation>
+        <translation>scrivere là ogni disegno, con il proprio nome</translation>
     </message>
     <message>
         <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
-        <translation type="unfinished"></translation>
+        <translation>salvare al suo posto ogni disegno modificato, con una copia del vecchio dove SETBACKUPFOLDER ha nominato una cartella per questo</translation>
     </message>
     <message>
         <source>the most it may take with one drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il massimo che può impiegare con un disegno</translation>
     </message>
     <message>
         <source>This tool asks for points or entities of the drawing, or works on none: it is for the window, and for recorded sessions, which ortakit run plays over drawings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo strumento chiede punti o entità del disegno, o non lavora su nessuno: è per la finestra e per le sessioni registrate, che ortakit run riproduce sui disegni.</translation>
     </message>
     <message>
         <source>Runs the tool over each drawing with its dialog filled in as --set says, and tells what it did. All of the dialog&apos;s checks hold, and what it complains about is an error of that drawing. Fields that are not set are as the dialog opens with them, whatever was chosen last. The drawings themselves stay as they are unless --in-place is given. It works in the space that is current in the drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passa lo strumento su ogni disegno con la sua finestra di dialogo compilata come dice --set, e dice che cosa ha fatto. Valgono tutti i controlli della finestra di dialogo, e ciò di cui si lamenta è un errore di quel disegno. I campi che non si impostano sono come la finestra di dialogo si apre con essi, qualunque cosa sia stata scelta per ultima. I disegni stessi restano come sono, se non è dato --in-place. Lavora nello spazio corrente del disegno.</translation>
     </message>
     <message>
         <source>Keys of --set</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiavi di --set</translation>
     </message>
     <message>
         <source>what it works on</source>
-        <translation type="unfinished"></translation>
+        <translation>su che cosa lavora</translation>
     </message>
     <message>
         <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
-        <translation type="unfinished"></translation>
+        <translation>lavorare su tanti file insieme, ciascuno in un processo proprio, così che uno che si interrompe o impiega troppo sia un solo file non riuscito; ciò che si dice e il suo ordine sono gli stessi per ogni N</translation>
     </message>
     <message>
         <source>one process for all</source>
-        <translation type="unfinished"></translation>
+        <translation>un processo per tutti</translation>
     </message>
 </context>
 <context>
@@ -15835,47 +15845,47 @@ Nessun disegno è aperto.
     <name>host::app::HelpWindow</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished">Guida</translation>
+        <translation>Guida</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Cerca</translation>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished">Contenuto</translation>
+        <translation>Sommario</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Trovati</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Indietro</translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanti</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Indice</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Più grande</translation>
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Più piccolo</translation>
     </message>
     <message>
         <source>Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa...</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato trovato nulla.</translation>
     </message>
 </context>
 <context>
@@ -16248,8 +16258,8 @@ Recuperato com&apos;era il %1. Non è nel suo file finché non viene salvato.
         <source>
 This link of the help page is not followed: %1
 </source>
-        <translation type="unfinished">
-Questo collegamento della pagina della guida non viene seguito: %1
+        <translation>
+Questo collegamento della pagina di guida non viene seguito: %1
 </translation>
     </message>
 </context>
@@ -17126,27 +17136,27 @@ Questo collegamento della pagina della guida non viene seguito: %1
     <name>host::view::DifferencePicture</name>
     <message>
         <source>gone: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>non ci sono più: %n</translation>
     </message>
     <message>
         <source>new: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>nuove: %n</translation>
     </message>
     <message>
         <source>changed, as it was: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>modificate, come erano: %n</translation>
     </message>
     <message>
         <source>changed, as it is: %n</source>
-        <translation type="unfinished"></translation>
+        <translation>modificate, come sono: %n</translation>
     </message>
     <message>
         <source>the same in both</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stesso in entrambi</translation>
     </message>
     <message>
         <source>the picture is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;immagine è troppo grande</translation>
     </message>
 </context>
 <context>
