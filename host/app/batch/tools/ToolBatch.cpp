@@ -66,6 +66,7 @@ private:
     QString keepApart(kernel::Document &document) const;
     QString writeState(const QString &path) const;
     QString select(kernel::Document &document) const;
+    QString missingFile(const QList<ToolStep> &steps) const;
     QList<ToolStep> stepsFor(const QString &path) const;
     std::chrono::milliseconds timeLimit() const { return m_options.timeLimit.value_or(usualLimit); }
 
@@ -298,6 +299,15 @@ QString ToolBatch::select(kernel::Document &document) const
     return document.run(u"(sssetfirst nil (ssget \"_A\" '%1))"_s.arg(m_selection.filter), u"--select"_s).error;
 }
 
+/// A dialog shows nothing of a file that is not there, and says nothing either.
+QString ToolBatch::missingFile(const QList<ToolStep> &steps) const
+{
+    for (const ToolStep &step : steps)
+        if (step.kind == Kind::Set && m_tool.hasPath(step.key) && !QFileInfo::exists(step.value))
+            return QCoreApplication::translate("Batch", "%1: there is no file %2").arg(step.key, native(step.value));
+    return {};
+}
+
 kernel::RunResult ToolBatch::runCommand(kernel::Document &document, ToolDriver &driver)
 {
     kernel::Session &session = document.session();
@@ -345,7 +355,9 @@ void ToolBatch::workOn(kernel::Document &document, const QString &path, FileResu
     QString printed;
     const QMetaObject::Connection heard = QObject::connect(&document, &kernel::Document::printed, &document,
                                                            [&](const QString &text) { printed += text; });
-    QString error = keepApart(document);
+    QString error = missingFile(steps);
+    if (error.isEmpty())
+        error = keepApart(document);
     if (error.isEmpty())
         error = select(document);
     if (error.isEmpty()) {

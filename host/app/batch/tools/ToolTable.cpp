@@ -86,8 +86,9 @@ QList<ToolRow> contentTools()
                     "--set blockstablerep=door.dwg --out changed"},
         {.name = "textframe",
          .purpose = QT_TRANSLATE_NOOP("Uses", "draws slots, rectangles or circles around texts"),
-         .notes = QT_TRANSLATE_NOOP("Uses", "Texts that have a frame get another one in its place; --answer No leaves "
-                                            "them alone."),
+         .notes = QT_TRANSLATE_NOOP("Uses",
+                                    "Texts that have a frame get a new one in its place; with --answer No the old one "
+                                    "stays as well."),
          .dialog = "Dlg_QT_TextFrame",
          .accept = "acceptButton",
          .selects = true,
