@@ -1,7 +1,9 @@
 #include "host/app/batch/BatchWork.h"
 
+#include "files/qt/VisibleText.h"
 #include "host/app/batch/UnattendedFeeder.h"
 #include "host/app/workbench/ProgramOutput.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -39,6 +41,21 @@ void closeAll(Workbench &workbench)
     kernel::DocumentManager &documents = workbench.documents();
     while (documents.active() && documents.close(documents.documents().back().get()))
         continue;
+}
+
+drawing::ReadableFiles readableFor(const ProgramOptions &options)
+{
+    drawing::ReadableFiles readable;
+    for (const QString &folder : options.readableFolders)
+        readable.folders.append(QFileInfo(folder).absoluteFilePath());
+    readable.folders.append(kernel::Session::homeFolder(options.home) + u"/plotstyles"_s);
+    readable.refused = [told = std::make_shared<QSet<QString>>()](const QString &path, const QString &reason) {
+        if (told->contains(path))
+            return;
+        told->insert(path);
+        writeMessage(u"%1 was not read: %2"_s.arg(files::visibleText(native(path)), reason));
+    };
+    return readable;
 }
 
 QString native(const QString &path)

@@ -2,6 +2,7 @@
 
 #include "host/app/workbench/ProgramOptions.h"
 #include "host/app/workbench/Workbench.h"
+#include "host/drawing/references/NamedFiles.h"
 #include "host/kernel/documents/DocumentManager.h"
 #include "host/view/display/RenderReport.h"
 
@@ -23,6 +24,9 @@ int tellMissing(const QString &path, const view::RenderReport &report);
 
 /// Closes all drawings without saving, those that programs opened too.
 void closeAll(Workbench &workbench);
+
+/// What files drawings may name; what is refused is told once each.
+drawing::ReadableFiles readableFor(const ProgramOptions &options);
 
 /// A path as people write it on this system.
 QString native(const QString &path);

@@ -11,7 +11,6 @@
 #include "host/drawing/file/Recovery.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
-#include "host/kernel/documents/Session.h"
 #include "host/kernel/files/FileStamp.h"
 
 #include <QCoreApplication>
@@ -75,22 +74,6 @@ QJsonObject conversionReport(const ProgramOptions &options, const std::vector<Pi
     if (recovery)
         object.insert(u"recovered"_s, recoveryObject(*recovery));
     return object;
-}
-
-/// What is named outside is told once each.
-drawing::ReadableFiles readableFor(const ProgramOptions &options)
-{
-    drawing::ReadableFiles readable;
-    for (const QString &folder : options.readableFolders)
-        readable.folders.append(QFileInfo(folder).absoluteFilePath());
-    readable.folders.append(kernel::Session::homeFolder(options.home) + u"/plotstyles"_s);
-    readable.refused = [told = std::make_shared<QSet<QString>>()](const QString &path, const QString &reason) {
-        if (told->contains(path))
-            return;
-        told->insert(path);
-        writeMessage(u"%1 was not read: %2"_s.arg(files::visibleText(native(path)), reason));
-    };
-    return readable;
 }
 
 /// In the form that was asked for, whatever the input's is. Returns why not; empty when it was written.

@@ -69,6 +69,7 @@ UseRow auditUse()
                     .apply = takeText<&ProgramOptions::outFolder>,
                     .kind = ValueKind::Folder},
                    forceOption(QT_TRANSLATE_NOOP("Uses", "write files although another program has them open")),
+                   jobsOption(),
                    timeLimitOption(QT_TRANSLATE_NOOP("Uses", "the most that each drawing may take"),
                                    QT_TRANSLATE_NOOP("Uses", "no limit")),
                    jsonOption(QT_TRANSLATE_NOOP(

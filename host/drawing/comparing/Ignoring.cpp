@@ -1,7 +1,5 @@
 #include "host/drawing/comparing/Ignoring.h"
 
-#include <QtGlobal>
-
 #include <algorithm>
 
 namespace host::drawing {
@@ -9,24 +7,10 @@ namespace host::drawing {
 namespace {
 
 constexpr IgnorableKind kindRows[] = {
-    {"times", Ignored::Times, true, QT_TRANSLATE_NOOP("Comparing", "dates and editing time: $TD...")},
-    {"handles", Ignored::Handles, true, QT_TRANSLATE_NOOP("Comparing", "the next free handle: $HANDSEED")},
-    {"identity", Ignored::Identity, true,
-     QT_TRANSLATE_NOOP("Comparing", "names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...")},
-    {"extents", Ignored::Extents, true,
-     QT_TRANSLATE_NOOP("Comparing", "extents, which follow from the entities: $EXTMIN, ...")},
-    {"reactors", Ignored::Reactors, true,
-     QT_TRANSLATE_NOOP("Comparing", "who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS")},
-    {"version", Ignored::Version, false,
-     QT_TRANSLATE_NOOP("Comparing", "version and code page: $ACADVER, $DWGCODEPAGE")},
-    {"view", Ignored::View, false,
-     QT_TRANSLATE_NOOP("Comparing", "what windows showed last: the VPORT table, $VIEWCTR, ...")},
-    {"header", Ignored::Header, false, QT_TRANSLATE_NOOP("Comparing", "all variables of the header")},
-    {"classes", Ignored::Classes, false, QT_TRANSLATE_NOOP("Comparing", "the classes section")},
-    {"objects", Ignored::Objects, false,
-     QT_TRANSLATE_NOOP("Comparing", "all that is not drawn: dictionaries, layouts, ...")},
-    {"xdata", Ignored::Xdata, false, QT_TRANSLATE_NOOP("Comparing", "extended data")},
-    {"order", Ignored::Order, false, QT_TRANSLATE_NOOP("Comparing", "which entity is drawn over which")},
+    {"times", Ignored::Times, true},      {"handles", Ignored::Handles, true},   {"identity", Ignored::Identity, true},
+    {"extents", Ignored::Extents, true},  {"reactors", Ignored::Reactors, true}, {"version", Ignored::Version, false},
+    {"view", Ignored::View, false},       {"header", Ignored::Header, false},    {"classes", Ignored::Classes, false},
+    {"objects", Ignored::Objects, false}, {"xdata", Ignored::Xdata, false},      {"order", Ignored::Order, false},
 };
 
 struct VariableKind

@@ -33,8 +33,7 @@ struct IgnorableKind
 {
     const char *name; ///< "times"
     Ignored kind;
-    bool isUsual;     ///< ignored where nobody says otherwise
-    const char *what; ///< in a few words, to be translated in "Comparing"
+    bool isUsual; ///< ignored where nobody says otherwise
 };
 
 /// All of them, the usual ones first.

@@ -58,24 +58,25 @@ void printText(const drawing::Comparison &comparison, const drawing::DifferenceT
     const QString after = isOfGit ? u"b/"_s + options.diff.changedPath : native(options.drawings[1]);
     QString lines = u"--- %1\n+++ %2\n"_s.arg(files::visibleText(before), files::visibleText(after));
     if (comparison.pairs.matching() == drawing::Matching::ByContent)
-        lines += u"= "_s + diffText("matched by content, not by handles") + u'\n';
+        lines += u"= "_s + diffText(QT_TRANSLATE_NOOP("Comparing", "matched by content, not by handles")) + u'\n';
     if (!options.diff.isBrief)
         for (const drawing::Difference &difference : comparison.differences)
             lines += text.line(difference) + u'\n';
     const drawing::Tallies tallies = drawing::tallied(comparison);
-    lines += diffText("= %1 added, %2 removed, %3 changed, %4 the same")
+    lines += diffText(QT_TRANSLATE_NOOP("Comparing", "= %1 added, %2 removed, %3 changed, %4 the same"))
                  .arg(tallies.all.added)
                  .arg(tallies.all.removed)
                  .arg(tallies.all.changed)
                  .arg(comparison.same) +
              u'\n';
-    lines += sumsOf(diffText("= by type:"), tallies.byType) + sumsOf(diffText("= by layer:"), tallies.byLayer);
+    lines += sumsOf(diffText(QT_TRANSLATE_NOOP("Comparing", "= by type:")), tallies.byType) +
+             sumsOf(diffText(QT_TRANSLATE_NOOP("Comparing", "= by layer:")), tallies.byLayer);
     writeResult(lines);
 }
 
 int drawPicture(const drawing::Comparison &comparison, const ProgramOptions &options)
 {
-    const drawing::ReadableFiles readable = readableToInspect(options);
+    const drawing::ReadableFiles readable = readableFor(options);
     const view::ExportResult written =
         view::exportDifferences(comparison, options.diff.picture,
                                 {.layout = options.diff.layout,
@@ -95,7 +96,8 @@ int refusePicture(const ProgramOptions &options)
     if (path.isEmpty())
         return ExitDone;
     if (!pictureExtensions().contains(QFileInfo(path).suffix().toLower())) {
-        writeMessage(diffText("%1: the extension must be %2").arg(native(path), pictureExtensions().join(", "_L1)));
+        writeMessage(diffText(QT_TRANSLATE_NOOP("Comparing", "%1: the extension must be %2"))
+                         .arg(native(path), pictureExtensions().join(", "_L1)));
         return ExitUsage;
     }
     if (const auto obstacle = kernel::obstacleToWriting(path, nullptr); obstacle && !options.isForced) {

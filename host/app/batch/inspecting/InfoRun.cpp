@@ -52,7 +52,7 @@ FileResult factsOf(const QString &path, const ProgramOptions &options)
     FileResult result{.file = path};
     const InputDrawing input = openToInspect(path, options);
     if (input.drawing) {
-        result.more = drawingFacts(*input.drawing, readableToInspect(options));
+        result.more = drawingFacts(*input.drawing, readableFor(options));
         if (input.recovery)
             result.more.insert(u"recovered"_s, recoveryObject(*input.recovery));
     } else {

@@ -3,7 +3,6 @@
 #include "host/app/workbench/ProgramOptions.h"
 #include "host/drawing/file/RecoveryReport.h"
 #include "host/drawing/records/Drawing.h"
-#include "host/drawing/references/NamedFiles.h"
 
 #include <memory>
 #include <optional>
@@ -21,8 +20,5 @@ struct InputDrawing
 /// Opens a drawing, with the option for it as far as it is sound: what was done then is told on standard error. What
 /// the drawing names is looked for beside it.
 InputDrawing openToInspect(const QString &path, const ProgramOptions &options);
-
-/// What files drawings may name; what is refused is told once each.
-drawing::ReadableFiles readableToInspect(const ProgramOptions &options);
 
 } // namespace host::app
