@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Keep original &amp;height</source>
-        <translation>C&amp;onservar altura</translation>
+        <translation>Conservar al&amp;tura</translation>
     </message>
     <message>
         <source>Ordering</source>
@@ -1560,7 +1560,7 @@
     </message>
     <message>
         <source>Ne&amp;w drawing:</source>
-        <translation>&amp;Dibujo nuevo:</translation>
+        <translation>Dibuj&amp;o nuevo:</translation>
     </message>
     <message>
         <source>Br&amp;owse...</source>

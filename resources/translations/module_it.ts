@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Keep original &amp;height</source>
-        <translation>&amp;Mantieni altezza</translation>
+        <translation>Mantieni alte&amp;zza</translation>
     </message>
     <message>
         <source>Ordering</source>
@@ -195,7 +195,7 @@
     </message>
     <message>
         <source>&amp;Highlight boundary entities</source>
-        <translation>Evi&amp;denzia entità del contorno</translation>
+        <translation>E&amp;videnzia entità del contorno</translation>
     </message>
     <message>
         <source>&amp;Extract from a hatch</source>
@@ -1128,7 +1128,7 @@
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Sfoglia...</translation>
+        <translation>Sfo&amp;glia...</translation>
     </message>
     <message>
         <source>Browse for location of exported file</source>
@@ -1223,11 +1223,11 @@
     </message>
     <message>
         <source>Lo&amp;ad</source>
-        <translation>Ca&amp;rica</translation>
+        <translation>C&amp;arica</translation>
     </message>
     <message>
         <source>&amp;Display as:</source>
-        <translation>Mostra com&amp;e:</translation>
+        <translation>&amp;Mostra come:</translation>
     </message>
     <message>
         <source>Filter the function content</source>
@@ -1235,7 +1235,7 @@
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation>&amp;Cerca:</translation>
+        <translation>C&amp;erca:</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1564,7 +1564,7 @@
     </message>
     <message>
         <source>Br&amp;owse...</source>
-        <translation>S&amp;foglia...</translation>
+        <translation>Sfogli&amp;a...</translation>
     </message>
     <message>
         <source>Favorites</source>
