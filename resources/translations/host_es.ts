@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>the dialog of %1 does not open</source>
-        <translation>el cuadro de diálogo de %1 no se abre</translation>
+        <translation>el diálogo de %1 no se abre</translation>
     </message>
     <message>
         <source>%1: the file cannot be read</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>the tool asks &quot;%1&quot;; see --answer</source>
-        <translation>la herramienta pregunta «%1»; véase --answer</translation>
+        <translation>la herramienta pregunta &quot;%1&quot;; véase --answer</translation>
     </message>
     <message>
         <source>the tool asks for a file; see --set %1=PATH</source>
@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>the dialog does not go on with these values</source>
-        <translation>el cuadro de diálogo no continúa con estos valores</translation>
+        <translation>el diálogo no continúa con estos valores</translation>
     </message>
     <message>
         <source>there is nothing to choose in %1</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>it does not take &quot;%1&quot;</source>
-        <translation>no acepta «%1»</translation>
+        <translation>no acepta &quot;%1&quot;</translation>
     </message>
     <message>
         <source>%1 has nothing to do</source>
@@ -10119,7 +10119,7 @@ La foto &quot;%1&quot;: %2.
     </message>
     <message>
         <source>fonts</source>
-        <translation>tipos de letra</translation>
+        <translation>fuentes</translation>
     </message>
     <message>
         <source>linetypes</source>
@@ -15289,11 +15289,11 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
     </message>
     <message>
         <source> (default: %1)</source>
-        <translation> (predeterminado: %1)</translation>
+        <translation> (por defecto: %1)</translation>
     </message>
     <message>
         <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
-        <translation>--select acepta all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] o una lista de filtro, no «%1»</translation>
+        <translation>--select acepta all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] o una lista de filtro, no &quot;%1&quot;</translation>
     </message>
     <message>
         <source>makes one paragraph of single-line texts</source>
@@ -15333,11 +15333,11 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
     </message>
     <message>
         <source>replaces references to blocks by another block of the drawing</source>
-        <translation>sustituye referencias a bloques por otro bloque del dibujo</translation>
+        <translation>reemplaza referencias a bloques por otro bloque del dibujo</translation>
     </message>
     <message>
         <source>replaces references to blocks by a drawing file</source>
-        <translation>sustituye referencias a bloques por un archivo de dibujo</translation>
+        <translation>reemplaza referencias a bloques por un archivo de dibujo</translation>
     </message>
     <message>
         <source>directory is the folder of the file, blockstablerep its name there.</source>
@@ -15389,7 +15389,7 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
     </message>
     <message>
         <source>changes the paths of references, images, fonts and remote texts</source>
-        <translation>cambia las rutas de referencias, imágenes, tipos de letra y textos remotos</translation>
+        <translation>cambia las rutas de referencias, imágenes, fuentes y textos remotos</translation>
     </message>
     <message>
         <source>All paths are meant unless lstfiles names some. --press btreplace puts txreplace in the place of txsearch in them.</source>
@@ -15401,7 +15401,7 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
     </message>
     <message>
         <source>All links are meant unless tableurl names some, by their handles. --press btnreplace puts txreplace in the place of txsearch in them, --press btnremoveurl takes them away.</source>
-        <translation>Se entienden todos los enlaces, salvo que tableurl nombre algunos, por sus identificadores. --press btnreplace pone en ellos txreplace en el lugar de txsearch, --press btnremoveurl los elimina.</translation>
+        <translation>Se entienden todos los vínculos, salvo que tableurl nombre algunos, por sus identificadores. --press btnreplace pone en ellos txreplace en el lugar de txsearch, --press btnremoveurl los elimina.</translation>
     </message>
     <message>
         <source>cuts a line open and draws a break symbol in the gap</source>
@@ -15489,7 +15489,7 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
     </message>
     <message>
         <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
-        <translation>lo que además no cuenta, separado por comas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents y reactors no cuentan de todos modos; «none» delante hace que cuenten</translation>
+        <translation>lo que además no cuenta, separado por comas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents y reactors no cuentan de todos modos; &quot;none&quot; delante hace que cuenten</translation>
     </message>
     <message>
         <source>what makes entities the same one: their handles, or what is in them</source>
@@ -15605,7 +15605,7 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     </message>
     <message>
         <source>Tells of each drawing its version and form, who saved it when, units, extents as the file says and as measured, how many entities of which type, layers, blocks, layouts with their paper, styles, the files and fonts that it names and whether they are found, and the state of its handles. Lists longer than twelve names are cut short; with --json they are whole.</source>
-        <translation>Dice de cada dibujo su versión y forma, quién lo guardó y cuándo, unidades, extensión según el archivo y según lo medido, cuántas entidades de qué tipo, capas, bloques, presentaciones con su papel, estilos, los archivos y tipos de letra que nombra y si se encuentran, y el estado de sus identificadores. Las listas de más de doce nombres se abrevian; con --json están completas.</translation>
+        <translation>Dice de cada dibujo su versión y forma, quién lo guardó y cuándo, unidades, extensión según el archivo y según lo medido, cuántas entidades de qué tipo, capas, bloques, presentaciones con su papel, estilos, los archivos y fuentes que nombra y si se encuentran, y el estado de sus identificadores. Las listas de más de doce nombres se abrevian; con --json están completas.</translation>
     </message>
     <message>
         <source>print in place of that a line for each variable, table entry, block, entity and object, in the file&apos;s order, with all its values: git config diff.dxf.textconv &quot;ortakit info --entities&quot; shows differences of these</source>
@@ -15621,7 +15621,7 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     </message>
     <message>
         <source>uses takes man DIR, completions DIR or document</source>
-        <translation>uses se llama con «man DIR», «completions DIR» o «document»</translation>
+        <translation>uses se llama con &quot;man DIR&quot;, &quot;completions DIR&quot; o &quot;document&quot;</translation>
     </message>
     <message>
         <source>writes manual pages, completions and a document about the commands</source>
@@ -15637,23 +15637,23 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     </message>
     <message>
         <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
-        <translation>--set acepta KEY=VALUE, no «%1»</translation>
+        <translation>--set acepta KEY=VALUE, no &quot;%1&quot;</translation>
     </message>
     <message>
         <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
-        <translation>con qué trabaja: all o tipos de entidades como TEXT,MTEXT, con «on layer PATTERN», «of block PATTERN», «in style PATTERN» e «in color NUMBER» detrás, o una lista de filtro como la toma ssget: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Lo que la herramienta no puede usar se omite</translation>
+        <translation>con qué trabaja: all o tipos de entidades como TEXT,MTEXT, con &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; e &quot;in color NUMBER&quot; detrás, o una lista de filtro como la toma ssget: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Lo que la herramienta no puede usar se omite</translation>
     </message>
     <message>
         <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>
-        <translation>poner el valor en un campo del cuadro de diálogo; se puede repetir. {name} representa el nombre del dibujo sin carpeta ni extensión</translation>
+        <translation>poner el valor en un campo del diálogo; se puede repetir. {name} representa el nombre del dibujo sin carpeta ni extensión</translation>
     </message>
     <message>
         <source>begin with the values of a state file that the dialog saved</source>
-        <translation>empezar con los valores de un archivo de estado que guardó el cuadro de diálogo</translation>
+        <translation>empezar con los valores de un archivo de estado que guardó el diálogo</translation>
     </message>
     <message>
         <source>press a button of the dialog behind the values that were set before; may be given again</source>
-        <translation>pulsar un botón del cuadro de diálogo después de los valores puestos antes; se puede repetir</translation>
+        <translation>pulsar un botón del diálogo después de los valores puestos antes; se puede repetir</translation>
     </message>
     <message>
         <source>answer the next prompt with this: a keyword, a number, a point as 10,20; may be given again</source>
@@ -15677,7 +15677,7 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     </message>
     <message>
         <source>Runs the tool over each drawing with its dialog filled in as --set says, and tells what it did. All of the dialog&apos;s checks hold, and what it complains about is an error of that drawing. Fields that are not set are as the dialog opens with them, whatever was chosen last. The drawings themselves stay as they are unless --in-place is given. It works in the space that is current in the drawing.</source>
-        <translation>Pasa la herramienta por cada dibujo con su cuadro de diálogo rellenado como dice --set, y dice lo que hizo. Valen todas las comprobaciones del cuadro de diálogo, y aquello de lo que se queja es un error de ese dibujo. Los campos que no se ponen están como el cuadro de diálogo se abre con ellos, se eligiera lo que se eligiera antes. Los propios dibujos quedan como están, salvo con --in-place. Trabaja en el espacio actual del dibujo.</translation>
+        <translation>Pasa la herramienta por cada dibujo con su diálogo rellenado como dice --set, y dice lo que hizo. Valen todas las comprobaciones del diálogo, y aquello de lo que se queja es un error de ese dibujo. Los campos que no se ponen están como el diálogo se abre con ellos, se eligiera lo que se eligiera antes. Los propios dibujos quedan como están, salvo con --in-place. Trabaja en el espacio actual del dibujo.</translation>
     </message>
     <message>
         <source>Keys of --set</source>

@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>the tool asks &quot;%1&quot;; see --answer</source>
-        <translation>lo strumento chiede «%1»; vedere --answer</translation>
+        <translation>lo strumento chiede &quot;%1&quot;; vedere --answer</translation>
     </message>
     <message>
         <source>the tool asks for a file; see --set %1=PATH</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>it does not take &quot;%1&quot;</source>
-        <translation>non accetta «%1»</translation>
+        <translation>non accetta &quot;%1&quot;</translation>
     </message>
     <message>
         <source>%1 has nothing to do</source>
@@ -15293,7 +15293,7 @@ Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i pr
     </message>
     <message>
         <source>--select takes all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER], or a filter list, not &quot;%1&quot;</source>
-        <translation>--select accetta all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] o una lista di filtro, non «%1»</translation>
+        <translation>--select accetta all, TYPES [on layer PATTERN] [of block PATTERN] [in style PATTERN] [in color NUMBER] o una lista di filtro, non &quot;%1&quot;</translation>
     </message>
     <message>
         <source>makes one paragraph of single-line texts</source>
@@ -15489,7 +15489,7 @@ Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i pr
     </message>
     <message>
         <source>what does not count in addition, separated by commas: version, view, header, classes, objects, xdata, order. times, handles, identity, extents and reactors do not count anyway; &quot;none&quot; in front counts them</source>
-        <translation>che cosa inoltre non conta, separato da virgole: version, view, header, classes, objects, xdata, order. times, handles, identity, extents e reactors non contano comunque; «none» davanti li fa contare</translation>
+        <translation>che cosa inoltre non conta, separato da virgole: version, view, header, classes, objects, xdata, order. times, handles, identity, extents e reactors non contano comunque; &quot;none&quot; davanti li fa contare</translation>
     </message>
     <message>
         <source>what makes entities the same one: their handles, or what is in them</source>
@@ -15621,7 +15621,7 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
     </message>
     <message>
         <source>uses takes man DIR, completions DIR or document</source>
-        <translation>uses si chiama con «man DIR», «completions DIR» o «document»</translation>
+        <translation>uses si chiama con &quot;man DIR&quot;, &quot;completions DIR&quot; o &quot;document&quot;</translation>
     </message>
     <message>
         <source>writes manual pages, completions and a document about the commands</source>
@@ -15637,11 +15637,11 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
     </message>
     <message>
         <source>--set takes KEY=VALUE, not &quot;%1&quot;</source>
-        <translation>--set accetta KEY=VALUE, non «%1»</translation>
+        <translation>--set accetta KEY=VALUE, non &quot;%1&quot;</translation>
     </message>
     <message>
         <source>what it works on: all, or types of entities as TEXT,MTEXT, with &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; and &quot;in color NUMBER&quot; behind, or a filter list as ssget takes it: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. What the tool cannot use is left out</source>
-        <translation>su che cosa lavora: all o tipi di entità come TEXT,MTEXT, seguiti da «on layer PATTERN», «of block PATTERN», «in style PATTERN» e «in color NUMBER», o una lista di filtro come la accetta ssget: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Ciò che lo strumento non può usare si tralascia</translation>
+        <translation>su che cosa lavora: all o tipi di entità come TEXT,MTEXT, seguiti da &quot;on layer PATTERN&quot;, &quot;of block PATTERN&quot;, &quot;in style PATTERN&quot; e &quot;in color NUMBER&quot;, o una lista di filtro come la accetta ssget: &apos;((0 . &quot;TEXT&quot;) (8 . &quot;NOTES&quot;))&apos;. Ciò che lo strumento non può usare si tralascia</translation>
     </message>
     <message>
         <source>put the value into a field of the dialog; may be given again. {name} stands for the name of the drawing without folder and extension</source>

@@ -2543,7 +2543,7 @@
     </message>
     <message>
         <source>Name;Track Active;EditTime (hr)</source>
-        <translation>Nombre;Cuenta activa;Tiempo de edición (h)</translation>
+        <translation>Nombre;Activo;Edición (h)</translation>
     </message>
     <message>
         <source>The changes have not been written yet. Do you want to discard them?</source>

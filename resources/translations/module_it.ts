@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
 </context>
 <context>
@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>A drawing of this version has neither images nor masks.</source>
@@ -374,7 +374,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Name;Type</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Drawing files (*.dwg *.dxf)</source>
@@ -612,7 +612,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>%1 (no color)</source>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Command;Alias</source>
@@ -794,7 +794,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Sentence</source>
@@ -916,7 +916,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Export information</source>
@@ -1081,7 +1081,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Select the file to import</source>
@@ -1164,7 +1164,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Select Dimension Style file</source>
@@ -1362,7 +1362,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Name;Description</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Number;Name</source>
@@ -1592,7 +1592,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>A sheet must have a name.</source>
@@ -1859,7 +1859,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Blocks</source>
@@ -1978,7 +1978,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Type;Name;Path</source>
@@ -2092,7 +2092,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>&quot;Block to be replaced&quot; and &quot;Replacing block&quot; must be different.</source>
@@ -2151,7 +2151,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Replace blocks</source>
@@ -2218,7 +2218,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>;URL Name;Entity Type;Space</source>
@@ -2349,7 +2349,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
 </context>
 <context>
@@ -2400,7 +2400,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Wrong dimension value.</source>
@@ -2539,11 +2539,11 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Name;Track Active;EditTime (hr)</source>
-        <translation>Nome;Conteggio attivo;Tempo di modifica (h)</translation>
+        <translation>Nome;Attivo;Modifica (h)</translation>
     </message>
     <message>
         <source>The changes have not been written yet. Do you want to discard them?</source>
@@ -2726,7 +2726,7 @@
     </message>
     <message>
         <source>Help</source>
-        <translation>Guida</translation>
+        <translation>Aiuto</translation>
     </message>
 </context>
 <context>
