@@ -16294,7 +16294,7 @@ No se sigue este enlace de la página de ayuda: %1
     </message>
     <message>
         <source>&amp;Remember in the layout</source>
-        <translation>&amp;Recordar en la presentación</translation>
+        <translation>Recordar e&amp;n la presentación</translation>
     </message>
     <message>
         <source>Print %1</source>
@@ -17114,7 +17114,7 @@ No se sigue este enlace de la página de ayuda: %1
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation>&amp;Color:</translation>
+        <translation>C&amp;olor:</translation>
     </message>
 </context>
 <context>

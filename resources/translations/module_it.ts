@@ -1223,7 +1223,7 @@
     </message>
     <message>
         <source>Lo&amp;ad</source>
-        <translation>C&amp;arica</translation>
+        <translation>Ca&amp;rica</translation>
     </message>
     <message>
         <source>&amp;Display as:</source>
@@ -1564,7 +1564,7 @@
     </message>
     <message>
         <source>Br&amp;owse...</source>
-        <translation>Sfogli&amp;a...</translation>
+        <translation>S&amp;foglia...</translation>
     </message>
     <message>
         <source>Favorites</source>
