@@ -4,3 +4,6 @@ if(CPACK_GENERATOR STREQUAL "DEB")
 else()
     include("${CPACK_ORTAKIT_SOURCE}/packaging/archive/Finish.cmake")
 endif()
+
+# Whatever the umask of who packs.
+execute_process(COMMAND chmod -R u=rwX,go=rX "${CPACK_TEMPORARY_DIRECTORY}" COMMAND_ERROR_IS_FATAL ANY)
