@@ -32,7 +32,8 @@ Tallies tallied(const Comparison &comparison);
 /// "group 1070 of ACAD".
 QString changedName(RecordKind kind, QByteArrayView type, const FieldChange &change);
 
-/// Differences in lines, in the same words in every language, as programs read them too. The comparison must outlive it.
+/// Differences in lines, in the same words in every language, as programs read them too. The comparison must outlive
+/// it.
 class DifferenceText
 {
 public:
