@@ -102,6 +102,10 @@
         <source>%1 has nothing to do</source>
         <translation>%1 hat nichts zu tun</translation>
     </message>
+    <message>
+        <source>%1: there is no file %2</source>
+        <translation>%1: die Datei %2 gibt es nicht</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -15360,10 +15364,6 @@ Daraus werden Dokumente gemacht, und scripts/demand vergleicht es mit dem, was P
         <translation>zeichnet Langlöcher, Rechtecke oder Kreise um Texte</translation>
     </message>
     <message>
-        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
-        <translation>Texte, die einen Rahmen haben, bekommen an seiner Stelle einen anderen; --answer No lässt sie unverändert.</translation>
-    </message>
-    <message>
         <source>hides what lies behind texts</source>
         <translation>verdeckt, was hinter Texten liegt</translation>
     </message>
@@ -15694,6 +15694,10 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
     <message>
         <source>what it works on</source>
         <translation>worauf es arbeitet</translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
+        <translation>Texte, die einen Rahmen haben, bekommen an seiner Stelle einen neuen; mit --answer No bleibt der alte zusätzlich.</translation>
     </message>
 </context>
 <context>
@@ -16330,7 +16334,7 @@ Diesem Link der Hilfeseite wird nicht gefolgt: %1
     </message>
     <message>
         <source>All</source>
-        <translation>Alle</translation>
+        <translation>Alles</translation>
     </message>
     <message>
         <source>Limits</source>

@@ -102,6 +102,10 @@
         <source>%1 has nothing to do</source>
         <translation>%1 n&apos;a rien à faire</translation>
     </message>
+    <message>
+        <source>%1: there is no file %2</source>
+        <translation>%1&#xa0;: il n&apos;y a pas de fichier %2</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -15360,10 +15364,6 @@ Des documents en sont faits, et scripts/demand le compare à ce que les programm
         <translation>dessine des oblongs, rectangles ou cercles autour de textes</translation>
     </message>
     <message>
-        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
-        <translation>Les textes qui ont un cadre en reçoivent un autre à sa place&#xa0;; --answer No les laisse tels quels.</translation>
-    </message>
-    <message>
         <source>hides what lies behind texts</source>
         <translation>cache ce qui se trouve derrière des textes</translation>
     </message>
@@ -15694,6 +15694,10 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
     <message>
         <source>what it works on</source>
         <translation>sur quoi il travaille</translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
+        <translation>Les textes qui ont un cadre en reçoivent un nouveau à sa place&#xa0;; avec --answer No, l&apos;ancien reste aussi.</translation>
     </message>
 </context>
 <context>
@@ -16330,7 +16334,7 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi&#xa0;: %1
     </message>
     <message>
         <source>All</source>
-        <translation>Tous</translation>
+        <translation>Tout</translation>
     </message>
     <message>
         <source>Limits</source>
