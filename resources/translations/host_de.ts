@@ -5602,52 +5602,24 @@ Im Ansichtsfenster %1 sind zurzeit diese Layer gefroren:</translation>
 <context>
     <name>Comparing</name>
     <message>
-        <source>dates and editing time: $TD...</source>
-        <translation>Daten und Bearbeitungszeit: $TD...</translation>
+        <source>matched by content, not by handles</source>
+        <translation>nach Inhalt zugeordnet, nicht nach Referenznummern</translation>
     </message>
     <message>
-        <source>the next free handle: $HANDSEED</source>
-        <translation>die nächste freie Referenznummer: $HANDSEED</translation>
+        <source>= %1 added, %2 removed, %3 changed, %4 the same</source>
+        <translation>= %1 hinzugefügt, %2 entfernt, %3 geändert, %4 gleich</translation>
     </message>
     <message>
-        <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation>Namen der Datei und dessen, der sie gespeichert hat: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
+        <source>= by type:</source>
+        <translation>= nach Typ:</translation>
     </message>
     <message>
-        <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation>Grenzen, die sich aus den Objekten ergeben: $EXTMIN, ...</translation>
+        <source>= by layer:</source>
+        <translation>= nach Layer:</translation>
     </message>
     <message>
-        <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation>Version und Codepage: $ACADVER, $DWGCODEPAGE</translation>
-    </message>
-    <message>
-        <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation>was Fenster zuletzt zeigten: die VPORT-Tabelle, $VIEWCTR, ...</translation>
-    </message>
-    <message>
-        <source>all variables of the header</source>
-        <translation>alle Variablen des Kopfteils</translation>
-    </message>
-    <message>
-        <source>the classes section</source>
-        <translation>der Klassenabschnitt</translation>
-    </message>
-    <message>
-        <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation>alles, was nicht gezeichnet wird: Wörterbücher, Layouts, ...</translation>
-    </message>
-    <message>
-        <source>extended data</source>
-        <translation>erweiterte Daten</translation>
-    </message>
-    <message>
-        <source>which entity is drawn over which</source>
-        <translation>welches Objekt über welchem gezeichnet wird</translation>
-    </message>
-    <message>
-        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
-        <translation>wer von Änderungen hören will und wer einen Block zeigt: {ACAD_REACTORS, {BLKREFS</translation>
+        <source>%1: the extension must be %2</source>
+        <translation>%1: die Endung muss %2 sein</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,10 @@
         <source>%1 has nothing to do</source>
         <translation>%1 no tiene nada que hacer</translation>
     </message>
+    <message>
+        <source>%1: there is no file %2</source>
+        <translation>%1: no existe el archivo %2</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -5598,52 +5602,24 @@ Capas inutilizadas en la ventana %1:</translation>
 <context>
     <name>Comparing</name>
     <message>
-        <source>dates and editing time: $TD...</source>
-        <translation>fechas y tiempo de edición: $TD...</translation>
+        <source>matched by content, not by handles</source>
+        <translation>emparejados por contenido, no por identificadores</translation>
     </message>
     <message>
-        <source>the next free handle: $HANDSEED</source>
-        <translation>el siguiente identificador libre: $HANDSEED</translation>
+        <source>= %1 added, %2 removed, %3 changed, %4 the same</source>
+        <translation>= %1 añadidos, %2 eliminados, %3 cambiados, %4 iguales</translation>
     </message>
     <message>
-        <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation>nombres del archivo y de quien lo guardó: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
+        <source>= by type:</source>
+        <translation>= por tipo:</translation>
     </message>
     <message>
-        <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation>extensión, que se deduce de las entidades: $EXTMIN, ...</translation>
+        <source>= by layer:</source>
+        <translation>= por capa:</translation>
     </message>
     <message>
-        <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation>versión y página de códigos: $ACADVER, $DWGCODEPAGE</translation>
-    </message>
-    <message>
-        <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation>lo último que mostraron las ventanas: la tabla VPORT, $VIEWCTR, ...</translation>
-    </message>
-    <message>
-        <source>all variables of the header</source>
-        <translation>todas las variables de cabecera</translation>
-    </message>
-    <message>
-        <source>the classes section</source>
-        <translation>la sección de clases</translation>
-    </message>
-    <message>
-        <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation>todo lo que no se dibuja: diccionarios, presentaciones, ...</translation>
-    </message>
-    <message>
-        <source>extended data</source>
-        <translation>datos extendidos</translation>
-    </message>
-    <message>
-        <source>which entity is drawn over which</source>
-        <translation>qué entidad se dibuja sobre cuál</translation>
-    </message>
-    <message>
-        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
-        <translation>quién quiere saber de cambios y quién muestra un bloque: {ACAD_REACTORS, {BLKREFS</translation>
+        <source>%1: the extension must be %2</source>
+        <translation>%1: la extensión debe ser %2</translation>
     </message>
 </context>
 <context>
@@ -15348,10 +15324,6 @@ De ello se hacen documentos, y scripts/demand lo compara con lo que piden los pr
         <translation>dibuja ranuras, rectángulos o círculos alrededor de textos</translation>
     </message>
     <message>
-        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
-        <translation>Los textos que tienen marco reciben otro en su lugar; --answer No los deja como están.</translation>
-    </message>
-    <message>
         <source>hides what lies behind texts</source>
         <translation>oculta lo que hay detrás de los textos</translation>
     </message>
@@ -15694,6 +15666,10 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     <message>
         <source>one process for all</source>
         <translation>un proceso para todos</translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
+        <translation>Los textos que tienen un marco reciben uno nuevo en su lugar; con --answer No se conserva también el anterior.</translation>
     </message>
 </context>
 <context>

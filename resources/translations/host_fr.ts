@@ -5602,52 +5602,24 @@ Calques actuellement gelés dans la fenêtre %1&#xa0;:</translation>
 <context>
     <name>Comparing</name>
     <message>
-        <source>dates and editing time: $TD...</source>
-        <translation>dates et temps d&apos;édition&#xa0;: $TD...</translation>
+        <source>matched by content, not by handles</source>
+        <translation>appariés par leur contenu, non par leurs identificateurs</translation>
     </message>
     <message>
-        <source>the next free handle: $HANDSEED</source>
-        <translation>le prochain identificateur libre&#xa0;: $HANDSEED</translation>
+        <source>= %1 added, %2 removed, %3 changed, %4 the same</source>
+        <translation>= %1 ajoutés, %2 supprimés, %3 modifiés, %4 identiques</translation>
     </message>
     <message>
-        <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation>noms du fichier et de qui l&apos;a enregistré&#xa0;: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
+        <source>= by type:</source>
+        <translation>= par type :</translation>
     </message>
     <message>
-        <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation>étendue, qui découle des objets&#xa0;: $EXTMIN, ...</translation>
+        <source>= by layer:</source>
+        <translation>= par calque :</translation>
     </message>
     <message>
-        <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation>version et page de codes&#xa0;: $ACADVER, $DWGCODEPAGE</translation>
-    </message>
-    <message>
-        <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation>ce que les fenêtres montraient en dernier&#xa0;: la table VPORT, $VIEWCTR, ...</translation>
-    </message>
-    <message>
-        <source>all variables of the header</source>
-        <translation>toutes les variables de l&apos;en-tête</translation>
-    </message>
-    <message>
-        <source>the classes section</source>
-        <translation>la section des classes</translation>
-    </message>
-    <message>
-        <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation>tout ce qui n&apos;est pas dessiné&#xa0;: dictionnaires, présentations, ...</translation>
-    </message>
-    <message>
-        <source>extended data</source>
-        <translation>données étendues</translation>
-    </message>
-    <message>
-        <source>which entity is drawn over which</source>
-        <translation>quel objet est dessiné par-dessus lequel</translation>
-    </message>
-    <message>
-        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
-        <translation>qui veut être averti des changements et qui montre un bloc&#xa0;: {ACAD_REACTORS, {BLKREFS</translation>
+        <source>%1: the extension must be %2</source>
+        <translation>%1 : l&apos;extension doit être %2</translation>
     </message>
 </context>
 <context>

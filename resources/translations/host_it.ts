@@ -102,6 +102,10 @@
         <source>%1 has nothing to do</source>
         <translation>%1 non ha nulla da fare</translation>
     </message>
+    <message>
+        <source>%1: there is no file %2</source>
+        <translation>%1: non c&apos;è alcun file %2</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -5598,52 +5602,24 @@ Layer congelati nella finestra %1:</translation>
 <context>
     <name>Comparing</name>
     <message>
-        <source>dates and editing time: $TD...</source>
-        <translation>date e tempo di modifica: $TD...</translation>
+        <source>matched by content, not by handles</source>
+        <translation>abbinati per contenuto, non per identificativi</translation>
     </message>
     <message>
-        <source>the next free handle: $HANDSEED</source>
-        <translation>il prossimo handle libero: $HANDSEED</translation>
+        <source>= %1 added, %2 removed, %3 changed, %4 the same</source>
+        <translation>= %1 aggiunti, %2 rimossi, %3 modificati, %4 uguali</translation>
     </message>
     <message>
-        <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation>nomi del file e di chi lo ha salvato: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
+        <source>= by type:</source>
+        <translation>= per tipo:</translation>
     </message>
     <message>
-        <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation>estensioni, che derivano dalle entità: $EXTMIN, ...</translation>
+        <source>= by layer:</source>
+        <translation>= per layer:</translation>
     </message>
     <message>
-        <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation>versione e tabella codici: $ACADVER, $DWGCODEPAGE</translation>
-    </message>
-    <message>
-        <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation>ciò che le finestre hanno mostrato per ultimo: la tabella VPORT, $VIEWCTR, ...</translation>
-    </message>
-    <message>
-        <source>all variables of the header</source>
-        <translation>tutte le variabili dell&apos;intestazione</translation>
-    </message>
-    <message>
-        <source>the classes section</source>
-        <translation>la sezione delle classi</translation>
-    </message>
-    <message>
-        <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation>tutto ciò che non viene disegnato: dizionari, layout, ...</translation>
-    </message>
-    <message>
-        <source>extended data</source>
-        <translation>dati estesi</translation>
-    </message>
-    <message>
-        <source>which entity is drawn over which</source>
-        <translation>quale entità viene disegnata sopra quale</translation>
-    </message>
-    <message>
-        <source>who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS</source>
-        <translation>chi vuole sapere delle modifiche e chi mostra un blocco: {ACAD_REACTORS, {BLKREFS</translation>
+        <source>%1: the extension must be %2</source>
+        <translation>%1: l&apos;estensione deve essere %2</translation>
     </message>
 </context>
 <context>
@@ -15348,10 +15324,6 @@ Da questo si ricavano documenti, e scripts/demand lo confronta con ciò che i pr
         <translation>disegna asole, rettangoli o cerchi intorno ai testi</translation>
     </message>
     <message>
-        <source>Texts that have a frame get another one in its place; --answer No leaves them alone.</source>
-        <translation>I testi che hanno una cornice ne ricevono un&apos;altra al suo posto; --answer No li lascia come sono.</translation>
-    </message>
-    <message>
         <source>hides what lies behind texts</source>
         <translation>nasconde ciò che sta dietro i testi</translation>
     </message>
@@ -15694,6 +15666,10 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
     <message>
         <source>one process for all</source>
         <translation>un processo per tutti</translation>
+    </message>
+    <message>
+        <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
+        <translation>I testi che hanno una cornice ne ricevono una nuova al suo posto; con --answer No resta anche la precedente.</translation>
     </message>
 </context>
 <context>
