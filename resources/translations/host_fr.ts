@@ -5611,15 +5611,15 @@ Calques actuellement gelés dans la fenêtre %1&#xa0;:</translation>
     </message>
     <message>
         <source>= by type:</source>
-        <translation>= par type :</translation>
+        <translation>= par type&#xa0;:</translation>
     </message>
     <message>
         <source>= by layer:</source>
-        <translation>= par calque :</translation>
+        <translation>= par calque&#xa0;:</translation>
     </message>
     <message>
         <source>%1: the extension must be %2</source>
-        <translation>%1 : l&apos;extension doit être %2</translation>
+        <translation>%1&#xa0;: l&apos;extension doit être %2</translation>
     </message>
 </context>
 <context>
