@@ -1,0 +1,24 @@
+#include "host/dwg/Problem.h"
+
+#include <cstdio>
+
+namespace host::dwg {
+
+std::string Problem::message() const
+{
+    if (type.empty() && handle == 0)
+        return text;
+    char digits[20];
+    std::snprintf(digits, sizeof digits, "%llX", static_cast<unsigned long long>(handle));
+    return (type.empty() ? "object" : type) + " " + digits + ": " + text;
+}
+
+void Problems::add(Problem problem)
+{
+    if (problem.kind == Problem::Kind::Lost)
+        ++m_lostCount;
+    if (m_list.size() < mostKept)
+        m_list.push_back(std::move(problem));
+}
+
+} // namespace host::dwg

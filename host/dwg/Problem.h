@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace host::dwg {
+
+/// What of a file could not be read, or was read although something about it is wrong.
+struct Problem
+{
+    enum class Kind
+    {
+        Warning, ///< a checksum that does not fit, a number out of its range: what it concerns was read
+        Lost     ///< what it concerns is not in the result
+    };
+
+    Kind kind = Kind::Warning;
+    std::string text;         ///< a plain sentence without object and handle
+    std::string type;         ///< of the object, as its DXF name; empty when it concerns no object
+    std::uint64_t handle = 0; ///< of the object; 0 when it concerns none, or one whose handle was not read
+
+    /// "LINE 2A: text", or the text alone.
+    std::string message() const;
+};
+
+/// Collects problems of one file. Only so many are kept that hostile files cannot make the list longer than a person
+/// reads; all of them are counted.
+class Problems
+{
+public:
+    static constexpr std::size_t mostKept = 1000;
+
+    void warn(std::string text) { add({Problem::Kind::Warning, std::move(text), {}, 0}); }
+    void lose(std::string text) { add({Problem::Kind::Lost, std::move(text), {}, 0}); }
+    void add(Problem problem);
+
+    const std::vector<Problem> &list() const { return m_list; }
+    std::size_t lostCount() const { return m_lostCount; }
+
+private:
+    std::vector<Problem> m_list;
+    std::size_t m_lostCount = 0;
+};
+
+} // namespace host::dwg

@@ -1,0 +1,333 @@
+#include "host/dwg/bits/BitReader.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+void appendUtf8(std::string &text, std::uint32_t character)
+{
+    const auto add = [&text](std::uint32_t byte) { text += static_cast<char>(byte); };
+    const auto addLower = [&](int shift) { add(0x80 | ((character >> shift) & 0x3f)); };
+    if (character < 0x80)
+        return add(character);
+    if (character < 0x800) {
+        add(0xc0 | (character >> 6));
+    } else if (character < 0x10000) {
+        add(0xe0 | (character >> 12));
+        addLower(6);
+    } else {
+        add(0xf0 | (character >> 18));
+        addLower(12);
+        addLower(6);
+    }
+    addLower(0);
+}
+
+bool isHighHalf(std::uint32_t unit)
+{
+    return (unit & 0xfc00) == 0xd800;
+}
+
+bool isLowHalf(std::uint32_t unit)
+{
+    return (unit & 0xfc00) == 0xdc00;
+}
+
+} // namespace
+
+std::uint64_t HandleReference::from(std::uint64_t from) const
+{
+    switch (kind) {
+    case Next:
+        return from + 1;
+    case Previous:
+        return from - 1;
+    case Ahead:
+        return from + value;
+    case Behind:
+        return from - value;
+    default:
+        return value;
+    }
+}
+
+BitReader::BitReader(Bytes bytes, std::size_t first, std::size_t end)
+    : m_bytes(bytes.data()), m_at(std::min(first, bytes.size() * 8)), m_end(std::clamp(end, m_at, bytes.size() * 8))
+{
+}
+
+bool BitReader::take(std::size_t count)
+{
+    if (m_hasFailed || count > m_end - m_at)
+        m_hasFailed = true;
+    return !m_hasFailed;
+}
+
+void BitReader::seek(std::size_t position)
+{
+    if (position > m_end)
+        m_hasFailed = true;
+    else
+        m_at = position;
+}
+
+void BitReader::endAt(std::size_t position)
+{
+    if (position < m_at || position > m_end)
+        m_hasFailed = true;
+    else
+        m_end = position;
+}
+
+void BitReader::skip(std::size_t bits)
+{
+    if (take(bits))
+        m_at += bits;
+}
+
+std::uint32_t BitReader::bits(int count)
+{
+    if (!take(static_cast<std::size_t>(count)))
+        return 0;
+    std::uint64_t value = 0;
+    const std::size_t lastByte = (m_at + static_cast<std::size_t>(count) - 1) / 8;
+    for (std::size_t i = m_at / 8; i <= lastByte; ++i)
+        value = value << 8 | m_bytes[i];
+    m_at += static_cast<std::size_t>(count);
+    value >>= (lastByte + 1) * 8 - m_at;
+    return static_cast<std::uint32_t>(value & ((std::uint64_t(1) << count) - 1));
+}
+
+std::uint16_t BitReader::raw16()
+{
+    const std::uint32_t value = bits(16);
+    return static_cast<std::uint16_t>(value >> 8 | value << 8);
+}
+
+std::uint32_t BitReader::raw32()
+{
+    const std::uint32_t value = bits(32);
+    return value >> 24 | (value >> 8 & 0xff00) | (value << 8 & 0xff0000) | value << 24;
+}
+
+std::uint64_t BitReader::raw64()
+{
+    if (!take(64))
+        return 0;
+    const std::uint64_t low = raw32();
+    return low | static_cast<std::uint64_t>(raw32()) << 32;
+}
+
+std::string BitReader::rawBytes(std::size_t count)
+{
+    if (count > left() / 8 || !take(count * 8)) {
+        m_hasFailed = true;
+        return {};
+    }
+    std::string bytes(count, '\0');
+    for (char &byte : bytes)
+        byte = static_cast<char>(bits(8));
+    return bytes;
+}
+
+int BitReader::triple()
+{
+    int value = 0;
+    for (int i = 0; i < 3; ++i) {
+        const bool isOne = bit();
+        value = value << 1 | (isOne ? 1 : 0);
+        if (!isOne)
+            break;
+    }
+    return value;
+}
+
+std::int16_t BitReader::shortInteger()
+{
+    switch (pair()) {
+    case 0:
+        return static_cast<std::int16_t>(raw16());
+    case 1:
+        return byte();
+    case 2:
+        return 0;
+    default:
+        return 256;
+    }
+}
+
+std::int32_t BitReader::longInteger()
+{
+    switch (pair()) {
+    case 0:
+        return static_cast<std::int32_t>(raw32());
+    case 1:
+        return byte();
+    default:
+        return 0;
+    }
+}
+
+std::uint64_t BitReader::longLong()
+{
+    const int count = static_cast<int>(bits(3));
+    std::uint64_t value = 0;
+    for (int i = 0; i < count; ++i)
+        value |= static_cast<std::uint64_t>(byte()) << (8 * i);
+    return value;
+}
+
+double BitReader::real()
+{
+    switch (pair()) {
+    case 0:
+        return rawReal();
+    case 1:
+        return 1.0;
+    default:
+        return 0.0;
+    }
+}
+
+double BitReader::realNear(double usual)
+{
+    const auto was = std::bit_cast<std::uint64_t>(usual);
+    switch (pair()) {
+    case 0:
+        return usual;
+    case 1:
+        return std::bit_cast<double>((was & 0xffffffff00000000) | raw32());
+    case 2: {
+        const std::uint64_t middle = raw16();
+        return std::bit_cast<double>((was & 0xffff000000000000) | middle << 32 | raw32());
+    }
+    default:
+        return rawReal();
+    }
+}
+
+double BitReader::thickness(Release release)
+{
+    return release >= Release::R2000 && bit() ? 0.0 : real();
+}
+
+Point BitReader::extrusion(Release release)
+{
+    return release >= Release::R2000 && bit() ? Point{0.0, 0.0, 1.0} : point();
+}
+
+std::uint64_t BitReader::modularUnsigned()
+{
+    std::uint64_t value = 0;
+    for (int shift = 0; shift < 64; shift += 7) {
+        const std::uint64_t next = byte();
+        value |= (next & 0x7f) << shift;
+        if ((next & 0x80) == 0)
+            return value;
+    }
+    m_hasFailed = true;
+    return 0;
+}
+
+std::int64_t BitReader::modularSigned()
+{
+    std::uint64_t value = 0;
+    for (int shift = 0; shift < 64; shift += 7) {
+        const std::uint64_t next = byte();
+        if ((next & 0x80) == 0) {
+            const auto number = static_cast<std::int64_t>(value | (next & 0x3f) << shift);
+            return (next & 0x40) != 0 ? -number : number;
+        }
+        value |= (next & 0x7f) << shift;
+    }
+    m_hasFailed = true;
+    return 0;
+}
+
+std::uint32_t BitReader::modularShort()
+{
+    std::uint32_t value = 0;
+    for (int shift = 0; shift < 30; shift += 15) {
+        const std::uint32_t next = raw16();
+        value |= (next & 0x7fff) << shift;
+        if ((next & 0x8000) == 0)
+            return value;
+    }
+    m_hasFailed = true;
+    return 0;
+}
+
+HandleReference BitReader::handle()
+{
+    HandleReference reference;
+    reference.kind = static_cast<int>(bits(4));
+    const std::uint32_t count = bits(4);
+    if (count > 8) {
+        m_hasFailed = true;
+        return {};
+    }
+    for (std::uint32_t i = 0; i < count; ++i)
+        reference.value = reference.value << 8 | byte();
+    return m_hasFailed ? HandleReference() : reference;
+}
+
+int BitReader::objectType(Release release)
+{
+    if (release < Release::R2010)
+        return shortInteger();
+    switch (pair()) {
+    case 0:
+        return byte();
+    case 1:
+        return byte() + 0x1f0;
+    default:
+        return raw16();
+    }
+}
+
+std::string BitReader::text8()
+{
+    const auto length = static_cast<std::uint16_t>(shortInteger());
+    std::string text = rawBytes(length);
+    // Some writers count a zero at the end.
+    while (!text.empty() && text.back() == '\0')
+        text.pop_back();
+    return text;
+}
+
+std::string BitReader::text16()
+{
+    return utf16(static_cast<std::uint16_t>(shortInteger()));
+}
+
+std::string BitReader::utf16(std::size_t units)
+{
+    if (units > left() / 16) {
+        m_hasFailed = true;
+        return {};
+    }
+    std::string text;
+    std::uint32_t pending = 0;
+    for (std::size_t i = 0; i < units; ++i) {
+        const std::uint32_t unit = raw16();
+        if (pending != 0 && isLowHalf(unit)) {
+            appendUtf8(text, 0x10000 + ((pending & 0x3ff) << 10) + (unit & 0x3ff));
+            pending = 0;
+            continue;
+        }
+        if (pending != 0)
+            appendUtf8(text, 0xfffd);
+        pending = isHighHalf(unit) ? unit : 0;
+        if (pending == 0)
+            appendUtf8(text, isLowHalf(unit) ? 0xfffd : unit);
+    }
+    if (pending != 0)
+        appendUtf8(text, 0xfffd);
+    while (!text.empty() && text.back() == '\0')
+        text.pop_back();
+    return text;
+}
+
+} // namespace host::dwg

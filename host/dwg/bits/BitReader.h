@@ -1,0 +1,140 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string>
+
+namespace host::dwg {
+
+using Bytes = std::span<const std::uint8_t>;
+
+/// The releases of the format by the number that their files begin with ("AC1015"), so that later ones are greater.
+enum class Release : int
+{
+    None = 0,
+    R13 = 1012,
+    R14 = 1014,
+    R2000 = 1015,
+    R2004 = 1018,
+    R2007 = 1021,
+    R2010 = 1024,
+    R2013 = 1027,
+    R2018 = 1032
+};
+
+/// A reference as it stands in a file: its kind and what it refers to, given as it is or counted from the object that
+/// has it.
+struct HandleReference
+{
+    enum Kind
+    {
+        SoftOwner = 2,
+        HardOwner = 3,
+        SoftPointer = 4,
+        HardPointer = 5,
+        Next = 6,     ///< the handle behind that of the object
+        Previous = 8, ///< the handle in front of it
+        Ahead = 10,   ///< as many behind as the value says
+        Behind = 12   ///< as many in front
+    };
+
+    int kind = 0;
+    std::uint64_t value = 0;
+
+    /// The handle that is meant in an object with the handle `from`; 0 names nothing.
+    std::uint64_t from(std::uint64_t from) const;
+};
+
+struct Point
+{
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+
+    bool operator==(const Point &) const = default;
+};
+
+/// Reads the coded values of a run of bits: numbers that need fewer bits where they are small or as usual. The first
+/// bit of a byte is its highest one; what has several bytes begins with the lowest of them.
+///
+/// Not trusted: what reaches beyond the end, or is longer than what is left, is 0 or empty and marks the reader as
+/// failed for good; it stays at its place then. Each call costs what it reads.
+class BitReader
+{
+public:
+    BitReader() = default;
+    /// All bits of `bytes`, which must outlive the reader.
+    explicit BitReader(Bytes bytes) : BitReader(bytes, 0, bytes.size() * 8) {}
+    /// The bits from `first` to before `end`; both are cut to what is there.
+    BitReader(Bytes bytes, std::size_t first, std::size_t end);
+
+    bool hasFailed() const { return m_hasFailed; }
+    std::size_t position() const { return m_at; }
+    std::size_t end() const { return m_end; }
+    std::size_t left() const { return m_end - m_at; }
+    /// Goes to the bit, counted from the first of all bytes; fails when it is behind the end.
+    void seek(std::size_t position);
+    void skip(std::size_t bits);
+    /// To the next whole byte.
+    void align() { m_at = std::min((m_at + 7) / 8 * 8, m_end); }
+    /// Ends earlier, at a bit counted from the first of all bytes; fails when that is behind.
+    void endAt(std::size_t position);
+    void fail() { m_hasFailed = true; }
+
+    // Raw values: the bits as they are.
+    bool bit() { return bits(1) != 0; }
+    /// Up to 32 bits, the first one the highest.
+    std::uint32_t bits(int count);
+    std::uint8_t byte() { return static_cast<std::uint8_t>(bits(8)); }
+    std::uint16_t raw16();
+    std::uint32_t raw32();
+    std::uint64_t raw64();
+    double rawReal() { return std::bit_cast<double>(raw64()); }
+    /// `count` bytes, whole or none.
+    std::string rawBytes(std::size_t count);
+
+    // Coded values.
+    int pair() { return static_cast<int>(bits(2)); }
+    /// Three bits that are cut short where one of them is 0: 0 to 7.
+    int triple();
+    std::int16_t shortInteger();
+    std::int32_t longInteger();
+    /// A number of three bits says how many bytes follow.
+    std::uint64_t longLong();
+    double real();
+    /// A number that is likely to be `usual` or near it.
+    double realNear(double usual);
+    /// From R2000 on 0 is one bit.
+    double thickness(Release release);
+    /// From R2000 on the z axis is one bit.
+    Point extrusion(Release release);
+    Point point() { return {real(), real(), real()}; }
+    /// Bytes of seven bits, the lowest first, as long as the highest bit says that another one follows.
+    std::uint64_t modularUnsigned();
+    std::int64_t modularSigned();
+    /// The same in units of 15 bits.
+    std::uint32_t modularShort();
+    HandleReference handle();
+    /// A type of an object: a short integer before R2010.
+    int objectType(Release release);
+    /// A text with its length in front, in the file's code page.
+    std::string text8();
+    /// A text of UTF-16, as UTF-8. Halves of pairs that stand alone become U+FFFD.
+    std::string text16();
+    /// `units` units of UTF-16 without a length.
+    std::string utf16(std::size_t units);
+
+private:
+    bool take(std::size_t count);
+
+    const std::uint8_t *m_bytes = nullptr;
+    std::size_t m_at = 0;
+    std::size_t m_end = 0;
+    bool m_hasFailed = false;
+};
+
+} // namespace host::dwg

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/dwg/bits/BitReader.h"
+
+namespace host::dwg {
+
+/// The checksum of 16 bits behind objects and sections (polynomial 0xA001, the lowest bit first), which goes on from
+/// `seed`.
+std::uint16_t checksum16(Bytes bytes, std::uint16_t seed);
+
+/// The checksum of 32 bits in headers of R2004 and later (polynomial 0xEDB88320, the lowest bit first).
+std::uint32_t checksum32(Bytes bytes, std::uint32_t seed);
+
+/// The checksum of pages of R2004 and later: two sums modulo 65521, the second one of the first.
+std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed);
+
+} // namespace host::dwg

@@ -1,0 +1,81 @@
+#include "host/dwg/container/Container.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr std::size_t markLength = 16;
+
+/// Each section's first mark; the last one has the same bytes inverted.
+constexpr std::array<std::array<std::uint8_t, markLength>, 3> marks = {{
+    {0xcf, 0x7b, 0x1f, 0x23, 0xfd, 0xde, 0x38, 0xa9, 0x5f, 0x7c, 0x68, 0xb8, 0x4e, 0x6d, 0x33, 0x5f}, // header
+    {0x8d, 0xa1, 0xc4, 0xb8, 0xc4, 0xa9, 0xf8, 0xc5, 0xc0, 0xdc, 0xf4, 0x5f, 0xe7, 0xcf, 0xb6, 0x8a}, // classes
+    {0x1f, 0x25, 0x6d, 0x07, 0xd4, 0x36, 0x28, 0x28, 0x9d, 0x57, 0xca, 0x3f, 0x9d, 0x44, 0x10, 0x2b}, // preview
+}};
+
+} // namespace
+
+Release releaseOf(Bytes file)
+{
+    if (file.size() < 0x80 || file[0] != 'A' || file[1] != 'C')
+        return Release::None;
+    int number = 0;
+    for (std::size_t i = 2; i < 6; ++i)
+        number = number * 10 + (file[i] >= '0' && file[i] <= '9' ? file[i] - '0' : 1000);
+    for (const Release release : {Release::R13, Release::R14, Release::R2000, Release::R2004, Release::R2007,
+                                  Release::R2010, Release::R2013, Release::R2018}) {
+        if (number == static_cast<int>(release))
+            return release;
+    }
+    return Release::None;
+}
+
+Container openContainer(Bytes file, Problems &problems)
+{
+    Container container;
+    container.release = releaseOf(file);
+    if (container.release == Release::None) {
+        problems.lose("The file is no drawing of R13 to R2018.");
+        return container;
+    }
+    container.maintenance = file[0x0b];
+    container.codePage = file[0x13] | file[0x14] << 8;
+    if (container.release <= Release::R2000)
+        openLocatorContainer(file, container, problems);
+    else if (container.release == Release::R2007)
+        openCorrectedContainer(file, container, problems);
+    else
+        openPagedContainer(file, container, problems);
+    return container;
+}
+
+Bytes betweenMarks(Bytes section)
+{
+    for (const auto &mark : marks) {
+        if (section.size() >= markLength && std::equal(mark.begin(), mark.end(), section.begin()))
+            return section.subspan(markLength);
+    }
+    return section;
+}
+
+void assignSection(Container &container, std::string_view name, Bytes bytes)
+{
+    if (name == "AcDb:Header")
+        container.headerVariables = betweenMarks(bytes);
+    else if (name == "AcDb:Classes")
+        container.classes = betweenMarks(bytes);
+    else if (name == "AcDb:Handles")
+        container.objectMap = bytes;
+    else if (name == "AcDb:AcDbObjects")
+        container.objects = bytes;
+    else if (name == "AcDb:SummaryInfo")
+        container.summary = bytes;
+    else if (name == "AcDb:Preview")
+        container.preview = betweenMarks(bytes);
+    else if (name == "AcDb:AcDsPrototype_1b")
+        container.dataStore = bytes;
+}
+
+} // namespace host::dwg

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "host/dwg/Problem.h"
+#include "host/dwg/bits/BitReader.h"
+
+#include <deque>
+#include <map>
+#include <string_view>
+
+namespace host::dwg {
+
+/// The parts of a file, taken out of pages, compression and encryption. Views into the file or into `storage`.
+struct Container
+{
+    Release release = Release::None;
+    int maintenance = 0; ///< the number that tells minor changes of a release apart
+    int codePage = 0;    ///< the number of the page that texts before R2007 are in
+
+    // Each as it stands between its marks of 16 bytes, the length in front included; empty when the file has none.
+    Bytes headerVariables;
+    Bytes classes;
+    Bytes objectMap; ///< without marks
+    /// What the places of the object map count in: the whole file before R2004.
+    Bytes objects;
+    Bytes summary;
+    Bytes preview;
+    Bytes dataStore; ///< what objects from R2013 on keep in a section of its own
+
+    std::deque<std::vector<std::uint8_t>> storage; ///< what had to be unpacked
+};
+
+/// What the first six bytes say: None for what is no drawing of R13 to R2018.
+Release releaseOf(Bytes file);
+
+/// Takes a file apart. `file` must outlive the container. Each part that cannot be had is empty and told among the
+/// problems; checksums that do not fit are warnings. Memory: what the pages say they unpack to, refused where that is
+/// more than 300 times the file.
+Container openContainer(Bytes file, Problems &problems);
+
+// The kinds of containers, for openContainer().
+void openLocatorContainer(Bytes file, Container &container, Problems &problems);   ///< R13 to R2000
+void openPagedContainer(Bytes file, Container &container, Problems &problems);     ///< R2004, R2010 and later
+void openCorrectedContainer(Bytes file, Container &container, Problems &problems); ///< R2007
+
+/// Puts a section to its place in the container by the name that files have for it ("AcDb:Classes"); others are left.
+void assignSection(Container &container, std::string_view name, Bytes bytes);
+
+/// The bytes between the marks that sections begin and end with; all of them where the mark in front is missing.
+Bytes betweenMarks(Bytes section);
+
+} // namespace host::dwg

@@ -1,0 +1,24 @@
+#include "host/dwg/contents/Contents.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+std::string_view codePageName(int number)
+{
+    constexpr std::pair<int, std::string_view> names[] = {
+        {1, "ASCII"},      {2, "ISO8859-1"},  {3, "ISO8859-2"},  {4, "ISO8859-3"},  {5, "ISO8859-4"},
+        {6, "ISO8859-5"},  {7, "ISO8859-6"},  {8, "ISO8859-7"},  {9, "ISO8859-8"},  {10, "ISO8859-9"},
+        {11, "DOS437"},    {12, "DOS850"},    {13, "DOS852"},    {14, "DOS855"},    {15, "DOS857"},
+        {16, "DOS860"},    {17, "DOS861"},    {18, "DOS863"},    {19, "DOS864"},    {20, "DOS865"},
+        {21, "DOS869"},    {22, "DOS932"},    {23, "MAC-ROMAN"}, {24, "BIG5"},      {25, "KSC5601"},
+        {26, "JOHAB"},     {27, "DOS866"},    {28, "ANSI_1250"}, {29, "ANSI_1251"}, {30, "ANSI_1252"},
+        {31, "GB2312"},    {32, "ANSI_1253"}, {33, "ANSI_1254"}, {34, "ANSI_1255"}, {35, "ANSI_1256"},
+        {36, "ANSI_1257"}, {37, "ANSI_874"},  {38, "ANSI_932"},  {39, "ANSI_936"},  {40, "ANSI_949"},
+        {41, "ANSI_950"},  {42, "ANSI_1361"}, {43, "ANSI_1200"}, {44, "ANSI_1258"},
+    };
+    const auto found = std::ranges::find(names, number, &std::pair<int, std::string_view>::first);
+    return found != std::end(names) ? found->second : "ANSI_1252";
+}
+
+} // namespace host::dwg

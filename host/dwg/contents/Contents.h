@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/dwg/container/Container.h"
+#include "host/dwg/objects/Fields.h"
+
+namespace host::dwg {
+
+/// A class of objects that has no type of its own: its number is given out by the file.
+struct ObjectClass
+{
+    int number = 0;
+    int version = 0; ///< what programs that do not know it may do with its objects
+    std::string application;
+    std::string cppName;
+    std::string name; ///< in the text form
+    bool wasProxy = false;
+    bool isEntity = false;
+    int instances = 0; ///< from R2004 on
+};
+
+/// The classes of a file in their order; as many as can be read.
+std::vector<ObjectClass> readClasses(const Container &container, Problems &problems);
+
+/// Where an object is.
+struct MapEntry
+{
+    std::uint64_t handle = 0;
+    std::uint64_t place = 0;
+};
+
+/// All objects by rising handle, each once. What is damaged ends the map, with a problem told.
+std::vector<MapEntry> readObjectMap(Bytes map, Problems &problems);
+
+/// What the header says of the drawing as a whole.
+struct Header
+{
+    // Handles of the tables, dictionaries and entries that everything else is found from.
+    std::uint64_t blockTable = 0;
+    std::uint64_t layerTable = 0;
+    std::uint64_t styleTable = 0;
+    std::uint64_t linetypeTable = 0;
+    std::uint64_t viewTable = 0;
+    std::uint64_t systemTable = 0;
+    std::uint64_t viewportTable = 0;
+    std::uint64_t applicationTable = 0;
+    std::uint64_t dimensionStyleTable = 0;
+    std::uint64_t namedObjects = 0;
+    std::uint64_t paperSpace = 0;
+    std::uint64_t modelSpace = 0;
+};
+
+/// Reads the header's variables into `fields`, which are theirs: each noted as group 9 with its tags. `maintenance` is
+/// the container's.
+Header readHeader(const Container &container, Fields &fields, Problems &problems);
+
+/// The name that $DWGCODEPAGE has for the number of a code page.
+std::string_view codePageName(int number);
+
+} // namespace host::dwg

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "host/dwg/bits/BitReader.h"
+
+#include <span>
+#include <string_view>
+
+namespace host::dwg {
+
+/// How a header variable is coded.
+enum class HeaderKind
+{
+    Flag,
+    Byte,
+    Int16,
+    Int32,
+    LongLong,
+    Real,
+    Angle,
+    Point,
+    RawPoint, ///< of two raw numbers
+    Text,
+    Colour,
+    Date,      ///< days and milliseconds
+    Span,      ///< the same, as a time that passed
+    OwnHandle, ///< a handle that stands among the values
+    Name,      ///< a reference to what the text form has by name
+    BlockName, ///< the same, of a block
+    Reference,
+    Bits,      ///< several variables in one number
+    StyleKind, ///< a number behind which a reference may stand
+    // References that the drawing is found from.
+    BlockTable,
+    LayerTable,
+    StyleTable,
+    LinetypeTable,
+    ViewTable,
+    SystemTable,
+    ViewportTable,
+    ApplicationTable,
+    DimensionStyleTable,
+    NamedObjects,
+    PaperSpace,
+    ModelSpace
+};
+
+/// One value of the header in the order of files: what it is, its group code and its name in the text form (empty for
+/// what is not written there), and the releases that have it.
+struct HeaderRow
+{
+    HeaderKind kind;
+    int code;
+    std::string_view name;
+    Release first;
+    Release last;
+};
+
+std::span<const HeaderRow> headerRows();
+
+/// The variables' names in the order of the text form.
+std::span<const std::string_view> headerOrder();
+
+} // namespace host::dwg

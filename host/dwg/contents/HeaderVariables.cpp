@@ -1,0 +1,184 @@
+#include "host/dwg/contents/Contents.h"
+#include "host/dwg/contents/HeaderTable.h"
+#include "host/dwg/objects/ObjectHead.h"
+
+namespace host::dwg {
+
+namespace {
+
+/// Variables that stand in one number from R2000 on.
+void noteBits(Fields &f, std::uint32_t bits)
+{
+    const auto note = [&f](const char *name, int code, int value) {
+        f.note(9, name);
+        f.note(code, value);
+    };
+    const auto has = [bits](std::uint32_t bit) { return (bits & bit) != 0 ? 1 : 0; };
+    note("$CELWEIGHT", 370, lineWeight(static_cast<int>(bits & 0x1f)));
+    note("$ENDCAPS", 280, static_cast<int>(bits >> 5 & 3));
+    note("$JOINSTYLE", 280, static_cast<int>(bits >> 7 & 3));
+    note("$LWDISPLAY", 290, 1 - has(0x200));
+    note("$XEDIT", 290, 1 - has(0x400));
+    note("$EXTNAMES", 290, has(0x800));
+    note("$PSTYLEMODE", 290, has(0x2000));
+    note("$OLESTARTUP", 290, has(0x4000));
+}
+
+constexpr double millisecondsOfADay = 86400000.0;
+
+/// Reads the variables in the order of the file.
+class HeaderReader
+{
+public:
+    explicit HeaderReader(Fields &fields) : f(fields) {}
+
+    Header run()
+    {
+        for (const HeaderRow &row : headerRows()) {
+            if (f.release() < row.first || f.release() > row.last)
+                continue;
+            const std::size_t begin = f.mark();
+            if (!row.name.empty())
+                f.note(9, row.name);
+            read(row);
+            if (row.name.empty() && row.kind != HeaderKind::Bits)
+                f.drop(begin);
+        }
+        return m_header;
+    }
+
+private:
+    void read(const HeaderRow &row)
+    {
+        switch (row.kind) {
+        case HeaderKind::Flag:
+            f.flag(row.code);
+            return;
+        case HeaderKind::Byte:
+            f.small(row.code);
+            return;
+        case HeaderKind::Int16:
+            f.int16(row.code);
+            return;
+        case HeaderKind::Int32:
+            f.int32(row.code);
+            return;
+        case HeaderKind::LongLong:
+            f.note(row.code, f.values().longLong());
+            return;
+        case HeaderKind::Real:
+            f.real(row.code);
+            return;
+        case HeaderKind::Angle:
+            f.angle(row.code);
+            return;
+        case HeaderKind::Point:
+            f.point(row.code);
+            return;
+        case HeaderKind::RawPoint:
+            f.rawFlatPoint(row.code);
+            return;
+        case HeaderKind::Text:
+            f.text(row.code);
+            return;
+        case HeaderKind::Colour:
+            f.colour(row.code);
+            return;
+        case HeaderKind::Date:
+        case HeaderKind::Span: {
+            const double days = f.int32();
+            f.note(row.code, days + f.int32() / millisecondsOfADay);
+            return;
+        }
+        case HeaderKind::OwnHandle:
+            f.noteHandle(row.code, f.values().handle().value);
+            return;
+        case HeaderKind::Bits:
+            noteBits(f, static_cast<std::uint32_t>(f.int32()));
+            return;
+        case HeaderKind::StyleKind:
+            // 3 means that a plot style is referred to.
+            if (f.int16(row.code) == 3)
+                reference();
+            return;
+        case HeaderKind::Name:
+        case HeaderKind::BlockName:
+            f.note(row.code, f.nameOf(reference()));
+            return;
+        case HeaderKind::Reference:
+            f.noteHandle(row.code, reference());
+            return;
+        default:
+            *root(row.kind) = reference();
+        }
+    }
+
+    /// Before R2007 references stand among the values.
+    std::uint64_t reference()
+    {
+        return f.since(Release::R2007) ? f.references().handle().value : f.values().handle().value;
+    }
+
+    std::uint64_t *root(HeaderKind kind)
+    {
+        switch (kind) {
+        case HeaderKind::BlockTable:
+            return &m_header.blockTable;
+        case HeaderKind::LayerTable:
+            return &m_header.layerTable;
+        case HeaderKind::StyleTable:
+            return &m_header.styleTable;
+        case HeaderKind::LinetypeTable:
+            return &m_header.linetypeTable;
+        case HeaderKind::ViewTable:
+            return &m_header.viewTable;
+        case HeaderKind::SystemTable:
+            return &m_header.systemTable;
+        case HeaderKind::ViewportTable:
+            return &m_header.viewportTable;
+        case HeaderKind::ApplicationTable:
+            return &m_header.applicationTable;
+        case HeaderKind::DimensionStyleTable:
+            return &m_header.dimensionStyleTable;
+        case HeaderKind::NamedObjects:
+            return &m_header.namedObjects;
+        case HeaderKind::PaperSpace:
+            return &m_header.paperSpace;
+        default:
+            return &m_header.modelSpace;
+        }
+    }
+
+    Fields &f;
+    Header m_header;
+};
+
+} // namespace
+
+Header readHeader(const Container &container, Fields &fields, Problems &problems)
+{
+    const Bytes all = container.headerVariables;
+    BitReader sizes(all);
+    const std::size_t size = sizes.raw32();
+    if (container.release >= Release::R2013 || (container.release == Release::R2010 && container.maintenance > 3))
+        sizes.raw32();
+    const std::size_t begin = sizes.position() / 8;
+    if (sizes.hasFailed() || size > all.size() - begin) {
+        problems.lose("The header's variables cannot be read.");
+        return {};
+    }
+    const Bytes bytes = all.subspan(begin, size);
+    if (container.release < Release::R2007) {
+        fields.start(BitReader(bytes), {}, {});
+    } else {
+        BitReader values(bytes);
+        const std::size_t end = std::min<std::size_t>(values.raw32(), size * 8);
+        fields.start(BitReader(bytes, 32, end), textsOf(bytes, end), BitReader(bytes, end, size * 8));
+    }
+    const Header header = HeaderReader(fields).run();
+    if (fields.hasFailed())
+        problems.lose("The header's variables end too early.");
+    return header;
+}
+
+} // namespace host::dwg

@@ -1,0 +1,220 @@
+#include "host/dwg/objects/TypeTable.h"
+
+namespace host::dwg {
+
+namespace {
+
+void readLine(Fields &f)
+{
+    f.subclass("AcDbLine");
+    const std::size_t begin = f.mark();
+    if (f.since(Release::R2000)) {
+        const bool isFlat = f.flag();
+        Point from;
+        Point to;
+        from.x = f.rawReal();
+        to.x = f.values().realNear(from.x);
+        from.y = f.rawReal();
+        to.y = f.values().realNear(from.y);
+        if (!isFlat) {
+            from.z = f.rawReal();
+            to.z = f.values().realNear(from.z);
+        }
+        f.note(10, from);
+        f.note(11, to);
+    } else {
+        f.point(10);
+        f.point(11);
+    }
+    f.thickness();
+    f.arrange(begin, {39});
+    f.extrusion();
+}
+
+void readPoint(Fields &f)
+{
+    f.subclass("AcDbPoint");
+    f.point(10);
+    f.thickness();
+    f.extrusion();
+    f.angle(50, {0.0});
+}
+
+void readCircle(Fields &f)
+{
+    f.subclass("AcDbCircle");
+    const std::size_t begin = f.mark();
+    f.point(10);
+    f.real(40);
+    f.thickness();
+    f.arrange(begin, {39});
+    f.extrusion();
+}
+
+void readArc(Fields &f)
+{
+    readCircle(f);
+    f.subclass("AcDbArc");
+    f.angle(50);
+    f.angle(51);
+}
+
+void readEllipse(Fields &f)
+{
+    f.subclass("AcDbEllipse");
+    f.point(10);
+    f.point(11);
+    f.point(210);
+    f.real(40);
+    f.real(41);
+    f.real(42);
+}
+
+void readRay(Fields &f)
+{
+    f.subclass("AcDbRay");
+    f.point(10);
+    f.point(11);
+}
+
+void readXline(Fields &f)
+{
+    f.subclass("AcDbXline");
+    f.point(10);
+    f.point(11);
+}
+
+/// Four corners at one height: as crossing lines have them, not around.
+void readTrace(Fields &f)
+{
+    f.subclass("AcDbTrace");
+    const std::size_t begin = f.mark();
+    f.thickness();
+    const double height = f.real();
+    for (int code = 10; code <= 13; ++code) {
+        const double x = f.rawReal();
+        f.note(code, Point{x, f.rawReal(), height});
+    }
+    f.arrange(begin, {10, 20, 30, 11, 21, 31, 12, 22, 32, 13, 23, 33, 39});
+    f.extrusion();
+}
+
+void readFace(Fields &f)
+{
+    f.subclass("AcDbFace");
+    if (!f.since(Release::R2000)) {
+        for (int code = 10; code <= 13; ++code)
+            f.point(code);
+        f.int16(70, {0});
+        return;
+    }
+    const bool hasNoFlags = f.flag();
+    const bool isFlat = f.flag();
+    Point corner;
+    corner.x = f.rawReal();
+    corner.y = f.rawReal();
+    corner.z = isFlat ? 0.0 : f.rawReal();
+    f.note(10, corner);
+    for (int code = 11; code <= 13; ++code) {
+        corner.x = f.values().realNear(corner.x);
+        corner.y = f.values().realNear(corner.y);
+        corner.z = f.values().realNear(corner.z);
+        f.note(code, corner);
+    }
+    if (!hasNoFlags)
+        f.int16(70);
+}
+
+/// Which of its parts a spline was made from.
+enum SplineSource
+{
+    ControlPoints = 1,
+    FitPoints = 2
+};
+
+struct SplineFlags
+{
+    static constexpr int closed = 1;
+    static constexpr int periodic = 2;
+    static constexpr int rational = 4;
+    static constexpr int planar = 8;
+    static constexpr int fitMethod = 1;
+    static constexpr int fromFitPoints = 0x400;
+};
+
+void readFitSpline(Fields &f, int degree)
+{
+    const std::size_t begin = f.mark();
+    f.note(70, SplineFlags::planar | SplineFlags::fromFitPoints);
+    f.note(71, degree);
+    f.note(72, 0);
+    f.note(73, 0);
+    f.real(44);
+    f.point(12);
+    f.point(13);
+    const std::size_t count = f.count(6);
+    f.note(74, count);
+    f.arrange(begin, {70, 71, 72, 73, 74});
+    for (std::size_t i = 0; i < count; ++i)
+        f.point(11);
+}
+
+void readControlSpline(Fields &f, int degree)
+{
+    const bool isRational = f.flag();
+    const bool isClosed = f.flag();
+    const bool isPeriodic = f.flag();
+    const double knotTolerance = f.real();
+    const double pointTolerance = f.real();
+    const std::size_t knots = f.count(2);
+    const std::size_t points = f.count(6);
+    const bool isWeighted = f.flag();
+    f.note(70, SplineFlags::planar | (isRational ? SplineFlags::rational : 0) | (isClosed ? SplineFlags::closed : 0) |
+                   (isPeriodic ? SplineFlags::periodic : 0));
+    f.note(71, degree);
+    f.note(72, knots);
+    f.note(73, points);
+    f.note(74, 0);
+    f.note(42, knotTolerance);
+    f.note(43, pointTolerance);
+    for (std::size_t i = 0; i < knots; ++i)
+        f.real(40);
+    std::vector<double> weights;
+    for (std::size_t i = 0; i < points; ++i) {
+        f.point(10);
+        if (isWeighted)
+            weights.push_back(f.real());
+    }
+    for (const double weight : weights)
+        f.note(41, weight);
+}
+
+void readSpline(Fields &f)
+{
+    f.subclass("AcDbSpline");
+    const int source = f.int32();
+    if (f.since(Release::R2013)) {
+        f.int32(); // how it was made
+        f.int32(); // how its knots are chosen
+    }
+    const int degree = f.int32();
+    if (source == FitPoints)
+        readFitSpline(f, degree);
+    else
+        readControlSpline(f, degree);
+}
+
+} // namespace
+
+std::span<const ObjectType> curveTypes()
+{
+    static constexpr ObjectType rows[] = {
+        {0x11, "ARC", readArc, true},     {0x12, "CIRCLE", readCircle, true},   {0x13, "LINE", readLine, true},
+        {0x1b, "POINT", readPoint, true}, {0x1c, "3DFACE", readFace, true},     {0x1f, "SOLID", readTrace, true},
+        {0x20, "TRACE", readTrace, true}, {0x23, "ELLIPSE", readEllipse, true}, {0x24, "SPLINE", readSpline, true},
+        {0x28, "RAY", readRay, true},     {0x29, "XLINE", readXline, true},
+    };
+    return rows;
+}
+
+} // namespace host::dwg

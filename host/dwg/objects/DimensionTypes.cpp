@@ -1,0 +1,272 @@
+#include "host/dwg/objects/TypeTable.h"
+
+namespace host::dwg {
+
+namespace {
+
+enum class Measured
+{
+    Rotated = 0,
+    Aligned = 1,
+    TwoLines = 2,
+    Diameter = 3,
+    Radius = 4,
+    ThreePoints = 5,
+    Ordinate = 6
+};
+
+struct DimensionHead
+{
+    Point extrusion;
+    Point middle;
+    int flags = 0;
+    std::string text;
+    double textRotation = 0.0;
+    double direction = 0.0;
+    double measurement = 0.0;
+    int attachment = 0;
+    int spacing = 1;
+    double spacingFactor = 1.0;
+    bool flipsFirst = false;
+    bool flipsSecond = false;
+    Point place;
+};
+
+DimensionHead readDimensionHead(Fields &f)
+{
+    DimensionHead head;
+    if (f.since(Release::R2010))
+        f.small();
+    head.extrusion = f.point();
+    head.middle = {f.rawReal(), f.rawReal(), 0.0};
+    head.middle.z = f.real();
+    head.flags = f.small();
+    head.text = f.text();
+    head.textRotation = f.real();
+    head.direction = f.real();
+    f.point(); // how its block is placed: factors and rotation
+    f.real();
+    if (f.since(Release::R2000)) {
+        head.attachment = f.int16();
+        head.spacing = f.int16();
+        head.spacingFactor = f.real();
+        head.measurement = f.real();
+    }
+    if (f.since(Release::R2007)) {
+        f.flag();
+        head.flipsFirst = f.flag();
+        head.flipsSecond = f.flag();
+    }
+    head.place = {f.rawReal(), f.rawReal(), head.middle.z};
+    return head;
+}
+
+/// The type with the flags of group 70, two of which stand in another place in the file.
+int dimensionType(Measured measured, int flags)
+{
+    constexpr int ownBlock = 32;
+    constexpr int ownPlace = 128;
+    return static_cast<int>(measured) | ((flags & 1) == 0 ? ownPlace : 0) | ((flags & 2) != 0 ? ownBlock : 0);
+}
+
+void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point definition)
+{
+    const std::string_view style = f.nameOf(f.reference());
+    const std::string_view block = f.nameOf(f.reference());
+    if (f.since(Release::R2010))
+        f.note(280, 0);
+    f.note(2, block);
+    f.note(10, definition);
+    f.note(11, head.middle);
+    if (head.place.x != 0.0 || head.place.y != 0.0)
+        f.note(12, head.place);
+    f.note(70, type);
+    if (f.since(Release::R2000) || !head.text.empty())
+        f.note(1, head.text);
+    if (f.since(Release::R2000)) {
+        f.note(71, head.attachment);
+        f.noteUnless(72, head.spacing, {1});
+        f.noteUnless(41, head.spacingFactor, {1.0});
+        f.note(42, head.measurement);
+    }
+    f.noteUnless(74, head.flipsFirst, {0});
+    f.noteUnless(75, head.flipsSecond, {0});
+    f.note(3, style);
+    if (head.textRotation != 0.0)
+        f.noteAngle(53, head.textRotation);
+    if (head.direction != 0.0)
+        f.noteAngle(51, head.direction);
+    if (head.extrusion != Point{0.0, 0.0, 1.0})
+        f.note(210, head.extrusion);
+}
+
+/// What stands in front of a kind's own fields in the file and, but for the definition point, in the text form.
+/// `readOwn` notes the kind's fields and returns that point; what it adds to the type goes into `flags`.
+template <typename ReadOwn>
+void readDimension(Fields &f, Measured measured, ReadOwn readOwn)
+{
+    f.subclass("AcDbDimension");
+    const std::size_t begin = f.mark();
+    const DimensionHead head = readDimensionHead(f);
+    int flags = 0;
+    const Point definition = readOwn(flags);
+    const std::size_t end = f.mark();
+    noteDimensionHead(f, head, dimensionType(measured, head.flags) | flags, definition);
+    f.moveForward(end, begin);
+}
+
+Point readDistance(Fields &f, Measured measured)
+{
+    f.subclass("AcDbAlignedDimension");
+    f.point(13);
+    f.point(14);
+    const Point definition = f.point();
+    const double oblique = f.real();
+    if (measured == Measured::Rotated) {
+        f.angle(50, {0.0});
+    }
+    if (oblique != 0.0)
+        f.noteAngle(52, oblique);
+    if (measured == Measured::Rotated)
+        f.subclass("AcDbRotatedDimension");
+    return definition;
+}
+
+void readRotated(Fields &f)
+{
+    readDimension(f, Measured::Rotated, [&f](int &) { return readDistance(f, Measured::Rotated); });
+}
+
+void readAligned(Fields &f)
+{
+    readDimension(f, Measured::Aligned, [&f](int &) { return readDistance(f, Measured::Aligned); });
+}
+
+void readOrdinate(Fields &f)
+{
+    readDimension(f, Measured::Ordinate, [&f](int &flags) {
+        f.subclass("AcDbOrdinateDimension");
+        const Point definition = f.point();
+        f.point(13);
+        f.point(14);
+        flags = (f.small() & 1) != 0 ? 64 : 0;
+        return definition;
+    });
+}
+
+void readThreePoints(Fields &f)
+{
+    readDimension(f, Measured::ThreePoints, [&f](int &) {
+        f.subclass("AcDb3PointAngularDimension");
+        const Point definition = f.point();
+        f.point(13);
+        f.point(14);
+        f.point(15);
+        return definition;
+    });
+}
+
+void readTwoLines(Fields &f)
+{
+    readDimension(f, Measured::TwoLines, [&f](int &) {
+        f.subclass("AcDb2LineAngularDimension");
+        const Point arc{f.rawReal(), f.rawReal(), 0.0};
+        f.point(13);
+        f.point(14);
+        f.point(15);
+        const Point definition = f.point();
+        f.note(16, arc);
+        return definition;
+    });
+}
+
+void readRadius(Fields &f)
+{
+    readDimension(f, Measured::Radius, [&f](int &) {
+        f.subclass("AcDbRadialDimension");
+        const Point definition = f.point();
+        f.point(15);
+        f.real(40);
+        return definition;
+    });
+}
+
+void readDiameter(Fields &f)
+{
+    readDimension(f, Measured::Diameter, [&f](int &) {
+        f.subclass("AcDbDiametricDimension");
+        f.point(15);
+        const Point definition = f.point();
+        f.real(40);
+        return definition;
+    });
+}
+
+void noteUnlessPoint(Fields &f, int code, Point point, Point usual)
+{
+    if (point != usual)
+        f.note(code, point);
+}
+
+void readLeader(Fields &f)
+{
+    f.subclass("AcDbLeader");
+    const std::size_t begin = f.mark();
+    f.flag();
+    f.int16(73);
+    f.int16(72, {0});
+    const std::size_t count = f.count(6);
+    f.note(76, count);
+    std::vector<Point> points(count);
+    for (Point &point : points)
+        point = f.point();
+    f.point(); // the origin of its plane
+    const Point extrusion = f.point();
+    const Point direction = f.point();
+    const Point fromBlock = f.point();
+    const Point fromText = f.since(Release::R14) ? f.point() : Point();
+    if (f.until(Release::R14))
+        f.real(); // a gap, as its style has it
+    if (f.until(Release::R2007)) {
+        f.real(40);
+        f.real(41);
+    }
+    f.flag(74);
+    f.flag(71, {1});
+    if (f.until(Release::R14)) {
+        f.int16();
+        f.real();
+        f.flag();
+        f.flag();
+        f.int16();
+        f.int16();
+        f.flag();
+        f.flag();
+    }
+    const std::uint64_t annotation = f.reference();
+    f.name(3);
+    f.arrange(begin, {3, 71, 72, 73, 74, 40, 41, 76});
+    for (const Point &point : points)
+        f.note(10, point);
+    if (annotation != 0)
+        f.noteHandle(340, annotation);
+    noteUnlessPoint(f, 210, extrusion, {0.0, 0.0, 1.0});
+    noteUnlessPoint(f, 211, direction, {1.0, 0.0, 0.0});
+    noteUnlessPoint(f, 212, fromBlock, {});
+    noteUnlessPoint(f, 213, fromText, {});
+}
+
+} // namespace
+
+std::span<const ObjectType> dimensionTypes()
+{
+    static constexpr ObjectType rows[] = {
+        {0x14, "DIMENSION", readOrdinate, true}, {0x15, "DIMENSION", readRotated, true},
+        {0x16, "DIMENSION", readAligned, true},  {0x17, "DIMENSION", readThreePoints, true},
+        {0x18, "DIMENSION", readTwoLines, true}, {0x19, "DIMENSION", readRadius, true},
+        {0x1a, "DIMENSION", readDiameter, true}, {0x2d, "LEADER", readLeader, true},
+    };
+    return rows;
+}
+
+} // namespace host::dwg

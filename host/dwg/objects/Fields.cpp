@@ -1,0 +1,363 @@
+#include "host/dwg/objects/Fields.h"
+
+#include "host/dwg/objects/Colours.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <numbers>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr char hexDigits[] = "0123456789ABCDEF";
+
+/// Group codes whose tags have two or three parts are noted as their parts.
+constexpr int nextPart = 10;
+
+/// No colour.
+constexpr int noLimit = -1000;
+
+} // namespace
+
+void Fields::start(BitReader values, BitReader texts, BitReader references)
+{
+    m_values = values;
+    m_texts = texts;
+    m_references = references;
+    m_relations = {};
+    m_buffer.clear();
+    m_notes.clear();
+}
+
+void Fields::splitAt(std::size_t bit)
+{
+    m_references.seek(bit);
+    m_values.endAt(bit);
+}
+
+bool Fields::hasFailed() const
+{
+    return m_values.hasFailed() || m_texts.hasFailed() || m_references.hasFailed();
+}
+
+std::string Fields::text()
+{
+    return since(Release::R2007) ? m_texts.text16() : m_values.text8();
+}
+
+std::uint64_t Fields::reference()
+{
+    return m_references.handle().from(m_relations.handle);
+}
+
+std::size_t Fields::checkedCount(std::int64_t count, std::size_t bits, BitReader &reader)
+{
+    if (count >= 0 && static_cast<std::uint64_t>(count) <= reader.left() / bits)
+        return static_cast<std::size_t>(count);
+    reader.fail();
+    return 0;
+}
+
+Point Fields::rawPoint(int code)
+{
+    return note(code, Point{rawReal(), rawReal(), rawReal()});
+}
+
+Point Fields::rawFlatPoint(int code)
+{
+    const Point point{rawReal(), rawReal(), 0.0};
+    noteFlat(code, point);
+    return point;
+}
+
+Point Fields::flatPoint(int code)
+{
+    const Point point{real(), real(), 0.0};
+    noteFlat(code, point);
+    return point;
+}
+
+double Fields::angle(int code)
+{
+    const double radians = real();
+    noteAngle(code, radians);
+    return radians;
+}
+
+double Fields::angle(int code, Unless unless)
+{
+    const double radians = real();
+    if (radians != unless.usual)
+        noteAngle(code, radians);
+    return radians;
+}
+
+Point Fields::extrusion()
+{
+    const Point direction = m_values.extrusion(m_release);
+    if (direction != Point{0.0, 0.0, 1.0})
+        note(210, direction);
+    return direction;
+}
+
+double Fields::thickness()
+{
+    return noteUnless(39, m_values.thickness(m_release), {0.0});
+}
+
+std::string Fields::text(int code)
+{
+    std::string value = text();
+    note(code, value);
+    return value;
+}
+
+std::string Fields::textUnlessEmpty(int code)
+{
+    std::string value = text();
+    if (!value.empty())
+        note(code, value);
+    return value;
+}
+
+std::uint64_t Fields::reference(int code)
+{
+    const std::uint64_t handle = reference();
+    noteHandle(code, handle);
+    return handle;
+}
+
+std::uint64_t Fields::referenceUnlessNull(int code)
+{
+    const std::uint64_t handle = reference();
+    if (handle != 0)
+        noteHandle(code, handle);
+    return handle;
+}
+
+std::string_view Fields::name(int code)
+{
+    const std::string_view name = nameOf(reference());
+    note(code, name);
+    return name;
+}
+
+std::string_view Fields::nameOf(std::uint64_t handle) const
+{
+    const auto found = m_names.find(handle);
+    return found != m_names.end() ? std::string_view(found->second) : std::string_view();
+}
+
+int Fields::colour(int code)
+{
+    return colour(code, noLimit);
+}
+
+int Fields::colour(int code, int unless)
+{
+    if (since(Release::R2004))
+        return noteLongColour(code, unless);
+    const int number = int16();
+    if (number != unless)
+        note(code, number);
+    return number;
+}
+
+int Fields::longColour(int code)
+{
+    return noteLongColour(code, noLimit);
+}
+
+int Fields::noteLongColour(int code, int unless)
+{
+    int16(); // an index of old, always 0
+    const auto rgb = static_cast<std::uint32_t>(int32());
+    const int parts = small();
+    std::string name;
+    std::string book;
+    if ((parts & 1) != 0)
+        name = text();
+    if ((parts & 2) != 0)
+        book = text();
+    if (!book.empty())
+        name = book + "$" + name;
+    const int index = colourIndex(rgb);
+    if (index != unless || isTrueColour(rgb))
+        noteColour(code, index, rgb, name);
+    return index;
+}
+
+void Fields::wholeColour(int code)
+{
+    const int number = int16();
+    std::uint32_t whole = wholeColourOf(number);
+    if (since(Release::R2004)) {
+        whole = static_cast<std::uint32_t>(int32());
+        const int parts = small();
+        if ((parts & 1) != 0)
+            text();
+        if ((parts & 2) != 0)
+            text();
+    }
+    note(code, static_cast<std::int32_t>(whole));
+}
+
+void Fields::noteColour(int code, int index, std::uint32_t rgb, std::string_view name)
+{
+    note(code, index);
+    // 62 goes with 420 and 430, 63 with 421 and 431, and so on.
+    const int further = code + 358;
+    if (isTrueColour(rgb))
+        note(further, static_cast<int>(rgb & 0xffffff));
+    if (!name.empty())
+        note(further + 10, name);
+}
+
+Point Fields::note(int code, Point point)
+{
+    addReal(code, point.x);
+    addReal(code + nextPart, point.y);
+    addReal(code + 2 * nextPart, point.z);
+    return point;
+}
+
+void Fields::noteFlat(int code, Point point)
+{
+    addReal(code, point.x);
+    addReal(code + nextPart, point.y);
+}
+
+void Fields::note(int code, std::string_view text)
+{
+    const std::size_t begin = m_buffer.size();
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= 0x20 && c != '^') {
+            m_buffer += c;
+        } else {
+            // What would end the line, and the sign that stands for it.
+            m_buffer += '^';
+            m_buffer += c == '^' ? ' ' : static_cast<char>(byte + 0x40);
+        }
+    }
+    close(code, begin);
+}
+
+void Fields::noteHandle(int code, std::uint64_t handle)
+{
+    const std::size_t begin = m_buffer.size();
+    char digits[16];
+    char *const end = std::to_chars(digits, digits + sizeof digits, handle, 16).ptr;
+    std::transform(digits, end, digits, [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    m_buffer.append(digits, end);
+    close(code, begin);
+}
+
+void Fields::noteAngle(int code, double radians)
+{
+    addReal(code, radians * 180.0 / std::numbers::pi);
+}
+
+void Fields::noteBinary(int code, std::string_view bytes)
+{
+    constexpr std::size_t mostOfATag = 127;
+    while (!bytes.empty()) {
+        const std::size_t begin = m_buffer.size();
+        for (const char c : bytes.substr(0, mostOfATag)) {
+            const auto byte = static_cast<unsigned char>(c);
+            m_buffer += hexDigits[byte >> 4];
+            m_buffer += hexDigits[byte & 0xf];
+        }
+        close(code, begin);
+        bytes.remove_prefix(std::min(mostOfATag, bytes.size()));
+    }
+}
+
+void Fields::noteLong(int code, int part, std::string_view text)
+{
+    constexpr std::size_t mostOfATag = 250;
+    while (text.size() > mostOfATag) {
+        std::size_t length = mostOfATag;
+        // A character of several bytes is not cut.
+        while (since(Release::R2007) && length > mostOfATag - 4 && (text[length] & 0xc0) == 0x80)
+            --length;
+        note(part, text.substr(0, length));
+        text.remove_prefix(length);
+    }
+    note(code, text);
+}
+
+void Fields::addReal(int code, double value)
+{
+    const std::size_t begin = m_buffer.size();
+    char digits[40];
+    if (!std::isfinite(value))
+        value = 0.0;
+    char *end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    m_buffer.append(digits, end);
+    if (std::none_of(digits, end, [](char c) { return c == '.' || c == 'e'; }))
+        m_buffer += ".0";
+    close(code, begin);
+}
+
+void Fields::addInteger(int code, std::int64_t value)
+{
+    const std::size_t begin = m_buffer.size();
+    char digits[24];
+    m_buffer.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+    close(code, begin);
+}
+
+void Fields::close(int code, std::size_t begin)
+{
+    m_notes.push_back({code, static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(m_buffer.size())});
+}
+
+void Fields::arrange(std::size_t from, std::initializer_list<int> codes)
+{
+    m_arranged.clear();
+    std::vector<Note> left(m_notes.begin() + static_cast<std::ptrdiff_t>(from), m_notes.end());
+    for (auto code = codes.begin(); code != codes.end(); ++code) {
+        const bool comesAgain = std::find(code + 1, codes.end(), *code) != codes.end();
+        auto kept = left.begin();
+        for (auto note = left.begin(); note != left.end(); ++note) {
+            const bool isTaken =
+                note->code == *code && !(comesAgain && !m_arranged.empty() && m_arranged.back().code == *code);
+            if (isTaken)
+                m_arranged.push_back(*note);
+            else
+                *kept++ = *note;
+        }
+        left.erase(kept, left.end());
+    }
+    m_arranged.insert(m_arranged.end(), left.begin(), left.end());
+    std::copy(m_arranged.begin(), m_arranged.end(), m_notes.begin() + static_cast<std::ptrdiff_t>(from));
+}
+
+void Fields::moveForward(std::size_t from, std::size_t to)
+{
+    moveRange(from, m_notes.size(), to);
+}
+
+void Fields::moveRange(std::size_t from, std::size_t end, std::size_t to)
+{
+    const auto at = [this](std::size_t place) { return m_notes.begin() + static_cast<std::ptrdiff_t>(place); };
+    std::rotate(at(to), at(from), at(end));
+}
+
+void Fields::write(std::string &lines) const
+{
+    for (const Note &note : m_notes) {
+        char digits[16];
+        char *const end = std::to_chars(digits, digits + sizeof digits, note.code).ptr;
+        lines.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, 3 - (end - digits))), ' ');
+        lines.append(digits, end);
+        lines += '\n';
+        lines.append(m_buffer, note.begin, note.end - note.begin);
+        lines += '\n';
+    }
+}
+
+} // namespace host::dwg

@@ -1,0 +1,200 @@
+#pragma once
+
+#include "host/dwg/bits/BitReader.h"
+
+#include <initializer_list>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace host::dwg {
+
+/// What objects refer to by handle and drawings in text form by name: entries of tables.
+using Names = std::unordered_map<std::uint64_t, std::string>;
+
+/// What an object refers to that stands elsewhere, for whoever puts the drawing together. Handles; 0 names nothing.
+struct Relations
+{
+    std::uint64_t handle = 0;
+    std::uint64_t owner = 0;
+    std::uint64_t dictionary = 0; ///< its extension dictionary
+    std::uint64_t next = 0;       ///< the entity behind it in its block, before R2004
+    std::uint64_t firstOwned = 0; ///< before R2004 what it has is a chain from here
+    std::uint64_t lastOwned = 0;
+    std::uint64_t end = 0;   ///< what closes its list: SEQEND, ENDBLK
+    std::uint64_t begin = 0; ///< what opens it: BLOCK
+    std::vector<std::uint64_t> owned;
+    std::vector<std::uint64_t> entries; ///< of a dictionary
+    bool isEntity = false;
+    bool hasList = false; ///< attributes or vertices follow
+};
+
+/// The fields of one object while it is read: each call takes the next coded value of the object and notes it as the
+/// tag that it is in the text form of a drawing. A type of object is one function over this (TypeTable.h), with each of
+/// its fields in one place: what the field is in the file, in which releases, and its group code.
+///
+/// An object has three runs of bits, each with a place of its own: its values, its references, and from R2007 on its
+/// texts. Values that cannot be read are 0 or empty, and hasFailed() is true from then on.
+///
+/// Where the text form has another order than the file, arrange() brings what was noted into it.
+class Fields
+{
+public:
+    /// Left out of the tags where the value is this.
+    struct Unless
+    {
+        double usual;
+    };
+
+    Fields(Release release, const Names &names) : m_release(release), m_names(names) {}
+
+    /// Begins another object; keeps the room that the last one took.
+    void start(BitReader values, BitReader texts, BitReader references);
+    /// Where the references begin, for objects that tell it behind their head (R13, R14).
+    void splitAt(std::size_t bit);
+    bool hasFailed() const;
+    void fail() { m_values.fail(); }
+
+    Release release() const { return m_release; }
+    bool since(Release release) const { return m_release >= release; }
+    bool until(Release release) const { return m_release <= release; }
+    BitReader &values() { return m_values; }
+    BitReader &references() { return m_references; }
+    Relations &relations() { return m_relations; }
+
+    // Values that are read alone.
+    bool flag() { return m_values.bit(); }
+    int small() { return m_values.byte(); }
+    int int16() { return m_values.shortInteger(); }
+    int int32() { return m_values.longInteger(); }
+    double real() { return m_values.real(); }
+    double rawReal() { return m_values.rawReal(); }
+    Point point() { return m_values.point(); }
+    std::string text();
+    std::uint64_t reference();
+    /// A number of things that follow, each of at least `bits` bits in the file: 0, and failed, where no room is for as
+    /// many.
+    std::size_t count(std::size_t bits = 1) { return checkedCount(m_values.longInteger(), bits, m_values); }
+    std::size_t smallCount(std::size_t bits = 1) { return checkedCount(m_values.shortInteger(), bits, m_values); }
+    std::size_t checkedCount(std::int64_t count, std::size_t bits, BitReader &reader);
+
+    // The same, noted under a group code; each returns the value.
+    bool flag(int code) { return note(code, flag()); }
+    int small(int code) { return note(code, small()); }
+    int int16(int code) { return note(code, int16()); }
+    int int32(int code) { return note(code, int32()); }
+    double real(int code) { return note(code, real()); }
+    double rawReal(int code) { return note(code, rawReal()); }
+    Point point(int code) { return note(code, point()); }
+    int int16(int code, Unless unless) { return noteUnless(code, int16(), unless); }
+    int int32(int code, Unless unless) { return noteUnless(code, int32(), unless); }
+    int small(int code, Unless unless) { return noteUnless(code, small(), unless); }
+    bool flag(int code, Unless unless) { return noteUnless(code, flag(), unless); }
+    double real(int code, Unless unless) { return noteUnless(code, real(), unless); }
+    double rawReal(int code, Unless unless) { return noteUnless(code, rawReal(), unless); }
+    Point rawPoint(int code);     ///< three raw numbers
+    Point rawFlatPoint(int code); ///< two of them
+    Point flatPoint(int code);    ///< two coded numbers
+    double angle(int code);       ///< in radians, noted in degrees
+    double angle(int code, Unless unless);
+    Point extrusion();  ///< 210, unless it is the z axis
+    double thickness(); ///< 39, unless 0
+    std::string text(int code);
+    std::string textUnlessEmpty(int code);
+    std::uint64_t reference(int code);
+    std::uint64_t referenceUnlessNull(int code);
+    /// The name of what is referred to; empty where nothing is.
+    std::string_view name(int code);
+    /// A colour: a number, from R2004 on one of 24 bits and names. Noted as the index, and under `code` + 358 (420 for
+    /// 62) and + 368 (430) what goes beyond it.
+    int colour(int code);
+    int colour(int code, int unless);
+    /// The same for objects that came with R2004, which have its colours in earlier files too.
+    int longColour(int code);
+
+    /// A colour noted as the 32 bits that it has from R2004 on.
+    void wholeColour(int code);
+
+    // Tags that are not read where they stand.
+    template <typename Number>
+    Number note(int code, Number value)
+    {
+        if constexpr (std::is_floating_point_v<Number>)
+            addReal(code, value);
+        else
+            addInteger(code, static_cast<std::int64_t>(value));
+        return value;
+    }
+    Point note(int code, Point point);
+    void noteFlat(int code, Point point);
+    void note(int code, std::string_view text);
+    void note(int code, const std::string &text) { note(code, std::string_view(text)); }
+    void note(int code, const char *text) { note(code, std::string_view(text)); }
+    void noteHandle(int code, std::uint64_t handle);
+    template <typename Number>
+    Number noteUnless(int code, Number value, Unless unless)
+    {
+        return static_cast<double>(value) == unless.usual ? value : note(code, value);
+    }
+    void noteAngle(int code, double radians);
+    /// Binary data, in tags of up to 127 bytes.
+    void noteBinary(int code, std::string_view bytes);
+    /// A text that is longer than 250 bytes in several tags: `part` each, `code` the last.
+    void noteLong(int code, int part, std::string_view text);
+    void noteColour(int code, int index, std::uint32_t rgb, std::string_view name);
+    /// Group 100.
+    void subclass(const char *name) { note(100, name); }
+    std::string_view nameOf(std::uint64_t handle) const;
+
+    /// The name that group 0 gets, where the type's usual one does not fit.
+    void setTypeName(std::string_view name) { m_typeName = name; }
+    std::string_view typeName() const { return m_typeName; }
+
+    /// Where the next tag will be, for arrange().
+    std::size_t mark() const { return m_notes.size(); }
+    /// Orders the tags from `from` on as `codes` have it: all of the first code, then all of the second. What has none
+    /// of these codes stays behind in its order. A code that stands there twice takes one tag the first time.
+    void arrange(std::size_t from, std::initializer_list<int> codes);
+    /// Moves the tags from `from` on to `to`, in front of it.
+    void moveForward(std::size_t from, std::size_t to);
+    /// Moves the tags from `from` to before `end` in front of the one at `to`, which stands in front of them.
+    void moveRange(std::size_t from, std::size_t end, std::size_t to);
+    /// Takes back what was noted from there on.
+    void drop(std::size_t from) { m_notes.resize(from); }
+    /// Gives all tags, in order, to `take`: code and value.
+    template <typename Take>
+    void forEachTag(Take take) const
+    {
+        for (const Note &note : m_notes)
+            take(note.code, std::string_view(m_buffer).substr(note.begin, note.end - note.begin));
+    }
+    /// Adds all tags to `lines` as a file has them.
+    void write(std::string &lines) const;
+
+private:
+    struct Note
+    {
+        int code;
+        std::uint32_t begin;
+        std::uint32_t end;
+    };
+
+    int noteLongColour(int code, int unless);
+    void addReal(int code, double value);
+    void addInteger(int code, std::int64_t value);
+    void close(int code, std::size_t begin);
+
+    Release m_release;
+    const Names &m_names;
+    BitReader m_values;
+    BitReader m_texts;
+    BitReader m_references;
+    Relations m_relations;
+    std::string_view m_typeName;
+    std::string m_buffer; ///< the tags' values, one behind the other
+    std::vector<Note> m_notes;
+    std::vector<Note> m_arranged; ///< kept for its room
+};
+
+} // namespace host::dwg

@@ -1,0 +1,288 @@
+#include "host/dwg/objects/ObjectHead.h"
+
+#include "host/dwg/bits/Checksums.h"
+#include "host/dwg/objects/Colours.h"
+#include "host/dwg/objects/ExtendedData.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+/// An entity's colour, whose parts stand in two runs of bits.
+struct EntityColour
+{
+    int index = 256;
+    std::uint32_t rgb = 0;
+    std::uint32_t transparency = 0;
+    bool isNamed = false; ///< a reference to the name follows
+};
+
+EntityColour readEntityColour(Fields &fields)
+{
+    EntityColour colour;
+    const int number = fields.int16();
+    if (!fields.since(Release::R2004)) {
+        colour.index = number;
+        return colour;
+    }
+    constexpr int hasRgb = 0x8000;
+    constexpr int hasName = 0x4000;
+    constexpr int hasTransparency = 0x2000;
+    colour.index = number & 0x1ff;
+    colour.isNamed = (number & hasName) != 0;
+    if ((number & hasRgb) != 0 && !colour.isNamed) {
+        colour.rgb = static_cast<std::uint32_t>(fields.int32());
+        colour.index = colourIndex(colour.rgb);
+    }
+    if ((number & hasTransparency) != 0)
+        colour.transparency = static_cast<std::uint32_t>(fields.int32());
+    return colour;
+}
+
+/// Numbers of two bits in entities: where the linetype, the plot style and the material come from.
+constexpr int fromReference = 3;
+
+} // namespace
+
+bool isPaperSpace(std::string_view name)
+{
+    constexpr std::string_view beginning = "*PAPER_SPACE";
+    return name.size() >= beginning.size() &&
+           std::equal(beginning.begin(), beginning.end(), name.begin(),
+                      [](char upper, char c) { return upper == (c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c); });
+}
+
+int lineWeight(int number)
+{
+    constexpr std::array<int, 24> weights = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
+                                             53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+    if (number >= 0 && number < static_cast<int>(weights.size()))
+        return weights[static_cast<std::size_t>(number)];
+    return number == 29 ? -1 : number == 30 ? -2 : -3;
+}
+
+std::optional<ObjectFrame> peekAt(Bytes objects, std::uint64_t place, Release release)
+{
+    if (place >= objects.size())
+        return std::nullopt;
+    BitReader reader(objects, place * 8, objects.size() * 8);
+    const std::size_t size = reader.modularShort();
+    const std::uint64_t referenceBits = release >= Release::R2010 ? reader.modularUnsigned() : 0;
+    const std::size_t begin = reader.position() / 8;
+    if (reader.hasFailed() || size == 0 || size > objects.size() - begin || referenceBits > size * 8)
+        return std::nullopt;
+    ObjectFrame frame;
+    frame.bytes = objects.subspan(begin, size);
+    BitReader body(frame.bytes);
+    frame.type = body.objectType(release);
+    if (release >= Release::R2000 && release <= Release::R2007)
+        frame.referencesStart = body.raw32();
+    else if (release >= Release::R2010)
+        frame.referencesStart = size * 8 - referenceBits;
+    frame.bodyStart = body.position();
+    if (body.hasFailed() || frame.referencesStart > size * 8)
+        return std::nullopt;
+    return frame;
+}
+
+std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release release)
+{
+    std::optional<ObjectFrame> frame = peekAt(objects, place, release);
+    if (frame) {
+        const Bytes whole =
+            objects.subspan(place, static_cast<std::size_t>(&frame->bytes.back() + 1 - &objects[place]));
+        BitReader told(objects, (place + whole.size()) * 8, objects.size() * 8);
+        frame->isChecked = checksum16(whole, 0xc0c1) == told.raw16();
+    }
+    return frame;
+}
+
+BitReader textsOf(Bytes bytes, std::size_t end)
+{
+    const auto numberAt = [bytes](std::size_t bit) { return BitReader(bytes, bit, bytes.size() * 8).raw16(); };
+    if (end < 17 || !BitReader(bytes, end - 1, end).bit())
+        return BitReader(bytes, end, end);
+    std::size_t at = end - 17;
+    std::size_t size = numberAt(at);
+    if ((size & 0x8000) != 0) {
+        if (at < 16)
+            return BitReader(bytes, end, end);
+        at -= 16;
+        size = (size & 0x7fff) | static_cast<std::size_t>(numberAt(at)) << 15;
+    }
+    return size <= at ? BitReader(bytes, at - size, at) : BitReader(bytes, end, end);
+}
+
+void ObjectHead::read(const ObjectFrame &frame, bool isEntity, Fields &fields)
+{
+    m_extensions.clear();
+    m_reactors.clear();
+    m_graphics.clear();
+    m_space = 0;
+    m_objectEnd = frame.referencesStart;
+    const std::size_t all = frame.bytes.size() * 8;
+    BitReader texts;
+    if (fields.since(Release::R2007))
+        texts = textsOf(frame.bytes, m_objectEnd);
+    const std::size_t valuesEnd = texts.left() > 0 ? texts.position() : m_objectEnd != 0 ? m_objectEnd : all;
+    fields.start(BitReader(frame.bytes, frame.bodyStart, valuesEnd), texts, BitReader(frame.bytes, m_objectEnd, all));
+    fields.relations().isEntity = isEntity;
+    fields.relations().handle = fields.values().handle().value;
+    readExtensions(fields);
+    if (isEntity)
+        readEntityHead(fields);
+    else
+        readObjectHead(fields);
+}
+
+void ObjectHead::readExtensions(Fields &fields)
+{
+    BitReader &values = fields.values();
+    while (!values.hasFailed()) {
+        const int size = values.shortInteger();
+        if (size <= 0)
+            break;
+        const std::uint64_t application = values.handle().from(fields.relations().handle);
+        m_extensions.push_back({application, values.rawBytes(static_cast<std::size_t>(size))});
+    }
+}
+
+void ObjectHead::readEntityHead(Fields &fields)
+{
+    BitReader &values = fields.values();
+    if (values.bit()) {
+        const std::uint64_t size = fields.since(Release::R2010) ? values.longLong() : values.raw32();
+        m_graphics = values.rawBytes(size);
+    }
+    if (fields.until(Release::R14))
+        fields.splitAt(values.raw32());
+    m_space = values.pair();
+    const std::int32_t reactorCount = values.longInteger();
+    const bool hasNoDictionary = fields.since(Release::R2004) && values.bit();
+    if (fields.since(Release::R2013))
+        values.bit(); // its data is in a section of its own
+    const bool isByLayer = fields.until(Release::R14) && values.bit();
+    const bool hasNoLinks = fields.until(Release::R2000) && values.bit();
+    const EntityColour colour = readEntityColour(fields);
+    const double scale = values.real();
+    const bool hasFlags = fields.since(Release::R2000);
+    const int linetype = hasFlags ? values.pair() : isByLayer ? 0 : fromReference;
+    const int plotStyle = hasFlags ? values.pair() : 0;
+    const int material = fields.since(Release::R2007) ? values.pair() : 0;
+    const int shadow = fields.since(Release::R2007) ? values.byte() : 0;
+    std::array<bool, 3> hasVisualStyle{};
+    if (fields.since(Release::R2010)) {
+        for (bool &has : hasVisualStyle)
+            has = values.bit();
+    }
+    const int invisible = values.shortInteger();
+    const int weight = hasFlags ? lineWeight(values.byte()) : -1;
+
+    readRelations(fields, reactorCount, hasNoDictionary);
+    std::uint64_t layer = 0;
+    std::uint64_t linetypeReference = 0;
+    const auto readLayer = [&] {
+        layer = fields.reference();
+        if (linetype == fromReference)
+            linetypeReference = fields.reference();
+    };
+    if (!hasFlags)
+        readLayer();
+    if (fields.until(Release::R2000)) {
+        if (!hasNoLinks)
+            fields.reference();
+        const std::uint64_t next = hasNoLinks ? fields.relations().handle + 1 : fields.reference();
+        fields.relations().next = next;
+    }
+    const std::uint64_t colourName = colour.isNamed ? fields.reference() : 0;
+    if (hasFlags)
+        readLayer();
+
+    noteRelations(fields);
+    fields.subclass("AcDbEntity");
+    if (isPaperSpace(fields.nameOf(fields.relations().owner)))
+        fields.note(67, 1);
+    fields.note(8, fields.nameOf(layer));
+    if (linetype != 0)
+        fields.note(6, linetype == 1   ? std::string_view("ByBlock")
+                       : linetype == 2 ? std::string_view("Continuous")
+                                       : fields.nameOf(linetypeReference));
+    if (material == fromReference)
+        fields.reference(347);
+    else if (material == 1 || material == 2)
+        fields.noteHandle(347, 0);
+    const std::uint64_t plotStyleReference = plotStyle == fromReference ? fields.reference() : 0;
+    if (colour.index != 256 || colour.rgb != 0 || colour.isNamed)
+        fields.noteColour(62, colour.index, colour.rgb, fields.nameOf(colourName));
+    if (colour.transparency != 0)
+        fields.note(440, static_cast<std::int32_t>(colour.transparency));
+    fields.noteUnless(48, scale, {1.0});
+    fields.noteUnless(60, invisible & 1, {0});
+    fields.noteUnless(370, weight, {-1});
+    if (plotStyleReference != 0)
+        fields.noteHandle(390, plotStyleReference);
+    fields.noteUnless(284, shadow, {0});
+    for (std::size_t i = 0; i < hasVisualStyle.size(); ++i) {
+        if (hasVisualStyle[i])
+            fields.reference(348);
+    }
+    if (!m_graphics.empty()) {
+        fields.note(fields.since(Release::R2010) ? 160 : 92, m_graphics.size());
+        fields.noteBinary(310, m_graphics);
+    }
+}
+
+void ObjectHead::readObjectHead(Fields &fields)
+{
+    BitReader &values = fields.values();
+    if (fields.until(Release::R14))
+        fields.splitAt(values.raw32());
+    const std::int32_t reactorCount = values.longInteger();
+    const bool hasNoDictionary = fields.since(Release::R2004) && values.bit();
+    if (fields.since(Release::R2013))
+        values.bit();
+    readRelations(fields, reactorCount, hasNoDictionary);
+    noteRelations(fields);
+}
+
+void ObjectHead::readRelations(Fields &fields, std::int32_t reactorCount, bool hasNoDictionary)
+{
+    Relations &relations = fields.relations();
+    relations.owner = m_space == 0 ? fields.reference() : m_space == 1 ? m_spaces.paper : m_spaces.model;
+    const std::size_t count = fields.checkedCount(reactorCount, 8, fields.references());
+    for (std::size_t i = 0; i < count; ++i)
+        m_reactors.push_back(fields.reference());
+    if (!hasNoDictionary)
+        relations.dictionary = fields.reference();
+}
+
+void ObjectHead::noteRelations(Fields &fields) const
+{
+    const Relations &relations = fields.relations();
+    fields.noteHandle(fields.typeName() == "DIMSTYLE" ? 105 : 5, relations.handle);
+    if (relations.dictionary != 0) {
+        fields.note(102, "{ACAD_XDICTIONARY");
+        fields.noteHandle(360, relations.dictionary);
+        fields.note(102, "}");
+    }
+    if (!m_reactors.empty()) {
+        fields.note(102, "{ACAD_REACTORS");
+        for (const std::uint64_t reactor : m_reactors)
+            fields.noteHandle(330, reactor);
+        fields.note(102, "}");
+    }
+    fields.noteHandle(330, relations.owner);
+}
+
+void ObjectHead::noteExtendedData(Fields &fields) const
+{
+    for (const Extension &extension : m_extensions) {
+        const Bytes bytes(reinterpret_cast<const std::uint8_t *>(extension.bytes.data()), extension.bytes.size());
+        fields.note(1001, fields.nameOf(extension.application));
+        noteExtension(bytes, fields);
+    }
+}
+
+} // namespace host::dwg

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/dwg/objects/Fields.h"
+
+namespace host::dwg {
+
+/// One object as it stands in a file: what all objects begin with.
+struct ObjectFrame
+{
+    Bytes bytes; ///< from the type on, without length and checksum
+    int type = 0;
+    bool isChecked = false;          ///< the checksum behind it fits; not looked at by peekAt()
+    std::size_t bodyStart = 0;       ///< bits
+    std::size_t referencesStart = 0; ///< bits from the start; 0 where the object tells it further on (R13, R14)
+};
+
+/// Finds the object at a place of what the object map counts in. Nothing when no object can be there.
+std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release release);
+/// The same without the checksum.
+std::optional<ObjectFrame> peekAt(Bytes objects, std::uint64_t place, Release release);
+
+/// Where the texts of R2007 and later are: in front of the references, found from their end. Empty when there are none.
+BitReader textsOf(Bytes bytes, std::size_t end);
+
+/// What follows the type: the handle, extended data, and what every entity or every other object has. Notes the tags in
+/// front of the first subclass of the type; extended data is kept for the end.
+class ObjectHead
+{
+public:
+    /// The blocks of the two spaces, which own the entities that do not tell their owner.
+    struct Spaces
+    {
+        std::uint64_t model = 0;
+        std::uint64_t paper = 0;
+    };
+
+    explicit ObjectHead(const Spaces &spaces) : m_spaces(spaces) {}
+
+    /// Starts `fields` with the object.
+    void read(const ObjectFrame &frame, bool isEntity, Fields &fields);
+    /// Notes the extended data behind everything else.
+    void noteExtendedData(Fields &fields) const;
+
+private:
+    struct Extension
+    {
+        std::uint64_t application;
+        std::string bytes;
+    };
+
+    void readExtensions(Fields &fields);
+    void readEntityHead(Fields &fields);
+    void readObjectHead(Fields &fields);
+    void readRelations(Fields &fields, std::int32_t reactorCount, bool hasNoDictionary);
+    void noteRelations(Fields &fields) const;
+
+    Spaces m_spaces;
+    std::vector<Extension> m_extensions;
+    std::vector<std::uint64_t> m_reactors;
+    std::string m_graphics;
+    std::size_t m_objectEnd = 0;
+    int m_space = 0; ///< 1 and 2: those of paper and model space, which do not tell their owner
+};
+
+/// Whether it is the name of a block that a layout shows.
+bool isPaperSpace(std::string_view blockName);
+
+/// The line weight that a number of five bits stands for; -3 to -1 are those of the layer, the block and the default.
+int lineWeight(int number);
+
+} // namespace host::dwg

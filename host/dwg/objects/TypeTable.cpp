@@ -1,0 +1,54 @@
+#include "host/dwg/objects/TypeTable.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+struct AllTypes
+{
+    AllTypes()
+    {
+        for (const auto rows : {curveTypes(), polylineTypes(), textTypes(), insertTypes(), dimensionTypes(),
+                                multiLeaderTypes(), hatchTypes(), solidTypes(), viewportTypes(), imageTypes(),
+                                multiLineTypes(), tableTypes(), dimensionStyleTypes(), dictionaryTypes(), layoutTypes(),
+                                materialTypes(), visualStyleTypes(), styleTypes(), tableStyleTypes()}) {
+            for (const ObjectType &row : rows) {
+                if (row.number != 0)
+                    byNumber.emplace(row.number, &row);
+                byName.emplace(row.name, &row);
+            }
+        }
+    }
+
+    std::unordered_map<int, const ObjectType *> byNumber;
+    std::unordered_map<std::string_view, const ObjectType *> byName;
+};
+
+const AllTypes &allTypes()
+{
+    static const AllTypes types;
+    return types;
+}
+
+template <typename Map, typename Key>
+const ObjectType *rowIn(const Map &map, const Key &key)
+{
+    const auto found = map.find(key);
+    return found != map.end() ? found->second : nullptr;
+}
+
+} // namespace
+
+const ObjectType *typeByNumber(int number)
+{
+    return rowIn(allTypes().byNumber, number);
+}
+
+const ObjectType *typeByClass(std::string_view name)
+{
+    return rowIn(allTypes().byName, name);
+}
+
+} // namespace host::dwg

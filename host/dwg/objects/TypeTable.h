@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/dwg/objects/Fields.h"
+
+#include <span>
+
+namespace host::dwg {
+
+/// A type of object: a row of the table. `read` takes the type's own fields, what follows those that all objects have.
+struct ObjectType
+{
+    int number;             ///< in files; 0 for types that files have as classes
+    const char *name;       ///< in the text form, which is a class's name as well
+    void (*read)(Fields &); ///< null where the object has no more than every object
+    bool isEntity = false;
+};
+
+/// The row of a type with a number of its own; null for what is none, and for types that are not read.
+const ObjectType *typeByNumber(int number);
+/// The row of a class by the name that it has in the text form; null when there is none.
+const ObjectType *typeByClass(std::string_view name);
+
+// The rows, by subject; typeByNumber() and typeByClass() look through all.
+std::span<const ObjectType> curveTypes();     ///< lines, arcs, splines, points, faces
+std::span<const ObjectType> polylineTypes();  ///< polylines and their vertices
+std::span<const ObjectType> textTypes();      ///< texts, attributes, tolerances, shapes
+std::span<const ObjectType> insertTypes();    ///< blocks and what stands in them
+std::span<const ObjectType> dimensionTypes(); ///< dimensions and leaders
+std::span<const ObjectType> multiLeaderTypes();
+std::span<const ObjectType> hatchTypes();
+std::span<const ObjectType> solidTypes();
+std::span<const ObjectType> viewportTypes();
+std::span<const ObjectType> imageTypes();     ///< images and what defines them, wipeouts
+std::span<const ObjectType> multiLineTypes(); ///< and their styles
+std::span<const ObjectType> tableTypes();     ///< the symbol tables' entries
+std::span<const ObjectType> dimensionStyleTypes();
+std::span<const ObjectType> dictionaryTypes(); ///< dictionaries, extension records, groups, variables
+std::span<const ObjectType> layoutTypes();
+std::span<const ObjectType> materialTypes();
+std::span<const ObjectType> visualStyleTypes();
+std::span<const ObjectType> styleTypes();      ///< scales, styles of leaders and views
+std::span<const ObjectType> tableStyleTypes(); ///< of tables with cells
+
+} // namespace host::dwg

@@ -1,0 +1,77 @@
+#include "host/dwg/objects/TypeTable.h"
+
+namespace host::dwg {
+
+namespace {
+
+void readViewportEntity(Fields &f)
+{
+    f.subclass("AcDbViewport");
+    const std::size_t begin = f.mark();
+    f.point(10);
+    f.real(40);
+    f.real(41);
+    f.note(68, 1);
+    f.note(69, 1);
+    if (!f.since(Release::R2000))
+        return;
+    f.point(17);
+    f.point(16);
+    f.angle(51);
+    f.real(45);
+    f.real(42);
+    f.real(43);
+    f.real(44);
+    f.angle(50);
+    for (int code = 12; code <= 15; ++code)
+        f.rawFlatPoint(code);
+    f.int16(72);
+    if (f.since(Release::R2007))
+        f.int16(61);
+    const std::size_t frozen = f.checkedCount(f.int32(), 8, f.references());
+    f.int32(90);
+    f.text(1);
+    f.small(281);
+    f.flag(74);
+    f.flag(71);
+    for (int code = 110; code <= 112; ++code)
+        f.point(code);
+    f.real(146);
+    f.int16(79);
+    if (f.since(Release::R2004))
+        f.int16(170);
+    if (f.since(Release::R2007)) {
+        f.flag(292);
+        f.small(282);
+        f.real(141);
+        f.real(142);
+        f.colour(63);
+    }
+    for (std::size_t i = 0; i < frozen; ++i)
+        f.reference(331);
+    f.referenceUnlessNull(340);
+    if (f.until(Release::R2000))
+        f.reference();
+    f.referenceUnlessNull(345);
+    f.referenceUnlessNull(346);
+    if (f.since(Release::R2007)) {
+        f.referenceUnlessNull(332);
+        f.referenceUnlessNull(348);
+        f.referenceUnlessNull(333);
+        f.referenceUnlessNull(361);
+    }
+    f.arrange(begin,
+              {10,  20,  30,  40,  41,  68,  69, 12,  22,  13, 23,  14,  24,  15,  25,  16,  26,  36,  17,  27,
+               37,  42,  43,  44,  45,  50,  51, 72,  331, 90, 340, 1,   281, 71,  74,  110, 120, 130, 111, 121,
+               131, 112, 122, 132, 345, 346, 79, 146, 170, 61, 332, 333, 348, 292, 282, 141, 142, 63,  421, 361});
+}
+
+} // namespace
+
+std::span<const ObjectType> viewportTypes()
+{
+    static constexpr ObjectType rows[] = {{0x22, "VIEWPORT", readViewportEntity, true}};
+    return rows;
+}
+
+} // namespace host::dwg

@@ -1,0 +1,165 @@
+// Coded values, bit by bit, and what runs out of bits.
+
+#include "host/dwg/bits/BitReader.h"
+#include "host/dwg/bits/Checksums.h"
+#include "host/dwg/container/PageCompression.h"
+#include "host/dwg/objects/Colours.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace host::dwg::test {
+
+namespace {
+
+/// Bits as a row of 0 and 1, blanks between them; filled up with zeros to a whole byte.
+std::vector<std::uint8_t> bitsOf(std::string_view text)
+{
+    std::vector<std::uint8_t> bytes;
+    std::size_t count = 0;
+    for (const char c : text) {
+        if (c == ' ')
+            continue;
+        if (count % 8 == 0)
+            bytes.push_back(0);
+        bytes.back() = static_cast<std::uint8_t>(bytes.back() | (c - '0') << (7 - count % 8));
+        ++count;
+    }
+    return bytes;
+}
+
+struct BitRow
+{
+    const char *name;
+    const char *bits;
+    std::function<std::string(BitReader &)> read;
+    const char *value; ///< "failed" where the bits do not suffice
+};
+
+std::string real(double value)
+{
+    char text[40];
+    std::snprintf(text, sizeof text, "%.17g", value);
+    return text;
+}
+
+std::string reference(BitReader &reader, std::uint64_t from)
+{
+    return std::to_string(reader.handle().from(from));
+}
+
+const BitRow bitRows[] = {
+    {"short raw", "00 11111110 11111111", [](BitReader &r) { return std::to_string(r.shortInteger()); }, "-2"},
+    {"short of a byte", "01 11111110", [](BitReader &r) { return std::to_string(r.shortInteger()); }, "254"},
+    {"short 0", "10", [](BitReader &r) { return std::to_string(r.shortInteger()); }, "0"},
+    {"short 256", "11", [](BitReader &r) { return std::to_string(r.shortInteger()); }, "256"},
+    {"long raw", "00 00000001 00000000 00000000 10000000", [](BitReader &r) { return std::to_string(r.longInteger()); },
+     "-2147483647"},
+    {"long of a byte", "01 00000111", [](BitReader &r) { return std::to_string(r.longInteger()); }, "7"},
+    {"long 0", "10", [](BitReader &r) { return std::to_string(r.longInteger()); }, "0"},
+    {"long long", "010 00000001 00000010", [](BitReader &r) { return std::to_string(r.longLong()); }, "513"},
+    {"long long 0", "000", [](BitReader &r) { return std::to_string(r.longLong()); }, "0"},
+    {"triple", "0 10 110 111",
+     [](BitReader &r) {
+         const int first = r.triple();
+         const int second = r.triple();
+         const int third = r.triple();
+         return std::to_string(first * 1000 + second * 100 + third * 10 + r.triple());
+     },
+     "267"},
+    {"real 1", "01", [](BitReader &r) { return real(r.real()); }, "1"},
+    {"real 0", "10", [](BitReader &r) { return real(r.real()); }, "0"},
+    {"real raw", "00 00000000 00000000 00000000 00000000 00000000 00000000 11110000 10111111",
+     [](BitReader &r) { return real(r.real()); }, "-1"},
+    {"real as usual", "00", [](BitReader &r) { return real(r.realNear(2.5)); }, "2.5"},
+    {"real with other last bytes", "01 00000000 00000000 00000000 00000000",
+     [](BitReader &r) { return real(r.realNear(1.0000000001)); }, "1"},
+    {"real with other middle bytes", "10 00001000 00000000 00000000 00000000 00000000 00000000",
+     [](BitReader &r) { return real(r.realNear(1.0)); }, "1.0000076293945312"},
+    {"thickness 0", "1", [](BitReader &r) { return real(r.thickness(Release::R2000)); }, "0"},
+    {"thickness of R14", "01", [](BitReader &r) { return real(r.thickness(Release::R14)); }, "1"},
+    {"extrusion", "1", [](BitReader &r) { return real(r.extrusion(Release::R2000).z); }, "1"},
+    {"modular number", "10000010 00100100", [](BitReader &r) { return std::to_string(r.modularUnsigned()); }, "4610"},
+    {"modular negative", "10000001 01000010", [](BitReader &r) { return std::to_string(r.modularSigned()); }, "-257"},
+    {"modular short", "00000001 10000000 00000010 00000000",
+     [](BitReader &r) { return std::to_string(r.modularShort()); }, "65537"},
+    {"endless modular number",
+     "11111111 11111111 11111111 11111111 11111111 11111111 11111111 11111111 11111111 11111111",
+     [](BitReader &r) { return std::to_string(r.modularUnsigned()); }, "failed"},
+    {"handle", "0101 0010 00000001 00000010", [](BitReader &r) { return reference(r, 9); }, "258"},
+    {"handle behind", "0110 0000", [](BitReader &r) { return reference(r, 9); }, "10"},
+    {"handle in front", "1000 0000", [](BitReader &r) { return reference(r, 9); }, "8"},
+    {"handle ahead", "1010 0001 00000101", [](BitReader &r) { return reference(r, 9); }, "14"},
+    {"handle back", "1100 0001 00000101", [](BitReader &r) { return reference(r, 9); }, "4"},
+    {"handle of 9 bytes", "0101 1001 00000001", [](BitReader &r) { return reference(r, 9); }, "failed"},
+    {"type of R2010", "00 00010011", [](BitReader &r) { return std::to_string(r.objectType(Release::R2010)); }, "19"},
+    {"type of a class", "01 00000100", [](BitReader &r) { return std::to_string(r.objectType(Release::R2010)); },
+     "500"},
+    {"text", "01 00000010 01101111 01101011", [](BitReader &r) { return r.text8(); }, "ok"},
+    {"text with a zero", "01 00000010 01101111 00000000", [](BitReader &r) { return r.text8(); }, "o"},
+    {"text without its end", "01 00000011 01101111 01101011", [](BitReader &r) { return r.text8(); }, "failed"},
+    {"wide text", "01 00000001 11100100 00000000", [](BitReader &r) { return r.text16(); }, "\xc3\xa4"},
+    {"pair of halves", "01 00000010 00111101 11011000 00000000 11011110", [](BitReader &r) { return r.text16(); },
+     "\xf0\x9f\x98\x80"},
+    {"half alone", "01 00000001 00000000 11011100", [](BitReader &r) { return r.text16(); }, "\xef\xbf\xbd"},
+    {"nothing left", "", [](BitReader &r) { return real(r.real()); }, "failed"},
+};
+
+} // namespace
+
+TEST(DwgBits, AreReadByTheirCodes)
+{
+    for (const BitRow &row : bitRows) {
+        const std::vector<std::uint8_t> bytes = bitsOf(row.bits);
+        BitReader reader(bytes);
+        const std::string value = row.read(reader);
+        EXPECT_EQ(reader.hasFailed() ? "failed" : value, row.value) << row.name;
+        if (!reader.hasFailed()) {
+            EXPECT_LT(reader.left(), 8u) << row.name;
+        }
+    }
+}
+
+TEST(DwgBits, FailureStays)
+{
+    const std::vector<std::uint8_t> bytes = {0xff};
+    BitReader reader(bytes);
+    reader.raw32();
+    EXPECT_TRUE(reader.hasFailed());
+    EXPECT_EQ(reader.byte(), 0);
+    EXPECT_EQ(reader.position(), 0u);
+}
+
+TEST(DwgBits, ChecksumsAreThoseOfKnownBytes)
+{
+    const std::string_view digits = "123456789";
+    const Bytes bytes(reinterpret_cast<const std::uint8_t *>(digits.data()), digits.size());
+    EXPECT_EQ(checksum16(bytes, 0), 0xbb3d);
+    EXPECT_EQ(checksum32(bytes, 0), 0xcbf43926);
+    EXPECT_EQ(pageChecksum(bytes, 0), 0x091501ddu);
+}
+
+TEST(DwgBits, PagesUnpackToTheirSizeOrNotAtAll)
+{
+    // Four bytes as they are, then the last one twelve times, then the end.
+    const std::vector<std::uint8_t> packed = {0x01, 'a', 'b', 'c', 'd', 0xd0, 0x00, 0x11};
+    const auto unpacked = unpackPage(packed, 16);
+    ASSERT_TRUE(unpacked);
+    EXPECT_EQ(std::string(unpacked->begin(), unpacked->end()), "abc" + std::string(13, 'd'));
+    EXPECT_FALSE(unpackPage(packed, 3));
+    const std::vector<std::uint8_t> before = {0x01, 'a', 'b', 'c', 'd', 0x40, 0xff, 0x11};
+    EXPECT_FALSE(unpackPage(before, 16)) << "copies from in front of the page";
+    for (std::size_t length = 0; length + 1 < packed.size(); ++length)
+        EXPECT_FALSE(unpackPage(Bytes(packed).first(length), 16)) << length;
+}
+
+TEST(DwgBits, ColoursHaveTheIndexThatIsNearest)
+{
+    EXPECT_EQ(colourIndex(colourByLayer), 256);
+    EXPECT_EQ(colourIndex(colourByBlock), 0);
+    EXPECT_EQ(colourIndex(indexedColour | 30), 30);
+    EXPECT_EQ(colourIndex(trueColour | 0xff0000), 1);
+    EXPECT_EQ(colourIndex(trueColour | 0xff7f00), 30);
+}
+
+} // namespace host::dwg::test
