@@ -72,6 +72,8 @@ void assignSection(Container &container, std::string_view name, Bytes bytes)
         container.objects = bytes;
     else if (name == "AcDb:SummaryInfo")
         container.summary = bytes;
+    else if (name == "AcDb:Template")
+        container.measurement = bytes;
     else if (name == "AcDb:Preview")
         container.preview = betweenMarks(bytes);
     else if (name == "AcDb:AcDsPrototype_1b")

@@ -23,6 +23,7 @@ struct Container
     /// What the places of the object map count in: the whole file before R2004.
     Bytes objects;
     Bytes summary;
+    Bytes measurement; ///< a text and which units patterns are in
     Bytes preview;
     Bytes dataStore; ///< what objects from R2013 on keep in a section of its own
 

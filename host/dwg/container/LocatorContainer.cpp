@@ -51,6 +51,8 @@ void openLocatorContainer(Bytes file, Container &container, Problems &problems)
             assignSection(container, "AcDb:Classes", part);
         else if (number == 2)
             assignSection(container, "AcDb:Handles", part);
+        else if (number == 4)
+            assignSection(container, "AcDb:Template", part);
     }
     const std::size_t tableEnd = reader.position() / 8;
     if (reader.raw16() != (checksum16(file.first(tableEnd), 0) ^ tableSeed(count)))

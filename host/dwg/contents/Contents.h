@@ -53,6 +53,12 @@ struct Header
 /// the container's.
 Header readHeader(const Container &container, Fields &fields, Problems &problems);
 
+/// Group 70 of $MEASUREMENT, 1 for metric patterns; nothing where the file does not tell it.
+std::optional<int> readMeasurement(const Container &container);
+
+/// Who saved the file last, from R2004 on; nothing where the file does not tell it.
+std::optional<std::string> readLastSavedBy(const Container &container);
+
 /// The name that $DWGCODEPAGE has for the number of a code page.
 std::string_view codePageName(int number);
 

@@ -255,9 +255,17 @@ private:
             if (m_container.release >= Release::R2000 && values.count(local) != 0)
                 values[universal] = values[local];
         }
+        if (m_container.release <= Release::R14)
+            values["$HANDLING"] = tagText(70, "1");
+        const auto measurement = readMeasurement(m_container);
+        if (measurement && m_container.release >= Release::R14)
+            values["$MEASUREMENT"] = tagText(70, std::to_string(*measurement));
+        if (const auto user = readLastSavedBy(m_container))
+            values["$LASTSAVEDBY"] = tagText(1, *user);
         values["$ACADVER"] = tagText(1, "AC" + std::to_string(static_cast<int>(m_container.release)));
-        values["$ACADMAINTVER"] =
-            tagText(m_container.release >= Release::R2018 ? 90 : 70, std::to_string(m_container.maintenance));
+        if (m_container.release >= Release::R14)
+            values["$ACADMAINTVER"] =
+                tagText(m_container.release >= Release::R2018 ? 90 : 70, std::to_string(m_container.maintenance));
         values["$DWGCODEPAGE"] = tagText(3, codePageName(m_container.codePage));
         beginSection("HEADER");
         for (const std::string_view name : headerOrder()) {
