@@ -10,7 +10,7 @@ std::string restOfValues(BitReader &values)
     std::string bytes;
     while (values.left() >= 8 && !values.hasFailed())
         bytes += static_cast<char>(values.byte());
-    if (const int left = static_cast<int>(values.left()); left > 0)
+    if (const int left = static_cast<int>(values.left()); left > 0 && !values.hasFailed())
         bytes += static_cast<char>(values.bits(left) << (8 - left));
     return bytes;
 }
