@@ -111,7 +111,7 @@
     <name>CKvQtColorComboBox</name>
     <message>
         <source>ByBlock</source>
-        <translation>DaBlocco</translation>
+        <translation>ByBlock</translation>
     </message>
     <message>
         <source>Red</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>ByLayer</source>
-        <translation>DaLayer</translation>
+        <translation>ByLayer</translation>
     </message>
     <message>
         <source>Color %1</source>
@@ -4122,7 +4122,7 @@ Spessore di linea corrente: %1</translation>
         <source>
 ByLayer, ByBlock, Default, or 0.00 to 2.11 mm</source>
         <translation>
-DaLayer, DaBlocco, Default o da 0.00 a 2.11 mm</translation>
+ByLayer, ByBlock, Default o da 0.00 a 2.11 mm</translation>
     </message>
     <message>
         <source>from point,</source>
@@ -10845,11 +10845,11 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>ByBlock</source>
-        <translation>DaBlocco</translation>
+        <translation>ByBlock</translation>
     </message>
     <message>
         <source>ByLayer</source>
-        <translation>DaLayer</translation>
+        <translation>ByLayer</translation>
     </message>
     <message>
         <source>CEnter</source>
@@ -14016,7 +14016,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>&quot;%1&quot; is no transparency: ByLayer, ByBlock or 0 to 90.</source>
-        <translation>&quot;%1&quot; non è una trasparenza: DaLayer, DaBlocco o da 0 a 90.</translation>
+        <translation>&quot;%1&quot; non è una trasparenza: ByLayer, ByBlock o da 0 a 90.</translation>
     </message>
     <message>
         <source>%1: the current color is one of the table.</source>

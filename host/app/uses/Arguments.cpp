@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -119,10 +120,29 @@ bool isWish(ProgramOptions &options, const QString &argument)
     return options.wish != Wish::Work;
 }
 
+/// The command in front, where options for every use stand before it: "--language de convert ...".
+QStringList withCommandFirst(QStringList arguments)
+{
+    qsizetype place = 0;
+    while (place < arguments.size() && arguments[place].startsWith("--"_L1)) {
+        const QString name = arguments[place].section(u'=', 0, 0);
+        const auto row = std::ranges::find_if(
+            commonOptions(), [&](const OptionRow &option) { return name == QLatin1StringView(option.name); });
+        if (row == commonOptions().end() || row->apply == nullptr)
+            return arguments;
+        place += row->value && !arguments[place].contains(u'=') ? 2 : 1;
+    }
+    const UseRow *use = place > 0 && place < arguments.size() ? findUse(arguments[place]) : nullptr;
+    if (use && *use->name)
+        arguments.move(place, 0);
+    return arguments;
+}
+
 } // namespace
 
-ProgramOptions parseArguments(const QStringList &arguments)
+ProgramOptions parseArguments(const QStringList &given)
 {
+    const QStringList arguments = withCommandFirst(given);
     ProgramOptions options;
     qsizetype position = 0;
     options.use = &allUses().first();
