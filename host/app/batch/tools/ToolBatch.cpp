@@ -11,6 +11,7 @@
 #include "host/app/workbench/ProgramOutput.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -55,6 +56,7 @@ public:
 
 private:
     QString wrongUse();
+    QString wrongStateFile();
     QString wrongSteps();
     QString wrongStep(const ToolForm &form, const ToolStep &step);
     QString fileForAll() const;
@@ -67,6 +69,7 @@ private:
     QString writeState(const QString &path) const;
     QString select(kernel::Document &document) const;
     QString missingFile(const QList<ToolStep> &steps) const;
+    QString writtenFile(const QList<ToolStep> &steps) const;
     QList<ToolStep> stepsFor(const QString &path) const;
     std::chrono::milliseconds timeLimit() const { return m_options.timeLimit.value_or(usualLimit); }
 
@@ -101,6 +104,19 @@ QStringList linesOf(const QString &printed, QJsonArray &entities)
     return lines;
 }
 
+/// No name of a file that can be written.
+bool isFolder(const QString &path)
+{
+    return path.isEmpty() || path.endsWith(u'/') || QFileInfo(path).isDir();
+}
+
+/// The file of a tool when it was last written; none where there is no such file.
+QDateTime whenWritten(const QString &path)
+{
+    const QFileInfo file(path);
+    return !path.isEmpty() && file.exists() ? file.lastModified() : QDateTime();
+}
+
 /// A tool writes its drawing to the folder, over the input, or not at all.
 QString ToolBatch::wrongUse()
 {
@@ -133,7 +149,7 @@ QString ToolBatch::fileForAll() const
     if (!m_tool.writesFile || isOther)
         return {};
     for (const ToolStep &step : m_options.toolSteps)
-        if (step.kind == Kind::Set && step.key == key)
+        if (step.kind == Kind::Set && step.key == key && !isFolder(step.value))
             return m_options.drawings.size() > 1 && !step.value.contains("{name}"_L1)
                        ? QCoreApplication::translate("Uses",
                                                      "of several drawings each has its own file: put {name} into %1")
@@ -164,6 +180,15 @@ QString ToolBatch::wrongStep(const ToolForm &form, const ToolStep &step)
         return {};
     return QCoreApplication::translate("Uses", "%1 has no key %2%3; it has %4")
         .arg(m_options.commandName, step.key, suggestionFor(step.key, keys), keys.join(", "_L1));
+}
+
+/// The form opens with that file, so it is looked at first.
+QString ToolBatch::wrongStateFile()
+{
+    if (m_options.stateFile.isEmpty() || QFileInfo(m_options.stateFile).isFile())
+        return {};
+    m_wrongStatus = ExitFileError;
+    return QCoreApplication::translate("Batch", "%1: the file cannot be read").arg(native(m_options.stateFile));
 }
 
 /// What the form says of the steps, before a drawing is touched.
@@ -217,6 +242,8 @@ int ToolBatch::run()
     }
     QString wrong = wrongUse();
     if (wrong.isEmpty())
+        wrong = wrongStateFile();
+    if (wrong.isEmpty())
         wrong = wrongSteps();
     if (!wrong.isEmpty()) {
         writeMessage(wrong);
@@ -224,11 +251,6 @@ int ToolBatch::run()
     }
     if (!m_options.isInPlace && tellClashingNames(m_options.drawings))
         return ExitUsage;
-    if (!m_options.stateFile.isEmpty() && !QFileInfo(m_options.stateFile).isFile()) {
-        writeMessage(
-            QCoreApplication::translate("Batch", "%1: the file cannot be read").arg(native(m_options.stateFile)));
-        return ExitFileError;
-    }
     if (!makeFolder(m_options.outFolder))
         return ExitFileError;
     return workOnFiles(m_options, m_options.drawings, [this] { return beginWork(); });
@@ -308,6 +330,16 @@ QString ToolBatch::missingFile(const QList<ToolStep> &steps) const
     return {};
 }
 
+/// The file that the tool is to write, if it is one that writes any; the one named last counts.
+QString ToolBatch::writtenFile(const QList<ToolStep> &steps) const
+{
+    QString path;
+    for (const ToolStep &step : steps)
+        if (m_tool.writesFile && step.kind == Kind::Set && step.key == QLatin1StringView(m_tool.fileKey))
+            path = step.value;
+    return path;
+}
+
 kernel::RunResult ToolBatch::runCommand(kernel::Document &document, ToolDriver &driver)
 {
     kernel::Session &session = document.session();
@@ -351,6 +383,8 @@ QList<ToolStep> ToolBatch::stepsFor(const QString &path) const
 void ToolBatch::workOn(kernel::Document &document, const QString &path, FileResult &result)
 {
     const QList<ToolStep> steps = stepsFor(path);
+    const QString written = writtenFile(steps);
+    const QDateTime before = whenWritten(written);
     ToolDriver driver(m_tool, steps, timeLimit());
     QString printed;
     const QMetaObject::Connection heard = QObject::connect(&document, &kernel::Document::printed, &document,
@@ -375,9 +409,8 @@ void ToolBatch::workOn(kernel::Document &document, const QString &path, FileResu
         result.outcome = Outcome::Failed;
         return;
     }
-    for (const ToolStep &step : steps)
-        if (m_tool.writesFile && step.key == QLatin1StringView(m_tool.fileKey) && QFileInfo::exists(step.value))
-            result.out.append(step.value);
+    if (whenWritten(written) != before)
+        result.out.append(written);
     writeDrawing(document, path, result);
 }
 

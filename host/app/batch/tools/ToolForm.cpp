@@ -17,6 +17,7 @@
 #include <QRadioButton>
 #include <QTextEdit>
 
+#include <cmath>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -173,9 +174,17 @@ QString fieldHelp(const FormField &field, const ToolRow &tool)
                       : help;
 }
 
+/// Colours have whole numbers: half of one is refused before a drawing is opened.
+bool isColour(const QString &value)
+{
+    bool isWhole = false;
+    const int number = value.toInt(&isWhole);
+    return isWhole && number >= 0 && number <= 256;
+}
+
 bool isWithin(const FormField &field, double number)
 {
-    return (field.least.isEmpty() || number >= field.least.toDouble()) &&
+    return std::isfinite(number) && (field.least.isEmpty() || number >= field.least.toDouble()) &&
            (field.most.isEmpty() || number <= field.most.toDouble());
 }
 
@@ -214,7 +223,7 @@ QString checkField(const FormField &field, const QString &value, const ToolRow &
     const bool isWrong = (isYesNo && !yesOrNoOf(value)) ||
                          (isKnown && !field.choices.isEmpty() && !field.choices.contains(value)) ||
                          (field.kind == FieldKind::Number && (!isNumber || !isWithin(field, number))) ||
-                         (field.kind == FieldKind::Colour && (!isNumber || value.toInt() < 0 || value.toInt() > 256));
+                         (field.kind == FieldKind::Colour && !isColour(value));
     return isWrong ? QCoreApplication::translate("Uses", "%1 is %2, not \"%3\"")
                          .arg(field.key, kindHelp(field, tool), value)
                    : QString();
