@@ -117,6 +117,14 @@ QDateTime whenWritten(const QString &path)
     return !path.isEmpty() && file.exists() ? file.lastModified() : QDateTime();
 }
 
+/// Whether the folder takes the file, and an older one of the name can be written over.
+bool canBeWritten(const QString &path)
+{
+    const QFileInfo file(path);
+    const QFileInfo folder(file.path());
+    return folder.isDir() && folder.isWritable() && (!file.exists() || file.isWritable());
+}
+
 /// A tool writes its drawing to the folder, over the input, or not at all.
 QString ToolBatch::wrongUse()
 {
@@ -411,6 +419,8 @@ void ToolBatch::workOn(kernel::Document &document, const QString &path, FileResu
     }
     if (whenWritten(written) != before)
         result.out.append(written);
+    else if (!written.isEmpty() && !canBeWritten(written))
+        result.outcome = Outcome::NotWritten; // the tool said so in passing
     writeDrawing(document, path, result);
 }
 
