@@ -15,26 +15,18 @@ Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStri
     builder.setPrompt(u'\n' + prompt);
     if (reach == PickReach::Alone)
         builder.setAlone();
-    QString option;
-    while (!builder.isDone() && option.isEmpty()) {
-        PromptRequest request = builder.request();
-        const bool takesOptions = request.kind == PromptKind::Selection;
-        if (takesOptions)
-            request.keywords = options + request.keywords;
-        const PromptReply reply = co_await context.ask(std::move(request));
-        if (takesOptions && reply.kind == ReplyKind::Keyword && options.contains(reply.text)) {
-            option = reply.text;
-        } else {
-            builder.setAnsweredByProgram(context.isAnsweredByProgram());
-            builder.add(reply);
-        }
+    builder.setOptions(options);
+    while (!builder.isDone()) {
+        const PromptReply reply = co_await context.ask(builder.request());
+        builder.setAnsweredByProgram(context.isAnsweredByProgram());
+        builder.add(reply);
         const bool isBetween = builder.request().kind == PromptKind::Selection;
         if (end == ChoiceEnd::FirstOfProgram && context.isAnsweredByProgram() && isBetween &&
             !builder.entities().empty())
             break;
     }
     context.document().setPreviousSelection(builder.entities());
-    co_return ObjectChoice{builder.entities(), builder.steps(), option};
+    co_return ObjectChoice{builder.entities(), builder.steps(), builder.option()};
 }
 
 } // namespace host::kernel

@@ -32,11 +32,15 @@ QString withoutExplanation(const QString &option)
     return option.section(QStringLiteral(" ("), 0, 0).trimmed();
 }
 
-/// The option of the prompt that a keyword is the first word of; empty when it lists none.
+/// The option of the prompt that a keyword is a word of ("Landing" of "leader Landing first"), before all one that it
+/// is the first of; empty when it is of none.
 QString optionOf(const QString &keyword, const QStringList &options)
 {
     for (const QString &option : options)
         if (option.section(u' ', 0, 0) == keyword)
+            return option;
+    for (const QString &option : options)
+        if (withoutExplanation(option).split(u' ').contains(keyword))
             return option;
     return {};
 }
