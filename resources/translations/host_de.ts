@@ -12353,7 +12353,7 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     </message>
     <message>
         <source>mOde</source>
-        <translation>Modus</translation>
+        <translation>mOdus</translation>
     </message>
     <message>
         <source>multileadersTyle</source>
@@ -12406,6 +12406,14 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     <message>
         <source>toLerance</source>
         <translation>TOleranz</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>AUsrichten</translation>
+    </message>
+    <message>
+        <source>orthoGraphic</source>
+        <translation>ORthogonal</translation>
     </message>
 </context>
 <context>

@@ -11229,7 +11229,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Hideplot</source>
-        <translation>Ocultartrazado</translation>
+        <translation>OCultartrazado</translation>
     </message>
     <message>
         <source>Home</source>
@@ -11349,7 +11349,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>Layer</source>
-        <translation>Capa</translation>
+        <translation>CApa</translation>
     </message>
     <message>
         <source>Layout</source>
@@ -12241,7 +12241,7 @@ No se puede guardar la configuración del usuario.
     </message>
     <message>
         <source>ltScale</source>
-        <translation>esCalatl</translation>
+        <translation>ESCalatl</translation>
     </message>
     <message>
         <source>mEthod</source>
@@ -12406,6 +12406,14 @@ No se puede guardar la configuración del usuario.
     <message>
         <source>WPolygon</source>
         <translation>VPolígono</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>aLinear</translation>
+    </message>
+    <message>
+        <source>orthoGraphic</source>
+        <translation>orTogonal</translation>
     </message>
 </context>
 <context>

@@ -12353,7 +12353,7 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     </message>
     <message>
         <source>mOde</source>
-        <translation>Mode</translation>
+        <translation>mOde</translation>
     </message>
     <message>
         <source>multileadersTyle</source>
@@ -12406,6 +12406,14 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
     <message>
         <source>toLerance</source>
         <translation>tOlérance</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>ALigner</translation>
+    </message>
+    <message>
+        <source>orthoGraphic</source>
+        <translation>orTHogonal</translation>
     </message>
 </context>
 <context>

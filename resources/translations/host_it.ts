@@ -11345,7 +11345,7 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     </message>
     <message>
         <source>Last</source>
-        <translation>Ultimo</translation>
+        <translation>ULtimo</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -12406,6 +12406,14 @@ Le impostazioni dell&apos;utente non possono essere conservate.
     <message>
         <source>WPolygon</source>
         <translation>FPoligono</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>aLlinea</translation>
+    </message>
+    <message>
+        <source>orthoGraphic</source>
+        <translation>orTogonale</translation>
     </message>
 </context>
 <context>
