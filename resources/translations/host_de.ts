@@ -5598,6 +5598,36 @@ Im Ansichtsfenster %1 sind zurzeit diese Layer gefroren:</translation>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
         <translation>Option eingeben [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </translation>
     </message>
+    <message>
+        <source>  Unloaded</source>
+        <translation>  Entladen</translation>
+    </message>
+    <message>
+        <source>That would be %1 entities; at most %2 are made at once.</source>
+        <translation>Das wären %1 Objekte; höchstens %2 werden auf einmal erzeugt.</translation>
+    </message>
+    <message>
+        <source>A cloud needs a line along which it goes.</source>
+        <translation>Eine Revisionswolke braucht eine Linie, an der sie entlangläuft.</translation>
+    </message>
+    <message>
+        <source>The arcs are too short for this line.</source>
+        <translation>Die Bögen sind für diese Linie zu kurz.</translation>
+    </message>
+    <message>
+        <source>
+Revision cloud finished.</source>
+        <translation>
+Revisionswolke fertiggestellt.</translation>
+    </message>
+    <message>
+        <source>
+******** WARNING ********
+</source>
+        <translation>
+******** WARNUNG ********
+</translation>
+    </message>
 </context>
 <context>
     <name>Comparing</name>

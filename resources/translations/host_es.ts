@@ -5598,6 +5598,36 @@ Capas inutilizadas en la ventana %1:</translation>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
         <translation>Indique una opción [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </translation>
     </message>
+    <message>
+        <source>  Unloaded</source>
+        <translation>  Descargada</translation>
+    </message>
+    <message>
+        <source>That would be %1 entities; at most %2 are made at once.</source>
+        <translation>Serían %1 objetos; se crean %2 como máximo de una vez.</translation>
+    </message>
+    <message>
+        <source>A cloud needs a line along which it goes.</source>
+        <translation>Una nube necesita una línea que recorrer.</translation>
+    </message>
+    <message>
+        <source>The arcs are too short for this line.</source>
+        <translation>Los arcos son demasiado cortos para esta línea.</translation>
+    </message>
+    <message>
+        <source>
+Revision cloud finished.</source>
+        <translation>
+Nube de revisión terminada.</translation>
+    </message>
+    <message>
+        <source>
+******** WARNING ********
+</source>
+        <translation>
+******** ADVERTENCIA ********
+</translation>
+    </message>
 </context>
 <context>
     <name>Comparing</name>

@@ -5598,6 +5598,36 @@ Calques actuellement gelés dans la fenêtre %1&#xa0;:</translation>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
         <translation>Entrez une option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]&#xa0;: </translation>
     </message>
+    <message>
+        <source>  Unloaded</source>
+        <translation>  Déchargée</translation>
+    </message>
+    <message>
+        <source>That would be %1 entities; at most %2 are made at once.</source>
+        <translation>Cela ferait %1 objets ; %2 au plus sont créés en une fois.</translation>
+    </message>
+    <message>
+        <source>A cloud needs a line along which it goes.</source>
+        <translation>Un nuage a besoin d’une ligne le long de laquelle il passe.</translation>
+    </message>
+    <message>
+        <source>The arcs are too short for this line.</source>
+        <translation>Les arcs sont trop courts pour cette ligne.</translation>
+    </message>
+    <message>
+        <source>
+Revision cloud finished.</source>
+        <translation>
+Nuage de révision terminé.</translation>
+    </message>
+    <message>
+        <source>
+******** WARNING ********
+</source>
+        <translation>
+******** AVERTISSEMENT ********
+</translation>
+    </message>
 </context>
 <context>
     <name>Comparing</name>

@@ -5598,6 +5598,36 @@ Layer congelati nella finestra %1:</translation>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
         <translation>Digitare un&apos;opzione [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </translation>
     </message>
+    <message>
+        <source>  Unloaded</source>
+        <translation>  Scaricato</translation>
+    </message>
+    <message>
+        <source>That would be %1 entities; at most %2 are made at once.</source>
+        <translation>Sarebbero %1 oggetti; se ne creano al massimo %2 alla volta.</translation>
+    </message>
+    <message>
+        <source>A cloud needs a line along which it goes.</source>
+        <translation>Un fumetto di revisione ha bisogno di una linea da seguire.</translation>
+    </message>
+    <message>
+        <source>The arcs are too short for this line.</source>
+        <translation>Gli archi sono troppo corti per questa linea.</translation>
+    </message>
+    <message>
+        <source>
+Revision cloud finished.</source>
+        <translation>
+Fumetto di revisione completato.</translation>
+    </message>
+    <message>
+        <source>
+******** WARNING ********
+</source>
+        <translation>
+******** ATTENZIONE ********
+</translation>
+    </message>
 </context>
 <context>
     <name>Comparing</name>

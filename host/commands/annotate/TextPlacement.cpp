@@ -81,7 +81,7 @@ Dialogue<std::optional<TextPlace>> askTextStart(CommandContext &context)
         if (!chosen)
             continue;
         place.justification = chosen;
-        start = co_await context.neededPoint(QLatin1String(chosen->pointPrompt));
+        start = co_await context.neededPoint(Commands::tr(chosen->pointPrompt));
         break;
     }
     place.first = start.point;

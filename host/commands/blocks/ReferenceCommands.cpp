@@ -118,7 +118,7 @@ void listReference(CommandContext &context, const drawing::Block &block)
     const QString type = (block.flags & overlayFlag) ? u"Overlay"_s : u"Attach"_s;
     context.print(u"\n\"%1\"  %2  %3"_s.arg(block.name, block.externalPath, type));
     if (block.isUnloaded)
-        context.print(u"  Unloaded"_s);
+        context.print(Commands::tr("  Unloaded"));
 }
 
 /// Takes the reference out with all its insertions; not while a block or a locked layer has one.

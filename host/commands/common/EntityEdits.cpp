@@ -64,7 +64,8 @@ bool mayCopy(CommandContext &context, std::size_t entities, double copies)
 {
     constexpr double mostCopies = 100'000.0;
     if (copies * double(entities) > mostCopies)
-        context.fail(u"That would be %1 entities; at most %2 are made at once."_s.arg(copies * double(entities))
+        context.fail(Commands::tr("That would be %1 entities; at most %2 are made at once.")
+                         .arg(copies * double(entities))
                          .arg(mostCopies, 0, 'f', 0));
     return !context.hasFailed();
 }

@@ -118,18 +118,18 @@ Dialogue<bool> createCloud(CommandContext &context, CloudLine line, CloudLook lo
 {
     const double arcs = lengthOf(line.points) / look.chord();
     if (line.points.size() < 2 || !(arcs > 0.0)) {
-        context.fail(u"A cloud needs a line along which it goes."_s);
+        context.fail(Commands::tr("A cloud needs a line along which it goes."));
         co_return false;
     }
     if (!(arcs < mostArcs)) {
-        context.fail(u"The arcs are too short for this line."_s);
+        context.fail(Commands::tr("The arcs are too short for this line."));
         co_return false;
     }
     bool isReversed = false;
     if (asksDirection)
         isReversed = co_await askYesNo(context, u"Reverse direction"_s, false);
     createPolyline(context, cloudAlong(std::move(line), look, isReversed));
-    context.print(u"\nRevision cloud finished."_s);
+    context.print(Commands::tr("\nRevision cloud finished."));
     co_return true;
 }
 

@@ -59,7 +59,7 @@ Dialogue<QStringList> askLayersToRemove(CommandContext &context, QString prompt,
 
 Dialogue<bool> isSure(CommandContext &context, QString warning)
 {
-    context.print(u"\n******** WARNING ********\n"_s + warning);
+    context.print(Commands::tr("\n******** WARNING ********\n") + warning);
     const PromptReply sure =
         co_await context.keyword(Commands::tr("Do you wish to continue? [Yes/No] <No>: "), {}, u"No"_s);
     co_return sure.text == u"Yes"_s;
