@@ -143,12 +143,21 @@ struct ProgramTest : testing::Test, TestFolder
     }
 
     /// Divided at blanks; "%20" is one within a word.
-    static QStringList wordsOf(QString arguments)
+    QStringList wordsOf(QString arguments)
     {
         const QString build = qEnvironmentVariable("ORTAKIT_BUILD");
         arguments.replace(u"%BUILD%"_s, build).replace(u"%TOOLS%"_s, build + u"/share/ortakit/tools"_s);
-        arguments.replace(u"%PLAN%"_s, qEnvironmentVariable("ORTAKIT_SOURCE") + u"/samples/plan.dxf"_s);
+        arguments.replace(u"%PLAN%"_s, ownPlan());
         return arguments.split(u' ', Qt::SkipEmptyParts).replaceInStrings(u"%20"_s, u" "_s);
+    }
+
+    /// A copy of the sample, which other tests have open meanwhile.
+    QString ownPlan()
+    {
+        const QString path = folder.filePath(u"originals/plan.dxf"_s);
+        QDir(folder.path()).mkdir(u"originals"_s);
+        QFile::copy(qEnvironmentVariable("ORTAKIT_SOURCE") + u"/samples/plan.dxf"_s, path);
+        return path;
     }
 
     Ended run(const QString &arguments, const QByteArray &input = {})
@@ -334,7 +343,7 @@ struct SharedRun
     explicit SharedRun(ProgramTest &test)
     {
         test.prepare(process);
-        process.start(test.program(), ProgramTest::wordsOf(u"run slow.txt b.dxf a.dxf -j 2 --time-limit 100"_s));
+        process.start(test.program(), test.wordsOf(u"run slow.txt b.dxf a.dxf -j 2 --time-limit 100"_s));
         while (!output.contains("b.dxf: done\n") && process.waitForReadyRead(60'000))
             output += process.readAllStandardOutput();
         const QList<qint64> workers = childrenOf(process.processId());
