@@ -48,6 +48,9 @@ Container openContainer(Bytes file, Problems &problems)
         openCorrectedContainer(file, container, problems);
     else
         openPagedContainer(file, container, problems);
+    const bool hasPages = container.release > Release::R2000;
+    if (hasPages && (container.objectMap.empty() || container.objects.empty()))
+        problems.lose("The file has no map of its objects.");
     return container;
 }
 

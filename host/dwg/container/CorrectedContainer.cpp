@@ -217,8 +217,6 @@ private:
 void openCorrectedContainer(Bytes file, Container &container, Problems &problems)
 {
     File2007(file, problems).read(container);
-    if (container.objectMap.empty() || container.objects.empty())
-        problems.lose("The file has no map of its objects.");
 }
 
 } // namespace host::dwg

@@ -5,7 +5,7 @@ namespace host::dwg {
 
 namespace {
 
-/// The seed is inverted by a number that depends on how many records the table has.
+/// What the checksum of the table of sections begins with, by the count of its records.
 std::uint16_t tableSeed(std::uint32_t count)
 {
     switch (count) {

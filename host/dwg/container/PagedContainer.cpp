@@ -226,8 +226,6 @@ private:
 void openPagedContainer(Bytes file, Container &container, Problems &problems)
 {
     PagedFile(file, problems).read(container);
-    if (container.objectMap.empty() || container.objects.empty())
-        problems.lose("The file has no map of its objects.");
 }
 
 } // namespace host::dwg

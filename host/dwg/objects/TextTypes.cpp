@@ -135,13 +135,9 @@ bool isParagraph(Fields &f)
     return kind == 2 || kind == 4;
 }
 
-void readAttribute(Fields &f)
+/// The tag of an attribute and what goes with it.
+void readTag(Fields &f, const TextValues &text)
 {
-    const TextValues text = readTextValues(f);
-    noteText(f, text);
-    f.subclass("AcDbAttribute");
-    if (isParagraph(f))
-        return f.fail();
     f.text(2);
     const int length = f.int16();
     f.small(70);
@@ -149,6 +145,16 @@ void readAttribute(Fields &f)
     f.noteUnless(74, text.vertical, {0});
     if (f.since(Release::R2007))
         f.flag(280);
+}
+
+void readAttribute(Fields &f)
+{
+    const TextValues text = readTextValues(f);
+    noteText(f, text);
+    f.subclass("AcDbAttribute");
+    if (isParagraph(f))
+        return f.fail();
+    readTag(f, text);
 }
 
 void readAttributeDefinition(Fields &f)
@@ -159,13 +165,7 @@ void readAttributeDefinition(Fields &f)
     const std::size_t begin = f.mark();
     if (isParagraph(f))
         return f.fail();
-    f.text(2);
-    const int length = f.int16();
-    f.small(70);
-    f.noteUnless(73, length, {0});
-    f.noteUnless(74, text.vertical, {0});
-    if (f.since(Release::R2007))
-        f.flag(280);
+    readTag(f, text);
     if (f.since(Release::R2010))
         f.small();
     f.text(3);
