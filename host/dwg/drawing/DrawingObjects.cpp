@@ -1,0 +1,83 @@
+#include "host/dwg/drawing/DrawingObjects.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr int firstClassNumber = 500;
+
+} // namespace
+
+DrawingObjects::DrawingObjects(const Container &container, Problems &problems)
+    : m_container(container), m_problems(problems), m_classes(readClasses(container, problems)),
+      m_map(readObjectMap(container.objectMap, problems)), m_isTaken(m_map.size())
+{
+}
+
+std::size_t DrawingObjects::indexOf(std::uint64_t handle) const
+{
+    const auto found = std::ranges::lower_bound(m_map, handle, {}, &MapEntry::handle);
+    return found != m_map.end() && found->handle == handle ? static_cast<std::size_t>(found - m_map.begin())
+                                                           : m_map.size();
+}
+
+std::optional<ObjectFrame> DrawingObjects::peek(const MapEntry &entry) const
+{
+    return peekAt(m_container.objects, entry.place, m_container.release);
+}
+
+std::optional<ObjectFrame> DrawingObjects::peek(std::uint64_t handle) const
+{
+    const std::size_t index = indexOf(handle);
+    return index != m_map.size() ? peek(m_map[index]) : std::nullopt;
+}
+
+std::optional<ObjectFrame> DrawingObjects::take(std::uint64_t handle)
+{
+    const std::size_t index = indexOf(handle);
+    if (index == m_map.size() || m_isTaken[index])
+        return std::nullopt;
+    m_isTaken[index] = true;
+    auto frame = frameAt(m_container.objects, m_map[index].place, m_container.release);
+    if (!frame)
+        m_problems.add({Problem::Kind::Lost, "There is no object at its place.", {}, handle});
+    else if (!frame->isChecked)
+        warn(handle, frame->type, "The checksum does not fit.");
+    return frame;
+}
+
+const ObjectType *DrawingObjects::typeOf(int number) const
+{
+    if (number < firstClassNumber)
+        return typeByNumber(number);
+    const ObjectClass *one = classOf(number);
+    return one ? typeByClass(one->name) : nullptr;
+}
+
+const ObjectClass *DrawingObjects::classOf(int number) const
+{
+    const auto found = std::ranges::find(m_classes, number, &ObjectClass::number);
+    return found != m_classes.end() ? &*found : nullptr;
+}
+
+std::string DrawingObjects::typeNameOf(int number) const
+{
+    if (const ObjectType *type = typeOf(number))
+        return type->name;
+    const ObjectClass *one = classOf(number);
+    return one ? one->name : "type " + std::to_string(number);
+}
+
+void DrawingObjects::lose(std::uint64_t handle, int type, const char *why)
+{
+    m_problems.add({Problem::Kind::Lost, why, typeNameOf(type), handle});
+}
+
+void DrawingObjects::warn(std::uint64_t handle, int type, const char *why)
+{
+    m_problems.add({Problem::Kind::Warning, why, typeNameOf(type), handle});
+}
+
+} // namespace host::dwg

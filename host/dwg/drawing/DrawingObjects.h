@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/dwg/contents/Contents.h"
+#include "host/dwg/objects/ObjectHead.h"
+#include "host/dwg/objects/TypeTable.h"
+
+namespace host::dwg {
+
+/// The objects of one file by their handles: where each is, of which type, and whether it was taken. What is wrong with
+/// one is told among the problems.
+class DrawingObjects
+{
+public:
+    /// Reads the classes and the map of objects; `container` and `problems` must outlive this.
+    DrawingObjects(const Container &container, Problems &problems);
+
+    Release release() const { return m_container.release; }
+    const std::vector<ObjectClass> &classes() const { return m_classes; }
+    /// All objects by rising handle.
+    const std::vector<MapEntry> &map() const { return m_map; }
+
+    /// The object as it stands in the file, without its checksum; nothing when there is none.
+    std::optional<ObjectFrame> peek(const MapEntry &entry) const;
+    std::optional<ObjectFrame> peek(std::uint64_t handle) const;
+    /// Takes the object, unless it was taken before: each is written once, whoever refers to it.
+    std::optional<ObjectFrame> take(std::uint64_t handle);
+    /// Whether the object with this place in the map was taken.
+    bool isTaken(std::size_t index) const { return m_isTaken[index]; }
+
+    /// The row of an object's type; null for what is not read here.
+    const ObjectType *typeOf(int number) const;
+    /// The class with this number; null when the number is none of a class.
+    const ObjectClass *classOf(int number) const;
+    /// What problems call the type.
+    std::string typeNameOf(int number) const;
+
+    void lose(std::uint64_t handle, int type, const char *why);
+    void warn(std::uint64_t handle, int type, const char *why);
+    /// Problems that concern no object.
+    Problems &problems() { return m_problems; }
+
+private:
+    /// The object's place in the map; the map's size when it is not there.
+    std::size_t indexOf(std::uint64_t handle) const;
+
+    const Container &m_container;
+    Problems &m_problems;
+    std::vector<ObjectClass> m_classes;
+    std::vector<MapEntry> m_map;
+    std::vector<bool> m_isTaken; ///< for the entries of the map
+};
+
+} // namespace host::dwg

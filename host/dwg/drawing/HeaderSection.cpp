@@ -1,0 +1,94 @@
+#include "host/dwg/contents/HeaderTable.h"
+#include "host/dwg/drawing/Sections.h"
+
+#include <map>
+
+namespace host::dwg {
+
+namespace {
+
+/// The tags of the variables by their names, as lines.
+using HeaderValues = std::map<std::string_view, std::string>;
+
+/// What readHeader() noted. The names are views into `fields`.
+HeaderValues notedValues(const Fields &fields)
+{
+    HeaderValues values;
+    std::string *value = nullptr;
+    fields.forEachTag([&](int code, std::string_view text) {
+        if (code == 9)
+            value = &values[text];
+        else if (value)
+            *value += tagLines(code, text);
+    });
+    return values;
+}
+
+/// Variables that later releases have beside others, with their values.
+void addDerivedValues(Release release, HeaderValues &values)
+{
+    for (const auto &[local, universal] : {std::pair{"$TDCREATE", "$TDUCREATE"}, {"$TDUPDATE", "$TDUUPDATE"}}) {
+        // Files have the times without a zone alone; which one the writer was in is not known.
+        if (release >= Release::R2000 && values.count(local) != 0)
+            values[universal] = values[local];
+    }
+    if (release <= Release::R14)
+        values["$HANDLING"] = tagLines(70, "1");
+}
+
+/// Variables that files have outside their header.
+void addFileValues(const Container &container, HeaderValues &values)
+{
+    const Release release = container.release;
+    const auto measurement = readMeasurement(container);
+    if (measurement && release >= Release::R14)
+        values["$MEASUREMENT"] = tagLines(70, std::to_string(*measurement));
+    if (const auto user = readLastSavedBy(container))
+        values["$LASTSAVEDBY"] = tagLines(1, *user);
+    values["$ACADVER"] = tagLines(1, "AC" + std::to_string(static_cast<int>(release)));
+    if (release >= Release::R14)
+        values["$ACADMAINTVER"] = tagLines(release >= Release::R2018 ? 90 : 70, std::to_string(container.maintenance));
+    values["$DWGCODEPAGE"] = tagLines(3, codePageName(container.codePage));
+}
+
+} // namespace
+
+void writeHeaderSection(DrawingParts &parts)
+{
+    RecordWriter &records = parts.records;
+    parts.header = readHeader(parts.container, records.fields(), parts.objects.problems());
+    records.setSpaces({parts.header.modelSpace, parts.header.paperSpace});
+    HeaderValues values = notedValues(records.fields());
+    addDerivedValues(parts.container.release, values);
+    addFileValues(parts.container, values);
+    records.beginSection("HEADER");
+    for (const std::string_view name : headerOrder()) {
+        if (const auto found = values.find(name); found != values.end()) {
+            records.addTag(9, name);
+            records.addLines(found->second);
+        }
+    }
+    records.endSection();
+}
+
+void writeClassesSection(DrawingParts &parts)
+{
+    RecordWriter &records = parts.records;
+    Fields &fields = records.fields();
+    records.beginSection("CLASSES");
+    for (const ObjectClass &one : parts.objects.classes()) {
+        fields.start({}, {}, {});
+        fields.note(1, one.name);
+        fields.note(2, one.cppName);
+        fields.note(3, one.application);
+        fields.note(90, one.version);
+        if (fields.since(Release::R2004))
+            fields.note(91, one.instances);
+        fields.note(280, one.wasProxy ? 1 : 0);
+        fields.note(281, one.isEntity ? 1 : 0);
+        records.writeFields("CLASS");
+    }
+    records.endSection();
+}
+
+} // namespace host::dwg

@@ -1,0 +1,49 @@
+#include "host/dwg/drawing/ObjectNames.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+/// Blocks, layers, text styles, linetypes, views, coordinate systems, viewports, applications, dimension styles,
+/// multiline styles.
+constexpr std::array<int, 10> namedTypes = {0x31, 0x33, 0x35, 0x39, 0x3d, 0x3f, 0x41, 0x43, 0x45, 0x49};
+
+bool isAnonymousBlock(std::string_view name)
+{
+    return name.size() == 2 && name[0] == '*';
+}
+
+} // namespace
+
+void readNames(const DrawingObjects &objects, Fields &fields, Names &names)
+{
+    ObjectHead head({});
+    for (const MapEntry &entry : objects.map()) {
+        const auto frame = objects.peek(entry);
+        if (!frame || std::ranges::find(namedTypes, frame->type) == namedTypes.end())
+            continue;
+        head.read(*frame, false, fields);
+        names[entry.handle] = fields.text();
+    }
+}
+
+void numberBlocks(const std::vector<std::uint64_t> &entries, const ObjectHead::Spaces &spaces, Names &names)
+{
+    int layouts = 0;
+    int place = 0;
+    for (const std::uint64_t entry : entries) {
+        if (const auto found = names.find(entry); found != names.end()) {
+            std::string &name = found->second;
+            if (isPaperSpace(name) && entry != spaces.paper)
+                name += std::to_string(layouts++);
+            else if (isAnonymousBlock(name))
+                name += std::to_string(place);
+        }
+        if (entry != spaces.paper && entry != spaces.model)
+            ++place;
+    }
+}
+
+} // namespace host::dwg

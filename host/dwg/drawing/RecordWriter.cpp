@@ -1,0 +1,141 @@
+#include "host/dwg/drawing/RecordWriter.h"
+
+#include "host/dwg/objects/ProxyTypes.h"
+
+namespace host::dwg {
+
+namespace {
+
+// Viewports' entities as a table, which the text form does not have.
+constexpr int viewportEntityTable = 0x46;
+constexpr int viewportEntity = 0x47;
+
+bool isProxy(int type)
+{
+    return type == proxyEntityType || type == proxyObjectType;
+}
+
+} // namespace
+
+std::string tagLines(int code, std::string_view value)
+{
+    std::string text = std::to_string(code);
+    text.insert(0, text.size() < 3 ? 3 - text.size() : 0, ' ');
+    text += '\n';
+    text += value;
+    text += '\n';
+    return text;
+}
+
+RecordWriter::RecordWriter(DrawingObjects &objects, std::string &text)
+    : m_objects(objects), m_text(text), m_fields(objects.release(), m_names), m_head({})
+{
+}
+
+void RecordWriter::setSpaces(const ObjectHead::Spaces &spaces)
+{
+    m_spaces = spaces;
+    m_head = ObjectHead(spaces);
+}
+
+void RecordWriter::beginSection(std::string_view name)
+{
+    beginRecord("SECTION");
+    addTag(2, name);
+}
+
+void RecordWriter::beginRecord(std::string_view type)
+{
+    addTag(0, type);
+}
+
+void RecordWriter::addTag(int code, std::string_view value)
+{
+    m_text += tagLines(code, value);
+}
+
+void RecordWriter::readHead(const ObjectFrame &frame, std::string_view typeName, bool isEntity)
+{
+    m_fields.setTypeName(typeName);
+    m_head.read(frame, isEntity, m_fields);
+}
+
+bool RecordWriter::checkHandle(std::uint64_t handle, int type)
+{
+    if (m_fields.relations().handle == handle)
+        return true;
+    m_objects.lose(handle, type, "The object at its place has another handle.");
+    return false;
+}
+
+void RecordWriter::writeFields(std::string_view recordType, std::string_view lines)
+{
+    beginRecord(recordType);
+    m_text += lines;
+    m_fields.write(m_text);
+}
+
+void RecordWriter::writeNoted(std::string_view recordType, std::string_view lines)
+{
+    m_head.noteExtendedData(m_fields);
+    writeFields(recordType, lines);
+    if (m_fields.relations().dictionary != 0)
+        m_dictionaries.push_back(m_fields.relations().dictionary);
+}
+
+bool RecordWriter::writeObject(std::uint64_t handle)
+{
+    const auto frame = m_objects.take(handle);
+    return frame && writeFrame(handle, *frame);
+}
+
+bool RecordWriter::writeFrame(std::uint64_t handle, const ObjectFrame &frame)
+{
+    const ObjectType *type = m_objects.typeOf(frame.type);
+    const ObjectClass *one = m_objects.classOf(frame.type);
+    if (type && writeKnown(handle, frame, *type))
+        return true;
+    if (one || isProxy(frame.type))
+        return writeProxy(handle, frame, one ? one->isEntity : frame.type == proxyEntityType);
+    if (type)
+        m_objects.lose(handle, frame.type, "The object ends before its values do.");
+    else if (frame.type != viewportEntityTable && frame.type != viewportEntity)
+        m_objects.lose(handle, frame.type, "Objects of this type are not read.");
+    return false;
+}
+
+bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type)
+{
+    readHead(frame, type.name, type.isEntity);
+    if (type.read)
+        type.read(m_fields);
+    return m_fields.relations().handle == handle && writeUnlessFailed();
+}
+
+bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity)
+{
+    readHead(frame, isEntity ? "ACAD_PROXY_ENTITY" : "ACAD_PROXY_OBJECT", isEntity);
+    if (!checkHandle(handle, frame.type))
+        return false;
+    if (isProxy(frame.type)) {
+        readProxy(m_fields, isEntity);
+    } else {
+        noteProxy(m_fields, frame.type, isEntity);
+        m_objects.warn(handle, frame.type, "Objects of this class are kept as their bytes.");
+    }
+    if (writeUnlessFailed())
+        return true;
+    m_objects.lose(handle, frame.type, "The object ends before its values do.");
+    return false;
+}
+
+/// Writes what was noted of an object, unless it was damaged.
+bool RecordWriter::writeUnlessFailed()
+{
+    if (m_fields.hasFailed())
+        return false;
+    writeNoted(m_fields.typeName());
+    return true;
+}
+
+} // namespace host::dwg

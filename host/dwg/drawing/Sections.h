@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/dwg/drawing/RecordWriter.h"
+#include "host/dwg/objects/TableTypes.h"
+
+namespace host::dwg {
+
+/// A block with what it has, kept for the sections behind the tables.
+struct DrawingBlock
+{
+    BlockHead head;
+    Relations relations;
+};
+
+/// A drawing on its way to the text form: what one section leaves for those behind it.
+struct DrawingParts
+{
+    DrawingParts(const Container &file, Problems &problems, std::string &text)
+        : container(file), objects(file, problems), records(objects, text)
+    {
+    }
+
+    const Container &container;
+    DrawingObjects objects;
+    RecordWriter records;
+    Header header;                    ///< from the HEADER section on
+    std::vector<DrawingBlock> blocks; ///< from the TABLES section on
+};
+
+// The sections of the text form, in their order there. Each is written whole, whatever is missing of it.
+
+void writeHeaderSection(DrawingParts &parts);
+void writeClassesSection(DrawingParts &parts);
+void writeTablesSection(DrawingParts &parts);
+/// The blocks and what they have, but those of the model and of the active layout.
+void writeBlocksSection(DrawingParts &parts);
+/// What these two have.
+void writeEntitiesSection(DrawingParts &parts);
+/// What no other section has: from the dictionary of named objects on, then what nobody refers to.
+void writeObjectsSection(DrawingParts &parts);
+
+} // namespace host::dwg
