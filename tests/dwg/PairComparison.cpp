@@ -1,242 +1,160 @@
 #include "tests/dwg/PairComparison.h"
 
+#include "tests/dwg/PairExplanations.h"
+#include "tests/dwg/RecordMatching.h"
+#include "tests/dwg/RecordNames.h"
+#include "tests/dwg/TagComparison.h"
+
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <deque>
-#include <set>
 
 namespace host::dwg::test {
 
 namespace {
 
-std::string_view takeLine(std::string_view &text)
-{
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    while (!line.empty() && line.back() == '\r')
-        line.remove_suffix(1);
-    return line;
-}
-
-std::string trimmed(std::string_view text)
-{
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return std::string(text);
-}
-
-bool isReal(int code)
-{
-    return (code >= 10 && code <= 59) || (code >= 110 && code <= 149) || (code >= 210 && code <= 239) ||
-           (code >= 460 && code <= 469) || (code >= 1010 && code <= 1059);
-}
-
-bool isReference(int code)
-{
-    return code == 5 || code == 105 || (code >= 320 && code <= 369) || (code >= 390 && code <= 399) || code == 1005;
-}
-
-/// The other program writes 16 digits, and none behind the 16th after the point.
-bool isSameReal(const std::string &read, const std::string &expected)
-{
-    const double a = std::strtod(read.c_str(), nullptr);
-    const double b = std::strtod(expected.c_str(), nullptr);
-    return std::abs(a - b) <= std::max(1.01e-16, std::max(std::abs(a), std::abs(b)) * 2e-15);
-}
-
-bool isSame(const TextTag &read, const TextTag &expected)
-{
-    if (read.code != expected.code)
-        return false;
-    if (read.value == expected.value || trimmed(read.value) == trimmed(expected.value))
-        return true;
-    return isReal(read.code) && isSameReal(read.value, expected.value);
-}
-
-std::size_t findTag(const TextRecord &record, int code, std::string_view value)
-{
-    const auto found = std::find_if(record.begin(), record.end(),
-                                    [&](const TextTag &tag) { return tag.code == code && tag.value == value; });
-    return static_cast<std::size_t>(found - record.begin());
-}
-
-std::string dictionaryOf(const TextRecord &record)
-{
-    const std::size_t at = findTag(record, 102, "{ACAD_XDICTIONARY");
-    return at + 1 < record.size() ? trimmed(record[at + 1].value) : std::string();
-}
-
-/// Binary data in one tag, however it was cut; the extension dictionary in front of the reactors.
-TextRecord inOneForm(const TextRecord &record)
-{
-    TextRecord result;
-    for (const TextTag &tag : record) {
-        if (tag.code == 310 && !result.empty() && result.back().code == 310)
-            result.back().value += trimmed(tag.value);
-        else
-            result.push_back(tag.code == 310 ? TextTag{310, trimmed(tag.value)} : tag);
-    }
-    const std::size_t reactors = findTag(result, 102, "{ACAD_REACTORS");
-    const std::size_t dictionary = findTag(result, 102, "{ACAD_XDICTIONARY");
-    if (reactors < dictionary && dictionary + 3 <= result.size()) {
-        const auto at = [&result](std::size_t i) { return result.begin() + static_cast<std::ptrdiff_t>(i); };
-        std::rotate(at(reactors), at(dictionary), at(dictionary + 3));
-    }
-    return result;
-}
-
-std::map<std::string, std::string> entriesOf(const TextRecord &record)
-{
-    std::map<std::string, std::string> entries;
-    for (std::size_t i = 0; i + 1 < record.size(); ++i) {
-        if (record[i].code == 3 && (record[i + 1].code == 350 || record[i + 1].code == 360))
-            entries[record[i].value] = trimmed(record[i + 1].value);
-    }
-    return entries;
-}
-
-/// Finds records of the same name in dictionaries of the same name.
-class HandleMatcher
+/// Compares two drawings whose records were brought together.
+class TreeComparison
 {
 public:
-    HandleMatcher(const TextRecords &read, const TextRecords &expected) : m_read(read), m_expected(expected) {}
-
-    /// By handles of the expected drawing: those of the one that was read, where they are others.
-    std::map<std::string, std::string> run()
+    TreeComparison(const TextTree &read, const TextTree &expected, std::string_view pair)
+        : m_read(read), m_expected(expected), m_pair(pair), m_partners(matchRecords(read, expected)), m_readNames(read),
+          m_expectedNames(expected)
     {
-        for (const auto &[handle, record] : m_expected)
-            follow(handle, handle);
-        while (!m_row.empty()) {
-            const auto [read, expected] = m_row.front();
-            m_row.pop_front();
-            const TextRecord &one = m_read.at(read);
-            const TextRecord &other = m_expected.at(expected);
-            follow(dictionaryOf(one), dictionaryOf(other));
-            const auto entries = entriesOf(one);
-            for (const auto &[name, handle] : entriesOf(other)) {
-                if (const auto found = entries.find(name); found != entries.end())
-                    follow(found->second, handle);
-            }
+        for (std::size_t i = 1; i < expected.nodes.size(); ++i) {
+            if (expected.nodes[i].type() == "BLOCK_RECORD")
+                m_blocks.emplace(expected.nodes[i].name, i);
         }
-        return m_handles;
+    }
+
+    PairOutcome run()
+    {
+        for (std::size_t i = 1; i < m_expected.nodes.size(); ++i) {
+            if (isCounted(m_expected.nodes[i]))
+                compareRecord(i);
+        }
+        for (std::size_t i = 1; i < m_read.nodes.size(); ++i) {
+            if (m_partners.ofRead[i] == 0 && isCounted(m_read.nodes[i]))
+                add({Difference::Kind::Extra, m_readNames.of(i), {}, m_read.nodes[i].handle, {}});
+        }
+        for (std::size_t i = 0; i < m_expected.nodes.size(); ++i)
+            compareOrder(i);
+        return std::move(m_outcome);
     }
 
 private:
-    void follow(const std::string &read, const std::string &expected)
+    /// Sections are only frames, unless they have something of their own.
+    static bool isCounted(const TextNode &node) { return node.type() != "SECTION" || node.tags.size() > 2; }
+
+    void add(Difference difference)
     {
-        const auto one = m_read.find(read);
-        const auto other = m_expected.find(expected);
-        if (one == m_read.end() || other == m_expected.end() || one->second[0].value != other->second[0].value ||
-            !m_seen.insert({read, expected}).second)
-            return;
-        if (read != expected)
-            m_handles.emplace(expected, read);
-        m_row.push_back({read, expected});
+        difference.why = explanationOf(m_pair, difference);
+        m_outcome.differences.push_back(std::move(difference));
     }
 
-    const TextRecords &m_read;
-    const TextRecords &m_expected;
-    std::map<std::string, std::string> m_handles;
-    std::set<std::pair<std::string, std::string>> m_seen;
-    std::deque<std::pair<std::string, std::string>> m_row;
-};
-
-TextRecords renamed(const TextRecords &records, const std::map<std::string, std::string> &handles)
-{
-    TextRecords result;
-    for (const auto &[handle, record] : records) {
-        TextRecord one = record;
-        for (TextTag &tag : one) {
-            const auto found = isReference(tag.code) ? handles.find(trimmed(tag.value)) : handles.end();
-            if (found != handles.end())
-                tag.value = found->second;
+    void compareRecord(std::size_t i)
+    {
+        ++m_outcome.all;
+        const std::size_t partner = m_partners.ofExpected[i];
+        const TextNode &node = m_expected.nodes[i];
+        Difference difference{Difference::Kind::Different, m_expectedNames.of(i), {}, {}, {}};
+        if (partner == 0) {
+            difference.kind = Difference::Kind::Missing;
+            difference.told = node.handle;
+            return add(std::move(difference));
         }
-        const auto found = handles.find(handle);
-        result[found != handles.end() ? found->second : handle] = std::move(one);
+        compareTags(m_read.nodes[partner].tags, withPartners(node), difference);
+        if (difference.groups.empty())
+            ++m_outcome.equal;
+        else
+            add(std::move(difference));
     }
-    return result;
-}
 
-std::string differenceOf(const TextRecord &read, const TextRecord &expected)
-{
-    const TextRecord one = inOneForm(read);
-    const TextRecord other = inOneForm(expected);
-    std::size_t i = 0;
-    while (i < one.size() && i < other.size() && isSame(one[i], other[i]))
-        ++i;
-    if (i == one.size() && i == other.size())
-        return {};
-    const auto told = [i](const TextRecord &record) {
-        return i < record.size() ? std::to_string(record[i].code) + " \"" + record[i].value.substr(0, 60) + '"'
-                                 : std::string("the end");
-    };
-    return told(one) + ", expected " + told(other);
-}
+    /// References as the drawing that was read has them.
+    std::vector<TextTag> withPartners(const TextNode &node) const
+    {
+        std::vector<TextTag> tags = node.tags;
+        if (const std::size_t block = blockPartner(node); block != 0) {
+            const std::string name = blockNameOf(node);
+            for (TextTag &tag : tags)
+                tag.value = tag.value == name ? m_read.nodes[block].name : tag.value;
+        }
+        for (TextTag &tag : tags) {
+            const bool isOwn = tag.code == 5 && (tags[0].code == 9 || node.type() == "DIMSTYLE");
+            if (!isReference(tag.code) || isOwn)
+                continue;
+            const std::size_t target = m_expected.find(trimmed(tag.value));
+            if (target != 0 && m_partners.ofExpected[target] != 0)
+                tag.value = m_read.nodes[m_partners.ofExpected[target]].handle;
+        }
+        return tags;
+    }
+
+    /// The block that the record is, or shows, in the drawing that was read, where it has no name of its own.
+    std::size_t blockPartner(const TextNode &node) const
+    {
+        const std::string name = blockNameOf(node);
+        const bool hasBlock = node.type() == "BLOCK" || node.type() == "BLOCK_RECORD" || node.type() == "INSERT" ||
+                              node.type() == "DIMENSION";
+        const auto found = hasBlock && name.starts_with('*') ? m_blocks.find(name) : m_blocks.end();
+        return found != m_blocks.end() ? m_partners.ofExpected[found->second] : 0;
+    }
+
+    /// Tells the fewest records that need to move for the rest to stand in the expected order.
+    void compareOrder(std::size_t parent)
+    {
+        const auto &row = m_expected.nodes[parent].children;
+        std::vector<std::size_t> kept; // by the length of the best row that ends with it
+        std::vector<std::size_t> before(row.size(), row.size());
+        const auto place = [&](std::size_t i) { return m_partners.ofExpected[row[i]]; };
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (!isAtHome(row[i], parent))
+                continue;
+            const auto at = std::ranges::lower_bound(kept, place(i), {}, place);
+            before[i] = at == kept.begin() ? row.size() : *std::prev(at);
+            if (at == kept.end())
+                kept.push_back(i);
+            else
+                *at = i;
+        }
+        std::vector<bool> isKept(row.size());
+        for (std::size_t i = kept.empty() ? row.size() : kept.back(); i < row.size(); i = before[i])
+            isKept[i] = true;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (!isKept[i] && place(i) != 0 && isCounted(m_expected.nodes[row[i]]))
+                add({Difference::Kind::Moved, m_expectedNames.of(row[i]), {}, m_expected.nodes[row[i]].handle, {}});
+        }
+    }
+
+    bool isAtHome(std::size_t child, std::size_t parent) const
+    {
+        const std::size_t partner = m_partners.ofExpected[child];
+        return partner != 0 && m_read.nodes[partner].parent == m_partners.ofExpected[parent];
+    }
+
+    const TextTree &m_read;
+    const TextTree &m_expected;
+    std::string_view m_pair;
+    Partners m_partners;
+    RecordNames m_readNames;
+    RecordNames m_expectedNames;
+    std::unordered_map<std::string, std::size_t> m_blocks; ///< of the expected drawing, by name
+    PairOutcome m_outcome;
+};
 
 } // namespace
 
-TextRecords readRecords(std::string_view text)
+int PairOutcome::count(Difference::Kind kind) const
 {
-    TextRecords records;
-    TextRecord record;
-    std::string section;
-    const auto finish = [&] {
-        if (record.empty())
-            return;
-        const std::string &type = record[0].value;
-        if (type == "CLASS" && record.size() > 1)
-            records["CLASS " + record[1].value] = record;
-        else if (type[0] == '$')
-            records[type] = record;
-        const int handleCode = type == "DIMSTYLE" ? 105 : 5;
-        for (std::size_t i = 1; i < record.size() && record[i].code != 100 && type[0] != '$'; ++i) {
-            if (record[i].code == handleCode) {
-                records[trimmed(record[i].value)] = record;
-                break;
-            }
-        }
-    };
-    while (!text.empty()) {
-        const int code = std::atoi(std::string(takeLine(text)).c_str());
-        const std::string_view value = takeLine(text);
-        if (code == 0 || (code == 9 && section == "HEADER")) {
-            finish();
-            record.clear();
-        } else if (code == 2 && record.size() == 1 && record[0].value == "SECTION") {
-            section = value;
-        }
-        record.push_back({code, std::string(value)});
-    }
-    finish();
-    return records;
+    return static_cast<int>(std::ranges::count(differences, kind, &Difference::kind));
 }
 
-PairOutcome comparePair(const TextRecords &read, TextRecords expected)
+int PairOutcome::explained() const
 {
-    expected = renamed(expected, HandleMatcher(read, expected).run());
-    PairOutcome outcome;
-    for (const auto &[handle, record] : expected) {
-        const std::string name = record[0].value + ' ' + handle;
-        const auto found = read.find(handle);
-        if (found == read.end()) {
-            outcome.missing.push_back(name);
-            continue;
-        }
-        const std::string difference = differenceOf(found->second, record);
-        if (difference.empty())
-            ++outcome.equal;
-        else
-            outcome.different.push_back(name + ": " + difference);
-    }
-    for (const auto &[handle, record] : read) {
-        if (!expected.contains(handle))
-            outcome.extra.push_back(record[0].value + ' ' + handle);
-    }
-    return outcome;
+    return static_cast<int>(std::ranges::count_if(differences, [](const Difference &one) { return !one.why.empty(); }));
+}
+
+PairOutcome comparePair(const TextTree &read, const TextTree &expected, std::string_view pair)
+{
+    return TreeComparison(read, expected, pair).run();
 }
 
 } // namespace host::dwg::test

@@ -1,42 +1,42 @@
 #pragma once
 
-#include <map>
-#include <string>
-#include <string_view>
-#include <vector>
+#include "tests/dwg/TextTree.h"
 
 namespace host::dwg::test {
 
-struct TextTag
+/// One way in which two drawings are not alike.
+struct Difference
 {
-    int code;
-    std::string value;
+    enum class Kind
+    {
+        Different, ///< the same record with other groups
+        Missing,   ///< in the expected drawing alone
+        Extra,     ///< in the one that was read alone
+        Moved      ///< at another place among those around it
+    };
+
+    Kind kind;
+    std::string record;      ///< "LINE 2A", "LAYER Walls", "$LTSCALE", "XRECORD /ACAD_LAYOUT/Model/*/NAME"
+    std::vector<int> groups; ///< those that differ
+    std::string told;        ///< "40 "1.0", expected 40 "2.0""
+    std::string_view why;    ///< what explains it; empty where nothing does
 };
-
-/// A record of a drawing in text form; header variables are records as well.
-using TextRecord = std::vector<TextTag>;
-
-/// The records of a drawing by handle; classes by their names ("CLASS LAYOUT"), header variables by theirs
-/// ("$LTSCALE").
-using TextRecords = std::map<std::string, TextRecord>;
-
-TextRecords readRecords(std::string_view text);
 
 /// How two drawings are alike, record by record.
 struct PairOutcome
 {
-    int equal = 0;
-    std::vector<std::string> different; ///< "LINE 2A: group 10 is 1.0, not 2.0"
-    std::vector<std::string> missing;   ///< "LINE 2A"
-    std::vector<std::string> extra;
+    int all = 0;   ///< records of the expected drawing
+    int equal = 0; ///< of them, wherever they stand
+    std::vector<Difference> differences;
 
-    int all() const { return equal + static_cast<int>(different.size() + missing.size()); }
+    int count(Difference::Kind kind) const;
+    int explained() const;
+    int unexplained() const { return static_cast<int>(differences.size()) - explained(); }
 };
 
 /// Compares a drawing that was read with the one that another program made of the same file. Numbers are the same when
-/// they are to the last digit that the other program writes; the order of reactors and extension dictionary in front of
-/// a record does not count. Records that are made anew whenever a file is saved have other handles in both: they are
-/// brought together by their names in dictionaries.
-PairOutcome comparePair(const TextRecords &read, TextRecords expected);
+/// they are to the last digit that the other program writes; references, when they go to records that are the same
+/// (RecordMatching.h); the order of reactors and extension dictionary in front of a record does not count.
+PairOutcome comparePair(const TextTree &read, const TextTree &expected, std::string_view pair);
 
 } // namespace host::dwg::test
