@@ -6350,10 +6350,6 @@ Revisionswolke fertiggestellt.</translation>
         <translation>die Datei ist leer</translation>
     </message>
     <message>
-        <source>this is a DWG file; this program reads DXF only</source>
-        <translation>dies ist eine DWG-Datei; dieses Programm liest nur DXF</translation>
-    </message>
-    <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
         <translation>dies ist eine UTF-16-Textdatei, keine DXF-Datei</translation>
     </message>
@@ -6432,6 +6428,22 @@ Revisionswolke fertiggestellt.</translation>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
         <translation>%1 (entfernte Texte haben höchstens 256 kB)</translation>
+    </message>
+    <message>
+        <source>this DWG file cannot be read: %1</source>
+        <translation>diese DWG-Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>1 object could not be read</source>
+        <translation>1 Objekt konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 objects could not be read</source>
+        <translation>%1 Objekte konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>a part of the file</source>
+        <translation>ein Teil der Datei</translation>
     </message>
 </context>
 <context>
@@ -10670,6 +10682,10 @@ The user&apos;s settings cannot be kept.
 Die Einstellungen des Benutzers können nicht aufbewahrt werden.
 </translation>
     </message>
+    <message>
+        <source>%1 is a DWG file, which this program reads but does not write; give the drawing another name.</source>
+        <translation>%1 ist eine DWG-Datei, die dieses Programm liest, aber nicht schreibt; geben Sie der Zeichnung einen anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>Keywords</name>
@@ -14842,10 +14858,6 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
         <translation>schreibt OUT, obwohl ein anderes Programm es geöffnet hat</translation>
     </message>
     <message>
-        <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation>endet mit Status 3, wenn im Bild etwas fehlt, das dennoch geschrieben wird</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>schreibt eine DXF-Datei in der binären Form; ohne das als Text</translation>
     </message>
@@ -15709,6 +15721,10 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
         <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
         <translation>Texte, die einen Rahmen haben, bekommen an seiner Stelle einen neuen; mit --answer No bleibt der alte zusätzlich.</translation>
     </message>
+    <message>
+        <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
+        <translation>mit Status 3 enden, wenn etwas nicht gelesen werden konnte oder im Bild fehlt, das trotzdem geschrieben wird</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -16069,6 +16085,17 @@ Keine Zeichnung ist geöffnet.
     </message>
 </context>
 <context>
+    <name>host::app::LossBar</name>
+    <message>
+        <source>What of the file could not be read</source>
+        <translation>Was von der Datei nicht gelesen werden konnte</translation>
+    </message>
+    <message>
+        <source>Objects that could not be read</source>
+        <translation>Objekte, die nicht gelesen werden konnten</translation>
+    </message>
+</context>
+<context>
     <name>host::app::MainWindow</name>
     <message>
         <source>Lisp console</source>
@@ -16275,6 +16302,17 @@ This link of the help page is not followed: %1
         <translation>
 Diesem Link der Hilfeseite wird nicht gefolgt: %1
 </translation>
+    </message>
+</context>
+<context>
+    <name>host::app::NoticeBar</name>
+    <message>
+        <source>Detai&amp;ls</source>
+        <translation>Detai&amp;ls</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -16998,14 +17036,6 @@ Diesem Link der Hilfeseite wird nicht gefolgt: %1
     <message>
         <source>Files and programs that were kept back</source>
         <translation>Zurückgehaltene Dateien und Programme</translation>
-    </message>
-    <message>
-        <source>Detai&amp;ls</source>
-        <translation>Detai&amp;ls</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>

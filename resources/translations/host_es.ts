@@ -6350,10 +6350,6 @@ Nube de revisión terminada.</translation>
         <translation>el archivo está vacío</translation>
     </message>
     <message>
-        <source>this is a DWG file; this program reads DXF only</source>
-        <translation>esto es un archivo DWG; este programa solo lee DXF</translation>
-    </message>
-    <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
         <translation>esto es un archivo de texto UTF-16, no un archivo DXF</translation>
     </message>
@@ -6432,6 +6428,22 @@ Nube de revisión terminada.</translation>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
         <translation>%1 (los textos remotos tienen como máximo 256 kB)</translation>
+    </message>
+    <message>
+        <source>this DWG file cannot be read: %1</source>
+        <translation>no se puede leer este archivo DWG: %1</translation>
+    </message>
+    <message>
+        <source>1 object could not be read</source>
+        <translation>no se pudo leer 1 objeto</translation>
+    </message>
+    <message>
+        <source>%1 objects could not be read</source>
+        <translation>no se pudieron leer %1 objetos</translation>
+    </message>
+    <message>
+        <source>a part of the file</source>
+        <translation>una parte del archivo</translation>
     </message>
 </context>
 <context>
@@ -10670,6 +10682,10 @@ The user&apos;s settings cannot be kept.
 No se puede guardar la configuración del usuario.
 </translation>
     </message>
+    <message>
+        <source>%1 is a DWG file, which this program reads but does not write; give the drawing another name.</source>
+        <translation>%1 es un archivo DWG, que este programa lee pero no escribe; dé otro nombre al dibujo.</translation>
+    </message>
 </context>
 <context>
     <name>Keywords</name>
@@ -14842,10 +14858,6 @@ No se puede guardar la configuración del usuario.
         <translation>escribir OUT aunque otro programa lo tenga abierto</translation>
     </message>
     <message>
-        <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation>terminar con el estado 3 si falta algo en la imagen, que se escribe de todos modos</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>escribir un archivo DXF en forma binaria; sin esto, como texto</translation>
     </message>
@@ -15709,6 +15721,10 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
         <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
         <translation>Los textos que tienen un marco reciben uno nuevo en su lugar; con --answer No se conserva también el anterior.</translation>
     </message>
+    <message>
+        <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
+        <translation>terminar con estado 3 cuando algo no se pudo leer o falta en la imagen, que se escribe de todos modos</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -16069,6 +16085,17 @@ No hay ningún dibujo abierto.
     </message>
 </context>
 <context>
+    <name>host::app::LossBar</name>
+    <message>
+        <source>What of the file could not be read</source>
+        <translation>Lo que no se pudo leer del archivo</translation>
+    </message>
+    <message>
+        <source>Objects that could not be read</source>
+        <translation>Objetos que no se pudieron leer</translation>
+    </message>
+</context>
+<context>
     <name>host::app::MainWindow</name>
     <message>
         <source>Lisp console</source>
@@ -16275,6 +16302,17 @@ This link of the help page is not followed: %1
         <translation>
 No se sigue este enlace de la página de ayuda: %1
 </translation>
+    </message>
+</context>
+<context>
+    <name>host::app::NoticeBar</name>
+    <message>
+        <source>Detai&amp;ls</source>
+        <translation>Deta&amp;lles</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -16998,14 +17036,6 @@ No se sigue este enlace de la página de ayuda: %1
     <message>
         <source>Files and programs that were kept back</source>
         <translation>Archivos y programas retenidos</translation>
-    </message>
-    <message>
-        <source>Detai&amp;ls</source>
-        <translation>Deta&amp;lles</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>

@@ -6350,10 +6350,6 @@ Nuage de révision terminé.</translation>
         <translation>le fichier est vide</translation>
     </message>
     <message>
-        <source>this is a DWG file; this program reads DXF only</source>
-        <translation>c&apos;est un fichier DWG&#xa0;; ce programme ne lit que DXF</translation>
-    </message>
-    <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
         <translation>c&apos;est un fichier texte UTF-16, non un fichier DXF</translation>
     </message>
@@ -6432,6 +6428,22 @@ Nuage de révision terminé.</translation>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
         <translation>%1 (les textes distants ont au plus 256 ko)</translation>
+    </message>
+    <message>
+        <source>this DWG file cannot be read: %1</source>
+        <translation>ce fichier DWG ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>1 object could not be read</source>
+        <translation>1 objet n&apos;a pas pu être lu</translation>
+    </message>
+    <message>
+        <source>%1 objects could not be read</source>
+        <translation>%1 objets n&apos;ont pas pu être lus</translation>
+    </message>
+    <message>
+        <source>a part of the file</source>
+        <translation>une partie du fichier</translation>
     </message>
 </context>
 <context>
@@ -10670,6 +10682,10 @@ The user&apos;s settings cannot be kept.
 Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
 </translation>
     </message>
+    <message>
+        <source>%1 is a DWG file, which this program reads but does not write; give the drawing another name.</source>
+        <translation>%1 est un fichier DWG, que ce programme lit mais n&apos;écrit pas ; donnez un autre nom au dessin.</translation>
+    </message>
 </context>
 <context>
     <name>Keywords</name>
@@ -14842,10 +14858,6 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
         <translation>écrit OUT bien qu&apos;un autre programme l&apos;ait ouvert</translation>
     </message>
     <message>
-        <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation>finit par le statut 3 quand il manque quelque chose à l&apos;image, qui est écrite quand même</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>écrit un fichier DXF sous la forme binaire&#xa0;; sans cela, en texte</translation>
     </message>
@@ -15709,6 +15721,10 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
         <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
         <translation>Les textes qui ont un cadre en reçoivent un nouveau à sa place&#xa0;; avec --answer No, l&apos;ancien reste aussi.</translation>
     </message>
+    <message>
+        <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
+        <translation>finir avec l&apos;état 3 quand quelque chose n&apos;a pas pu être lu ou manque dans l&apos;image, qui est écrite quand même</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -16069,6 +16085,17 @@ Aucun dessin n&apos;est ouvert.
     </message>
 </context>
 <context>
+    <name>host::app::LossBar</name>
+    <message>
+        <source>What of the file could not be read</source>
+        <translation>Ce qui n&apos;a pas pu être lu du fichier</translation>
+    </message>
+    <message>
+        <source>Objects that could not be read</source>
+        <translation>Objets qui n&apos;ont pas pu être lus</translation>
+    </message>
+</context>
+<context>
     <name>host::app::MainWindow</name>
     <message>
         <source>Lisp console</source>
@@ -16275,6 +16302,17 @@ This link of the help page is not followed: %1
         <translation>
 Ce lien de la page d&apos;aide n&apos;est pas suivi&#xa0;: %1
 </translation>
+    </message>
+</context>
+<context>
+    <name>host::app::NoticeBar</name>
+    <message>
+        <source>Detai&amp;ls</source>
+        <translation>Détai&amp;ls</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -16998,14 +17036,6 @@ Ce lien de la page d&apos;aide n&apos;est pas suivi&#xa0;: %1
     <message>
         <source>Files and programs that were kept back</source>
         <translation>Fichiers et programmes retenus</translation>
-    </message>
-    <message>
-        <source>Detai&amp;ls</source>
-        <translation>Détai&amp;ls</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>

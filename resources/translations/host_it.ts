@@ -6350,10 +6350,6 @@ Fumetto di revisione completato.</translation>
         <translation>il file è vuoto</translation>
     </message>
     <message>
-        <source>this is a DWG file; this program reads DXF only</source>
-        <translation>questo è un file DWG; questo programma legge solo DXF</translation>
-    </message>
-    <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
         <translation>questo è un file di testo UTF-16, non un file DXF</translation>
     </message>
@@ -6432,6 +6428,22 @@ Fumetto di revisione completato.</translation>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
         <translation>%1 (i testi remoti hanno al massimo 256 kB)</translation>
+    </message>
+    <message>
+        <source>this DWG file cannot be read: %1</source>
+        <translation>questo file DWG non può essere letto: %1</translation>
+    </message>
+    <message>
+        <source>1 object could not be read</source>
+        <translation>1 oggetto non è stato letto</translation>
+    </message>
+    <message>
+        <source>%1 objects could not be read</source>
+        <translation>%1 oggetti non sono stati letti</translation>
+    </message>
+    <message>
+        <source>a part of the file</source>
+        <translation>una parte del file</translation>
     </message>
 </context>
 <context>
@@ -10670,6 +10682,10 @@ The user&apos;s settings cannot be kept.
 Le impostazioni dell&apos;utente non possono essere conservate.
 </translation>
     </message>
+    <message>
+        <source>%1 is a DWG file, which this program reads but does not write; give the drawing another name.</source>
+        <translation>%1 è un file DWG, che questo programma legge ma non scrive; dia un altro nome al disegno.</translation>
+    </message>
 </context>
 <context>
     <name>Keywords</name>
@@ -14842,10 +14858,6 @@ Le impostazioni dell&apos;utente non possono essere conservate.
         <translation>scrivi OUT anche se un altro programma lo tiene aperto</translation>
     </message>
     <message>
-        <source>end with status 3 when something is missing in the picture, which is written all the same</source>
-        <translation>termina con stato 3 se nell&apos;immagine manca qualcosa, ma viene scritta comunque</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>scrivi un file DXF in forma binaria; senza, come testo</translation>
     </message>
@@ -15709,6 +15721,10 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
         <source>Texts that have a frame get a new one in its place; with --answer No the old one stays as well.</source>
         <translation>I testi che hanno una cornice ne ricevono una nuova al suo posto; con --answer No resta anche la precedente.</translation>
     </message>
+    <message>
+        <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
+        <translation>termina con stato 3 quando qualcosa non è stato letto o manca nell&apos;immagine, che viene scritta comunque</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -16069,6 +16085,17 @@ Nessun disegno è aperto.
     </message>
 </context>
 <context>
+    <name>host::app::LossBar</name>
+    <message>
+        <source>What of the file could not be read</source>
+        <translation>Ciò che del file non è stato letto</translation>
+    </message>
+    <message>
+        <source>Objects that could not be read</source>
+        <translation>Oggetti che non sono stati letti</translation>
+    </message>
+</context>
+<context>
     <name>host::app::MainWindow</name>
     <message>
         <source>Lisp console</source>
@@ -16275,6 +16302,17 @@ This link of the help page is not followed: %1
         <translation>
 Questo collegamento della pagina di guida non viene seguito: %1
 </translation>
+    </message>
+</context>
+<context>
+    <name>host::app::NoticeBar</name>
+    <message>
+        <source>Detai&amp;ls</source>
+        <translation>Dettag&amp;li</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -16998,14 +17036,6 @@ Questo collegamento della pagina di guida non viene seguito: %1
     <message>
         <source>Files and programs that were kept back</source>
         <translation>File e programmi trattenuti</translation>
-    </message>
-    <message>
-        <source>Detai&amp;ls</source>
-        <translation>Dettag&amp;li</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Chiudi</translation>
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>

@@ -71,7 +71,6 @@ TEST(Reader, SaysWhatIsWrongAndWhere)
         {"binary sent as text", QByteArray("AutoCAD Binary DXF\n\x1A\0", 21),
          "this is a binary DXF file whose first bytes are damaged, as by a transfer as text"},
         {"packed", QByteArray("\x1F\x8B\x08\0", 4), "this is a packed file; unpack it first"},
-        {"drawing of the other kind", QByteArray("AC1015\0\0\0", 9), "this is a DWG file; this program reads DXF only"},
         {"UTF-16", QByteArray("\xFF\xFE\x30\0\r\0\n\0", 8), "this is a UTF-16 text file, not a DXF file"},
         {"picture", QByteArray("\x89PNG\r\n\x1A\n\0\0", 10),
          "line 1: this is not a DXF file: group code expected, found \"?PNG\""},

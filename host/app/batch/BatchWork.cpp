@@ -107,6 +107,8 @@ kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path, bo
     else
         opened = openToRead(workbench, path);
     workbench.session().setFeeder(nullptr);
+    for (const QString &line : std::as_const(opened.lost))
+        writeMessage(u"%1: %2"_s.arg(native(path), line));
     return opened;
 }
 

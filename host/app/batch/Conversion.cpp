@@ -116,6 +116,8 @@ ConversionInput openInput(const ProgramOptions &options)
     drawing::ReadResult read = drawing::Drawing::open(options.input);
     if (!read)
         writeMessage(drawing::openingError(native(options.input), read));
+    else
+        tellLost(options.input, read.drawing->readingNotes());
     return {std::move(read.drawing), std::nullopt};
 }
 
@@ -261,7 +263,12 @@ int convertOpened(const ProgramOptions &options, FileResult &result)
         status = ExitFileError;
     }
     if (status != ExitFileError) {
+        const qsizetype unread = input.drawing->readingNotes().lostCount;
         result.more = conversionReport(options, pictures, input.report);
+        if (unread > 0)
+            result.more.insert(u"unread"_s, unread);
+        if (status == ExitDone && options.isStrict && unread > 0)
+            status = ExitPartly;
         for (const PictureFile &picture : pictures)
             result.out.append(picture.path);
         if (pictures.empty())

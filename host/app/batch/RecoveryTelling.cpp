@@ -15,6 +15,8 @@ namespace {
 
 using RecoveryStep = drawing::RecoveryStep;
 
+constexpr qsizetype longestList = 200;
+
 QJsonObject stepObject(const RecoveryStep &step)
 {
     const QString done = step.done == RecoveryStep::Done::Dropped  ? u"dropped"_s
@@ -40,8 +42,16 @@ QJsonObject stepObject(const RecoveryStep &step)
 
 void tellRecovery(const QString &path, const drawing::RecoveryReport &report)
 {
-    constexpr qsizetype longestList = 200;
     for (const QString &line : report.lines(longestList))
+        writeMessage(u"%1: %2"_s.arg(files::visibleText(native(path)), files::visibleText(line)));
+}
+
+void tellLost(const QString &path, const drawing::ReadingNotes &notes)
+{
+    if (notes.lostCount == 0)
+        return;
+    writeMessage(u"%1: %2"_s.arg(files::visibleText(native(path)), notes.summary()));
+    for (const QString &line : notes.lines(longestList))
         writeMessage(u"%1: %2"_s.arg(files::visibleText(native(path)), files::visibleText(line)));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/dwg/ReadingNotes.h"
 #include "host/drawing/file/RecoveryReport.h"
 
 class QJsonObject;
@@ -9,6 +10,9 @@ namespace host::app {
 /// What recovering a drawing dropped, mended and added, on standard error: the first 200 steps, a line each, and the
 /// sums.
 void tellRecovery(const QString &path, const drawing::RecoveryReport &report);
+
+/// What of a DWG file could not be read, on standard error: how much, and the first 200, a line each.
+void tellLost(const QString &path, const drawing::ReadingNotes &notes);
 
 /// All of it: "dropped" with a number for each type, "mended", "added", and "steps" with what was done to what, why,
 /// how often and in which lines ("tag" and "byte" for a binary file), and as "text" for people.

@@ -158,7 +158,9 @@ QList<OptionRow> conversionOptions()
         forceOption(QT_TRANSLATE_NOOP("Uses", "write OUT although another program has it open")),
         {.name = "--strict",
          .help = QT_TRANSLATE_NOOP(
-             "Uses", "end with status 3 when something is missing in the picture, which is written all the same"),
+             "Uses",
+             "end with status 3 when something could not be read or is missing in the picture, which is written "
+             "all the same"),
          .apply = setFlag<&ProgramOptions::isStrict>},
         {.name = "--binary",
          .help = QT_TRANSLATE_NOOP("Uses", "write a DXF file in the binary form; without it, as text"),

@@ -16,6 +16,7 @@
 #include "host/app/window/frame/DrawingStatus.h"
 #include "host/app/window/frame/DrawingTabs.h"
 #include "host/app/window/frame/LayoutTabs.h"
+#include "host/app/window/frame/LossBar.h"
 #include "host/app/window/frame/Menus.h"
 #include "host/app/window/frame/Panels.h"
 #include "host/app/window/frame/Preferences.h"
@@ -74,6 +75,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     buildConsole();
     buildServices();
     middle->insertWidget(0, new TrustBar(*m_services, centralWidget()));
+    middle->insertWidget(1, new LossBar(*m_services, centralWidget()));
     m_panels = std::make_unique<Panels>(*this, *m_services);
     m_switches = std::make_unique<StatusSwitches>(*this, *m_services);
     m_typing = std::make_unique<AimTyping>(*m_commandLine->input(), [this] { return canvas(); });

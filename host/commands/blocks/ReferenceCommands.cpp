@@ -3,10 +3,10 @@
 #include "host/commands/blocks/AttachedDrawing.h"
 #include "host/commands/blocks/InsertPlacement.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/drawing/dwg/DwgText.h"
 #include "host/drawing/editing/ExternalReferences.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/records/Blocks.h"
-#include "host/drawing/records/FileIndexer.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/languages/Texts.h"
@@ -46,15 +46,14 @@ void setPath(drawing::Drawing &drawing, RecordId block, const QString &path)
     drawing.setFields(block, fields);
 }
 
-/// Whether the file can be referred to: any kind of drawing, also one that only other programs read.
+/// Whether the file can be referred to: any kind of drawing, also a DWG file that only other programs read.
 bool isDrawing(const QString &path)
 {
     constexpr qint64 largestDrawing = 0xFFFFFFFFLL;
     QFile file;
     if (!files::openRegular(file, path, largestDrawing).isEmpty())
         return false;
-    const QByteArray start = file.read(64);
-    return drawing::isDwg(start) || bool(drawing::Drawing::open(path));
+    return drawing::isDwgFile(path) || bool(drawing::Drawing::open(path));
 }
 
 /// Why the drawing can have no reference of that name to the file; empty when it can.

@@ -1,6 +1,7 @@
 #include "host/drawing/file/Recovery.h"
 
 #include "files/qt/Files.h"
+#include "host/drawing/dwg/DwgText.h"
 #include "host/drawing/file/DamagedBinary.h"
 #include "host/drawing/file/SectionSorter.h"
 #include "host/drawing/records/Blocks.h"
@@ -84,6 +85,24 @@ void completeDrawing(Drawing &drawing, const FileTraits &traits, quint64 firstNe
     completeBlocks(drawing, report);
 }
 
+/// Reading a DWG file leaves out what is damaged; its text may lack what holds the rest together.
+Recovered recoverDwg(QByteArrayView bytes)
+{
+    DwgText dwg = textOfDwg(bytes);
+    if (!dwg)
+        return nothingRecovered(dwg.error);
+    Recovered result = recoverDrawing(std::move(dwg.text));
+    RecoveryReport reading;
+    for (const ReadingNote &note : dwg.notes.list) {
+        if (note.isLost)
+            reading.add({RecoveryStep::Done::Dropped, RecoveryStep::Unit::Byte, 0, 0,
+                         note.type.isEmpty() ? DrawingTexts::tr("a part of the file") : note.type,
+                         note.handle.isEmpty() ? note.text : u"%1, %2"_s.arg(note.handle, note.text)});
+    }
+    result.report.putInFront(reading);
+    return result;
+}
+
 } // namespace
 
 Recovered recoverDrawing(QByteArray bytes)
@@ -92,6 +111,8 @@ Recovered recoverDrawing(QByteArray bytes)
         return nothingRecovered(DrawingTexts::tr("the file is larger than 4 GB"));
     if (const QString foreign = foreignContent(bytes); !foreign.isEmpty())
         return nothingRecovered(foreign);
+    if (isDwg(bytes))
+        return recoverDwg(bytes);
     Recovered result;
     RecoveryReport binaryReport;
     const bool isBinary = bytes.startsWith(binaryMark());

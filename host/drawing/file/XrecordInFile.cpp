@@ -1,6 +1,7 @@
 #include "host/drawing/file/XrecordInFile.h"
 
 #include "files/qt/Files.h"
+#include "host/drawing/dwg/DwgText.h"
 #include "host/drawing/file/ObjectsText.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/FileIndexer.h"
@@ -57,12 +58,11 @@ std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const Pi
         return failed(DrawingTexts::tr("the file is larger than 4 GB"));
     if (!file.seek(0))
         return failed(file.errorString());
-    // Those of other programs are not read whole only to be refused.
-    if (const QByteArray start = file.peek(64); isDwg(start))
-        return failed(foreignContent(start));
-    Finding found = findInPieces(file, name, sizes);
-    if (found.isCertain)
-        return std::move(found.data);
+    if (!isDwg(file.peek(64))) {
+        Finding found = findInPieces(file, name, sizes);
+        if (found.isCertain)
+            return std::move(found.data);
+    }
     if (!file.seek(0))
         return failed(file.errorString());
     const ReadResult whole = Drawing::fromBytes(file.read(size));

@@ -1,6 +1,7 @@
 #include "host/drawing/records/Drawing.h"
 
 #include "files/qt/Files.h"
+#include "host/drawing/dwg/DwgText.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/DrawingPrivate.h"
@@ -48,6 +49,24 @@ Drawing::Drawing(IndexedFile &&file)
 Drawing::~Drawing() = default;
 
 ReadResult Drawing::fromBytes(QByteArray bytes)
+{
+    return isDwg(bytes) ? fromDwg(bytes) : fromDxf(std::move(bytes));
+}
+
+ReadResult Drawing::fromDwg(QByteArrayView bytes)
+{
+    DwgText dwg = textOfDwg(bytes);
+    if (!dwg)
+        return {nullptr, {0, dwg.error}};
+    ReadResult result = fromDxf(std::move(dwg.text));
+    if (result) {
+        result.drawing->d->isFromDwg = true;
+        result.drawing->d->notes = std::move(dwg.notes);
+    }
+    return result;
+}
+
+ReadResult Drawing::fromDxf(QByteArray bytes)
 {
     IndexResult indexed = indexFile(std::move(bytes));
     if (!indexed.file)
@@ -105,6 +124,16 @@ void Drawing::setForm(FileForm form)
 bool Drawing::isBinaryFile() const
 {
     return d->file.binary.has_value();
+}
+
+bool Drawing::isFromDwg() const
+{
+    return d->isFromDwg;
+}
+
+const ReadingNotes &Drawing::readingNotes() const
+{
+    return d->notes;
 }
 
 const BinaryOrigin &Drawing::binaryOrigin() const

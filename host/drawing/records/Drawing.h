@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/dwg/ReadingNotes.h"
 #include "host/drawing/records/DrawingObserver.h"
 #include "host/drawing/records/Record.h"
 #include "host/drawing/tags/BinaryTags.h"
@@ -70,6 +71,8 @@ public:
     /// Reads a DXF file of any version, text or binary. All or nothing: what is wrong in the structure is told with its
     /// line, values are not looked at. Costs one pass over the bytes, which are kept; those of a binary file are made
     /// text, which is kept instead.
+    ///
+    /// A DWG file is made text as well, as far as it can be read: see readingNotes().
     static ReadResult fromBytes(QByteArray bytes);
     /// As fromBytes(), for a regular file of up to 4 GB; remembers its path. What the file is, is told from its
     /// content, not from its name. Errors of opening begin with the path.
@@ -91,6 +94,10 @@ public:
     void setForm(FileForm form);
     /// Whether the file that was read is a binary one.
     bool isBinaryFile() const;
+    /// Whether the file that was read is a DWG file. The drawing is written as DXF, so not in its place.
+    bool isFromDwg() const;
+    /// What of the file that was read is not in the drawing, or is doubtful.
+    const ReadingNotes &readingNotes() const;
     /// What a drawing in the binary form is written with: how its file was, or how such files of its version are.
     const BinaryOrigin &binaryOrigin() const;
     /// What the file was read as: its text. Views into it are what KeptTag::place counts from.
@@ -207,6 +214,8 @@ public:
 private:
     friend class Journal;
     explicit Drawing(IndexedFile &&file);
+    static ReadResult fromDxf(QByteArray bytes);
+    static ReadResult fromDwg(QByteArrayView bytes);
 
     bool isInside(RecordId id, RecordId container) const;
     void link(RecordId id, RecordId after);

@@ -31,6 +31,8 @@ struct Drawing::Private
     TextCodec codec;
     Version version = Version::R12;
     FileForm form = FileForm::Text;
+    bool isFromDwg = false;
+    ReadingNotes notes;
     BinaryOrigin binary;
     QString path;
     ByteArena arena;

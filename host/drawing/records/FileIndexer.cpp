@@ -362,19 +362,10 @@ Section sectionNamed(QByteArrayView name)
     return Section::Other;
 }
 
-bool isDwg(QByteArrayView bytes)
-{
-    const auto isVersionDigit = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
-    return bytes.size() >= 6 && bytes.startsWith("AC") &&
-           std::all_of(bytes.begin() + 2, bytes.begin() + 6, isVersionDigit);
-}
-
 QString foreignContent(QByteArrayView bytes)
 {
     if (bytes.trimmed().isEmpty())
         return DrawingTexts::tr("the file is empty");
-    if (isDwg(bytes))
-        return DrawingTexts::tr("this is a DWG file; this program reads DXF only");
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         return DrawingTexts::tr("this is a UTF-16 text file, not a DXF file");
     if (bytes.startsWith("\x1F\x8B") || bytes.startsWith("PK\x03\x04"))

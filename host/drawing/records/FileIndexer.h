@@ -40,10 +40,7 @@ Section sectionNamed(QByteArrayView name);
 /// Whether a carriage return stands without the line feed behind it: text in some files and a line end in others.
 bool hasLoneCarriageReturn(QByteArrayView bytes);
 
-/// Whether a file that begins so is a drawing in a format that is not read here.
-bool isDwg(QByteArrayView bytes);
-
-/// Says what a file is that is no DXF file of either form (empty, DWG, UTF-16, packed); empty when it may be one.
+/// Says what a file is that is no drawing (empty, UTF-16, packed); empty when it may be one.
 QString foreignContent(QByteArrayView bytes);
 
 } // namespace host::drawing

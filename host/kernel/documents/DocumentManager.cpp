@@ -16,7 +16,7 @@ namespace host::kernel {
 
 namespace {
 
-/// Lines on what was mended in a drawing.
+/// Lines on what was mended in a drawing, or is not in it.
 constexpr qsizetype longestTelling = 200;
 
 } // namespace
@@ -46,7 +46,7 @@ OpenOutcome DocumentManager::open(const QString &path, OpenMode mode)
     const QString file = claim.file();
     Document *document = add(std::move(read.drawing), std::move(claim));
     tellLeftovers(*document, file);
-    return {document, {}};
+    return {.document = document, .error = {}, .lost = tellLost(*document)};
 }
 
 OpenOutcome DocumentManager::openRecovered(const QString &path)
@@ -89,6 +89,16 @@ OpenOutcome DocumentManager::openCopy(const RecoveryFile &copy)
     if (!told.isEmpty())
         document->print(u'\n' + told.join(u'\n') + u'\n');
     return {document, {}, told};
+}
+
+QStringList DocumentManager::tellLost(Document &document)
+{
+    const drawing::ReadingNotes &notes = document.drawing().readingNotes();
+    if (notes.lostCount == 0)
+        return {};
+    const QStringList told = QStringList(notes.summary()) + notes.lines(longestTelling);
+    document.print(u'\n' + told.join(u'\n') + u'\n');
+    return told;
 }
 
 /// Takes away what a save that was killed left beside the file, and tells of a whole copy.

@@ -20,6 +20,7 @@ struct OpenOutcome
     QString error;                      ///< a sentence that names the file
     QStringList recovered{};            ///< what opening a damaged file dropped and mended, a sentence each
     std::optional<LockHolder> holder{}; ///< why there is no document: another process has the file open
+    QStringList lost{};                 ///< what of a DWG file could not be read: how much, then a sentence each
 
     explicit operator bool() const { return document != nullptr; }
 };
@@ -36,8 +37,9 @@ public:
     /// Closes all documents without saving.
     ~DocumentManager() override;
 
-    /// Opens a DXF file and makes it the active document. A file that is open already becomes active, and is not read
-    /// again. What a save that was killed left beside the file is taken away, and told in the document.
+    /// Opens a drawing file and makes it the active document. A file that is open already becomes active, and is not
+    /// read again. What a save that was killed left beside the file is taken away, and told in the document, as is what
+    /// of a DWG file could not be read.
     OpenOutcome open(const QString &path, OpenMode mode = OpenMode::Alone);
     /// Opens what is sound of a damaged file as a drawing that has no file yet and differs from what any file holds:
     /// "plan.dxf (recovered)". It is never saved under the path of the damaged one. What was dropped is printed in it.
@@ -82,6 +84,7 @@ signals:
 
 private:
     Document *add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim, const QString &name = {});
+    static QStringList tellLost(Document &document);
     static void tellLeftovers(Document &document, const QString &path);
     void remove(Document *document);
     template <typename Call>

@@ -23,14 +23,16 @@ DrawingClaim::DrawingClaim(const QString &path, OpenMode mode)
 
 void DrawingClaim::setContent(const drawing::Drawing &drawing)
 {
-    if (m_stamp)
+    // What a DWG file came to is not what is in it, and it is never written.
+    if (m_stamp && !drawing.isFromDwg())
         m_stamp->setContent(drawing);
 }
 
 void DrawingClaim::noteWritten(const drawing::Drawing &drawing)
 {
     m_stamp = FileStamp::of(m_file);
-    setContent(drawing);
+    if (m_stamp)
+        m_stamp->setContent(drawing);
 }
 
 bool DrawingClaim::isOf(const QString &file, const std::optional<FileIdentity> &identity) const

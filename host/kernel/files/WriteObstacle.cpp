@@ -1,5 +1,6 @@
 #include "host/kernel/files/WriteObstacle.h"
 
+#include "host/drawing/dwg/DwgText.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/languages/Texts.h"
@@ -39,6 +40,11 @@ std::optional<WriteObstacle> findObstacle(const QString &path, Session *session,
     if (const auto identity = identityOf(path); writer && identity && identity == identityOf(writer->damagedFile()))
         return {{Kind::Damaged,
                  Kernel::tr("%1 is the damaged file that this drawing was recovered from; save it under another "
+                            "name.")
+                     .arg(shown)}};
+    if (drawing::isDwgFile(path))
+        return {{Kind::Dwg,
+                 Kernel::tr("%1 is a DWG file, which this program reads but does not write; give the drawing another "
                             "name.")
                      .arg(shown)}};
     if (writer && writer->claim().isOf(path))

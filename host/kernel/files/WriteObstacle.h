@@ -21,6 +21,7 @@ struct WriteObstacle
         OpenElsewhere, ///< open in another process
         ReadOnly,      ///< the drawing's own, which was opened for reading only
         Damaged,       ///< the file that the drawing was recovered from
+        Dwg,           ///< a DWG file, the drawing's own or another: what is written is no DWG
         Changed,       ///< the drawing's own; something else has written it since
         Gone           ///< the drawing's own; nothing is there any more
     };
@@ -29,7 +30,10 @@ struct WriteObstacle
     QString text; ///< a sentence that names the file
 
     /// Whoever is asked may have the file written all the same.
-    bool mayBeOverruled() const { return kind != Kind::OpenHere && kind != Kind::ReadOnly && kind != Kind::Damaged; }
+    bool mayBeOverruled() const
+    {
+        return kind != Kind::OpenHere && kind != Kind::ReadOnly && kind != Kind::Damaged && kind != Kind::Dwg;
+    }
 };
 
 /// Whether something is known by what a drawing's file must not be replaced.

@@ -63,7 +63,8 @@ FileResult auditDrawing(const QString &path, const ProgramOptions &options)
         result.outcome = faults == 0 ? Outcome::Done : Outcome::Failed;
         return result;
     }
-    const QString output = QDir(options.outFolder).filePath(QFileInfo(path).fileName());
+    const bool isDwg = path.endsWith(u".dwg", Qt::CaseInsensitive);
+    const QString output = resultPath(options.outFolder, path, isDwg ? u"dxf"_s : QFileInfo(path).suffix());
     const QString error = writeMended(*recovered.drawing, path, output, options.isForced);
     (error.isEmpty() ? result.out : result.messages).append(error.isEmpty() ? output : error);
     result.outcome = error.isEmpty() ? Outcome::Done : Outcome::NotWritten;

@@ -15,6 +15,7 @@ InputDrawing openToInspect(const QString &path, const ProgramOptions &options)
         drawing::ReadResult read = drawing::Drawing::open(path);
         if (!read)
             return {.drawing = nullptr, .error = drawing::openingError(native(path), read)};
+        tellLost(path, read.drawing->readingNotes());
         return {.drawing = std::move(read.drawing)};
     }
     drawing::Recovered recovered = drawing::recoverFile(path);

@@ -1,23 +1,16 @@
 #pragma once
 
-#include "host/kernel/documents/Document.h"
+#include "host/app/window/frame/NoticeBar.h"
 #include "host/kernel/files/TrustedFolders.h"
 
-#include <QFrame>
-#include <QPointer>
-
-class QLabel;
-class QListWidget;
 class QPushButton;
 
 namespace host::app {
 
-class WindowServices;
-
-/// A bar above the drawing that says what the active drawing, or a program in it, was kept from doing, while there is
+/// A bar that says what the active drawing, or a program in it, was kept from doing, while there is
 /// something. Its list has what it was and why; what is chosen there, or all of it, can be allowed this once or for its
 /// folder. Closed, it comes back with the next news. It changes nothing while something runs.
-class TrustBar final : public QFrame
+class TrustBar final : public NoticeBar
 {
     Q_OBJECT
 
@@ -25,8 +18,10 @@ public:
     /// The services must outlive it.
     explicit TrustBar(WindowServices &services, QWidget *parent = nullptr);
 
+protected:
+    void follow(kernel::Document *document) override;
+
 private:
-    void follow(kernel::Document *document);
     void showNews();
     /// What there is now; hides the bar when that is nothing.
     void update();
@@ -35,10 +30,6 @@ private:
     /// What is chosen in the list, else all that can be allowed.
     std::vector<kernel::KeptBack> meant() const;
 
-    WindowServices &m_services;
-    QPointer<kernel::Document> m_document;
-    QLabel *m_text;
-    QListWidget *m_list;
     QPushButton *m_once;
     QPushButton *m_folder;
 };

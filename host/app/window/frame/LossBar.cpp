@@ -1,0 +1,27 @@
+#include "host/app/window/frame/LossBar.h"
+
+#include "files/qt/VisibleText.h"
+
+#include <QListWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+LossBar::LossBar(WindowServices &services, QWidget *parent) : NoticeBar(u"loss"_s, services, parent)
+{
+    setAccessibleName(tr("What of the file could not be read"));
+    list().setAccessibleName(tr("Objects that could not be read"));
+}
+
+void LossBar::follow(kernel::Document *document)
+{
+    constexpr qsizetype mostLines = 200;
+    NoticeBar::follow(document);
+    const drawing::ReadingNotes notes = document ? document->drawing().readingNotes() : drawing::ReadingNotes();
+    if (notes.lostCount > 0)
+        say(u"%1: %2."_s.arg(files::visibleText(document->title()), notes.summary()), notes.lines(mostLines));
+    setVisible(notes.lostCount > 0);
+}
+
+} // namespace host::app

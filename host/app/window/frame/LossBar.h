@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/app/window/frame/NoticeBar.h"
+
+namespace host::app {
+
+/// Says how many objects of the active drawing's file could not be read; its list has which, and why. Closed, it stays
+/// closed until another drawing is shown.
+class LossBar final : public NoticeBar
+{
+    Q_OBJECT
+
+public:
+    explicit LossBar(WindowServices &services, QWidget *parent = nullptr);
+
+protected:
+    void follow(kernel::Document *document) override;
+};
+
+} // namespace host::app

@@ -1,0 +1,57 @@
+#include "host/drawing/dwg/DwgText.h"
+
+#include "host/drawing/tags/DrawingTexts.h"
+#include "host/drawing/tags/Tag.h"
+#include "host/dwg/drawing/DrawingText.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace host::drawing {
+
+namespace {
+
+/// What tells such a file: "AC" and the number of its release, with a point in the oldest ones.
+constexpr qsizetype dwgMarkSize = 6;
+
+ReadingNotes notesOf(const dwg::Problems &problems)
+{
+    ReadingNotes notes;
+    notes.lostCount = qsizetype(problems.lostCount());
+    for (const dwg::Problem &problem : problems.list())
+        notes.list.push_back({.isLost = problem.kind == dwg::Problem::Kind::Lost,
+                              .type = QString::fromStdString(problem.type),
+                              .handle = problem.handle == 0 ? QString() : Handle{problem.handle}.toString(),
+                              .text = QString::fromStdString(problem.text)});
+    return notes;
+}
+
+} // namespace
+
+bool isDwg(QByteArrayView bytes)
+{
+    const auto isVersionDigit = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
+    return bytes.size() >= dwgMarkSize && bytes.startsWith("AC") &&
+           std::all_of(bytes.begin() + 2, bytes.begin() + dwgMarkSize, isVersionDigit);
+}
+
+bool isDwgFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && isDwg(file.peek(dwgMarkSize));
+}
+
+DwgText textOfDwg(QByteArrayView bytes)
+{
+    const dwg::DrawingText read =
+        dwg::readDrawing({reinterpret_cast<const std::uint8_t *>(bytes.data()), std::size_t(bytes.size())});
+    DwgText result{.text = QByteArray(read.text.data(), qsizetype(read.text.size())),
+                   .notes = notesOf(read.problems),
+                   .error = {}};
+    if (!result)
+        result.error = DrawingTexts::tr("this DWG file cannot be read: %1").arg(result.notes.lines(1).value(0));
+    return result;
+}
+
+} // namespace host::drawing
