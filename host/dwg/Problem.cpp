@@ -15,8 +15,7 @@ std::string Problem::message() const
 
 void Problems::add(Problem problem)
 {
-    if (problem.kind == Problem::Kind::Lost)
-        ++m_lostCount;
+    ++m_counts[static_cast<std::size_t>(problem.kind)];
     if (m_list.size() < mostKept)
         m_list.push_back(std::move(problem));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@ struct Problem
 {
     enum class Kind
     {
+        Kept,    ///< an object of a class, or in a form, that is not known here: its bytes are in the result
         Warning, ///< a checksum that does not fit, a number out of its range: what it concerns was read
         Lost     ///< what it concerns is not in the result
     };
@@ -36,11 +38,12 @@ public:
     void add(Problem problem);
 
     const std::vector<Problem> &list() const { return m_list; }
-    std::size_t lostCount() const { return m_lostCount; }
+    std::size_t count(Problem::Kind kind) const { return m_counts[static_cast<std::size_t>(kind)]; }
+    std::size_t lostCount() const { return count(Problem::Kind::Lost); }
 
 private:
     std::vector<Problem> m_list;
-    std::size_t m_lostCount = 0;
+    std::array<std::size_t, 3> m_counts{};
 };
 
 } // namespace host::dwg

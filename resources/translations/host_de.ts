@@ -5670,6 +5670,10 @@ Revisionswolke fertiggestellt.</translation>
         <source>All entities drawn</source>
         <translation>Alle Objekte gezeichnet</translation>
     </message>
+    <message>
+        <source>DWG %1, %2</source>
+        <translation>DWG %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>DrawingTexts</name>
@@ -6444,6 +6448,10 @@ Revisionswolke fertiggestellt.</translation>
     <message>
         <source>a part of the file</source>
         <translation>ein Teil der Datei</translation>
+    </message>
+    <message>
+        <source>the file is damaged; what could be read may be wrong</source>
+        <translation>die Datei ist beschädigt; was gelesen werden konnte, kann falsch sein</translation>
     </message>
 </context>
 <context>

@@ -5670,6 +5670,10 @@ Nube de revisión terminada.</translation>
         <source>All entities drawn</source>
         <translation>Todas las entidades dibujadas</translation>
     </message>
+    <message>
+        <source>DWG %1, %2</source>
+        <translation>DWG %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>DrawingTexts</name>
@@ -6444,6 +6448,10 @@ Nube de revisión terminada.</translation>
     <message>
         <source>a part of the file</source>
         <translation>una parte del archivo</translation>
+    </message>
+    <message>
+        <source>the file is damaged; what could be read may be wrong</source>
+        <translation>el archivo está dañado; lo que se pudo leer puede ser erróneo</translation>
     </message>
 </context>
 <context>

@@ -5670,6 +5670,10 @@ Nuage de révision terminé.</translation>
         <source>All entities drawn</source>
         <translation>Tous les objets sont dessinés</translation>
     </message>
+    <message>
+        <source>DWG %1, %2</source>
+        <translation>DWG %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>DrawingTexts</name>
@@ -6444,6 +6448,10 @@ Nuage de révision terminé.</translation>
     <message>
         <source>a part of the file</source>
         <translation>une partie du fichier</translation>
+    </message>
+    <message>
+        <source>the file is damaged; what could be read may be wrong</source>
+        <translation>le fichier est endommagé ; ce qui a pu être lu est peut-être faux</translation>
     </message>
 </context>
 <context>

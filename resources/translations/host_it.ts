@@ -5670,6 +5670,10 @@ Fumetto di revisione completato.</translation>
         <source>All entities drawn</source>
         <translation>Tutte le entità disegnate</translation>
     </message>
+    <message>
+        <source>DWG %1, %2</source>
+        <translation>DWG %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>DrawingTexts</name>
@@ -6444,6 +6448,10 @@ Fumetto di revisione completato.</translation>
     <message>
         <source>a part of the file</source>
         <translation>una parte del file</translation>
+    </message>
+    <message>
+        <source>the file is damaged; what could be read may be wrong</source>
+        <translation>il file è danneggiato; ciò che è stato letto può essere errato</translation>
     </message>
 </context>
 <context>

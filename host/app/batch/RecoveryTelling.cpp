@@ -48,10 +48,10 @@ void tellRecovery(const QString &path, const drawing::RecoveryReport &report)
 
 void tellLost(const QString &path, const drawing::ReadingNotes &notes)
 {
-    if (notes.lostCount == 0)
+    if (!notes.hasFaults())
         return;
     writeMessage(u"%1: %2"_s.arg(files::visibleText(native(path)), notes.summary()));
-    for (const QString &line : notes.lines(longestList))
+    for (const QString &line : notes.faults(longestList))
         writeMessage(u"%1: %2"_s.arg(files::visibleText(native(path)), files::visibleText(line)));
 }
 

@@ -11,7 +11,7 @@ namespace host::app {
 /// sums.
 void tellRecovery(const QString &path, const drawing::RecoveryReport &report);
 
-/// What of a DWG file could not be read, on standard error: how much, and the first 200, a line each.
+/// What of a DWG file could not be read or is doubtful, on standard error: a sum, and the first 200, a line each.
 void tellLost(const QString &path, const drawing::ReadingNotes &notes);
 
 /// All of it: "dropped" with a number for each type, "mended", "added", and "steps" with what was done to what, why,

@@ -94,13 +94,20 @@ enum class WhenEmpty
     OwnVersion ///< the name is asked for then
 };
 
+/// The drawing's own file; of a drawing that was read from DWG a DXF file of the same name.
+QString usualPath(const Document &document)
+{
+    const QString path = document.path();
+    return path.endsWith(u".dwg", Qt::CaseInsensitive) ? path.chopped(4) + u".dxf"_s : path;
+}
+
 /// Asks for a version first when one was answered in place of a file's name; then for the name. Nothing when the
 /// drawing is not to be written. The form is the drawing's own where no other was asked for.
 Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context, WhenEmpty whenEmpty)
 {
     const Document &document = context.document();
-    const QString usual = document.title();
-    const QString path = document.path();
+    const QString path = usualPath(document);
+    const QString usual = path.isEmpty() ? document.title() : QFileInfo(path).fileName();
     PromptReply reply = co_await context.text(Commands::tr("Save drawing as, or enter file format [%1/DXF] <%2>: ")
                                                   .arg(formatOptions().replace(u' ', u'/'), usual),
                                               path, formatOptions() + u" DXF"_s);

@@ -15,12 +15,26 @@ namespace {
 /// What tells such a file: "AC" and the number of its release, with a point in the oldest ones.
 constexpr qsizetype dwgMarkSize = 6;
 
+ReadingNote::Kind kindOf(dwg::Problem::Kind kind)
+{
+    switch (kind) {
+    case dwg::Problem::Kind::Kept:
+        return ReadingNote::Kind::Kept;
+    case dwg::Problem::Kind::Warning:
+        return ReadingNote::Kind::Doubtful;
+    case dwg::Problem::Kind::Lost:
+        break;
+    }
+    return ReadingNote::Kind::Lost;
+}
+
 ReadingNotes notesOf(const dwg::Problems &problems)
 {
-    ReadingNotes notes;
-    notes.lostCount = qsizetype(problems.lostCount());
+    ReadingNotes notes{.lostCount = qsizetype(problems.count(dwg::Problem::Kind::Lost)),
+                       .doubtfulCount = qsizetype(problems.count(dwg::Problem::Kind::Warning)),
+                       .list = {}};
     for (const dwg::Problem &problem : problems.list())
-        notes.list.push_back({.isLost = problem.kind == dwg::Problem::Kind::Lost,
+        notes.list.push_back({.kind = kindOf(problem.kind),
                               .type = QString::fromStdString(problem.type),
                               .handle = problem.handle == 0 ? QString() : Handle{problem.handle}.toString(),
                               .text = QString::fromStdString(problem.text)});
@@ -50,7 +64,7 @@ DwgText textOfDwg(QByteArrayView bytes)
                    .notes = notesOf(read.problems),
                    .error = {}};
     if (!result)
-        result.error = DrawingTexts::tr("this DWG file cannot be read: %1").arg(result.notes.lines(1).value(0));
+        result.error = DrawingTexts::tr("this DWG file cannot be read: %1").arg(result.notes.faults(1).value(0));
     return result;
 }
 

@@ -15,21 +15,21 @@ QString ReadingNote::message() const
 QString ReadingNotes::summary() const
 {
     if (lostCount == 0)
-        return {};
+        return doubtfulCount == 0 ? QString()
+                                  : DrawingTexts::tr("the file is damaged; what could be read may be wrong");
     return lostCount == 1 ? DrawingTexts::tr("1 object could not be read")
                           : DrawingTexts::tr("%1 objects could not be read").arg(lostCount);
 }
 
-QStringList ReadingNotes::lines(qsizetype limit) const
+QStringList ReadingNotes::faults(qsizetype limit) const
 {
     QStringList messages;
     for (const ReadingNote &note : list) {
-        if (messages.size() == limit) {
-            messages.append(DrawingTexts::tr("and %1 more").arg(qsizetype(list.size()) - limit));
-            break;
-        }
-        messages.append(note.message());
+        if (note.kind != ReadingNote::Kind::Kept && messages.size() < limit)
+            messages.append(note.message());
     }
+    if (const qsizetype further = lostCount + doubtfulCount - messages.size(); further > 0)
+        messages.append(DrawingTexts::tr("and %1 more").arg(further));
     return messages;
 }
 

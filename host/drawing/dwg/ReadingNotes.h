@@ -7,13 +7,20 @@
 
 namespace host::drawing {
 
-/// One thing that was found wrong in a file that opened all the same.
+/// One thing that was noted about a file that opened all the same.
 struct ReadingNote
 {
-    bool isLost = false; ///< what it concerns is not in the drawing; else it is, and is doubtful
-    QString type;        ///< of the object, as in DXF files ("LINE"); empty for a part of the file that is no object
-    QString handle;      ///< of the object, in digits of base 16; empty where there is none
-    QString text;        ///< a sentence, not translated
+    enum class Kind
+    {
+        Kept,     ///< nothing is wrong: an object is of a class that is not known, and is kept as its bytes
+        Doubtful, ///< what it concerns is in the drawing; a checksum does not fit
+        Lost      ///< what it concerns is not in the drawing
+    };
+
+    Kind kind = Kind::Lost;
+    QString type;   ///< of the object, as in DXF files ("LINE"); empty for a part of the file that is no object
+    QString handle; ///< of the object, in digits of base 16; empty where there is none
+    QString text;   ///< a sentence, not translated
 
     /// "LINE 2A: The object ends before its values do."
     QString message() const;
@@ -23,13 +30,16 @@ struct ReadingNote
 struct ReadingNotes
 {
     qsizetype lostCount = 0;       ///< objects, and parts, of the file that are not in the drawing
-    std::vector<ReadingNote> list; ///< the first 1000, lost ones and others
+    qsizetype doubtfulCount = 0;   ///< things that are in the drawing and may be wrong
+    std::vector<ReadingNote> list; ///< the first 1000 of all kinds
 
-    bool isEmpty() const { return list.empty(); }
-    /// "2 objects could not be read", in the language of the program; empty when none was lost.
+    /// Whether something is wrong.
+    bool hasFaults() const { return lostCount > 0 || doubtfulCount > 0; }
+    /// "2 objects could not be read", or "The file is damaged, ..." where all could, in the language of the program;
+    /// empty without a fault.
     QString summary() const;
-    /// The messages of the first `limit`, and how many there are beyond.
-    QStringList lines(qsizetype limit) const;
+    /// The messages of the first `limit` faults, and how many there are beyond.
+    QStringList faults(qsizetype limit) const;
 };
 
 } // namespace host::drawing

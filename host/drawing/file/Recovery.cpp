@@ -94,7 +94,7 @@ Recovered recoverDwg(QByteArrayView bytes)
     Recovered result = recoverDrawing(std::move(dwg.text));
     RecoveryReport reading;
     for (const ReadingNote &note : dwg.notes.list) {
-        if (note.isLost)
+        if (note.kind == ReadingNote::Kind::Lost)
             reading.add({RecoveryStep::Done::Dropped, RecoveryStep::Unit::Byte, 0, 0,
                          note.type.isEmpty() ? DrawingTexts::tr("a part of the file") : note.type,
                          note.handle.isEmpty() ? note.text : u"%1, %2"_s.arg(note.handle, note.text)});

@@ -75,6 +75,11 @@ void DrawingObjects::lose(std::uint64_t handle, int type, const char *why)
     m_problems.add({Problem::Kind::Lost, why, typeNameOf(type), handle});
 }
 
+void DrawingObjects::keep(std::uint64_t handle, int type, const char *why)
+{
+    m_problems.add({Problem::Kind::Kept, why, typeNameOf(type), handle});
+}
+
 void DrawingObjects::warn(std::uint64_t handle, int type, const char *why)
 {
     m_problems.add({Problem::Kind::Warning, why, typeNameOf(type), handle});

@@ -36,6 +36,7 @@ public:
 
     void lose(std::uint64_t handle, int type, const char *why);
     void warn(std::uint64_t handle, int type, const char *why);
+    void keep(std::uint64_t handle, int type, const char *why);
     /// Problems that concern no object.
     Problems &problems() { return m_problems; }
 

@@ -121,7 +121,7 @@ bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bo
         readProxy(m_fields, isEntity);
     } else {
         noteProxy(m_fields, frame.type, isEntity);
-        m_objects.warn(handle, frame.type, "Objects of this class are kept as their bytes.");
+        m_objects.keep(handle, frame.type, "Objects of this class are kept as their bytes.");
     }
     if (writeUnlessFailed())
         return true;

@@ -94,9 +94,9 @@ OpenOutcome DocumentManager::openCopy(const RecoveryFile &copy)
 QStringList DocumentManager::tellLost(Document &document)
 {
     const drawing::ReadingNotes &notes = document.drawing().readingNotes();
-    if (notes.lostCount == 0)
+    if (!notes.hasFaults())
         return {};
-    const QStringList told = QStringList(notes.summary()) + notes.lines(longestTelling);
+    const QStringList told = QStringList(notes.summary()) + notes.faults(longestTelling);
     document.print(u'\n' + told.join(u'\n') + u'\n');
     return told;
 }

@@ -20,7 +20,7 @@ struct OpenOutcome
     QString error;                      ///< a sentence that names the file
     QStringList recovered{};            ///< what opening a damaged file dropped and mended, a sentence each
     std::optional<LockHolder> holder{}; ///< why there is no document: another process has the file open
-    QStringList lost{};                 ///< what of a DWG file could not be read: how much, then a sentence each
+    QStringList lost{}; ///< what of a DWG file could not be read or is doubtful: a sum, then a sentence each
 
     explicit operator bool() const { return document != nullptr; }
 };

@@ -72,7 +72,7 @@ void addFormat(QJsonObject &facts, const Drawing &drawing)
     facts.insert(
         u"code"_s,
         drawing.header().text(u"$ACADVER", u"AC"_s + QString::number(int(drawing.version())).rightJustified(4, u'0')));
-    facts.insert(u"form"_s, drawing.isBinaryFile() ? u"binary"_s : u"text"_s);
+    facts.insert(u"form"_s, drawing.isFromDwg() ? u"DWG"_s : drawing.isBinaryFile() ? u"binary"_s : u"text"_s);
     facts.insert(u"encoding"_s,
                  drawing.codec().isUtf8() ? u"UTF-8"_s : drawing.header().text(u"$DWGCODEPAGE", u"ANSI_1252"_s));
     facts.insert(u"size"_s, QFileInfo(drawing.path()).size());

@@ -78,8 +78,8 @@ void DrawingStatus::showTexts(const QString &coordinates, const QString &status)
 void DrawingStatus::show(const drawing::Drawing &drawing, const view::RenderReport &report)
 {
     const bool isModel = drawing.header().integer(u"$TILEMODE", 1) != 0;
-    m_drawing->setText(
-        tr("DXF %1, %2").arg(versionName(drawing.version()), isModel ? tr("model space") : tr("paper space")));
+    m_drawing->setText((drawing.isFromDwg() ? tr("DWG %1, %2") : tr("DXF %1, %2"))
+                           .arg(versionName(drawing.version()), isModel ? tr("model space") : tr("paper space")));
     const QString text = report.isWhole() ? tr("All entities drawn") : report.missing();
     const int width = std::max(m_notDrawn->window()->width() / 2, longestReport);
     m_notDrawn->setText(m_notDrawn->fontMetrics().elidedText(text, Qt::ElideRight, width));

@@ -19,9 +19,9 @@ void LossBar::follow(kernel::Document *document)
     constexpr qsizetype mostLines = 200;
     NoticeBar::follow(document);
     const drawing::ReadingNotes notes = document ? document->drawing().readingNotes() : drawing::ReadingNotes();
-    if (notes.lostCount > 0)
-        say(u"%1: %2."_s.arg(files::visibleText(document->title()), notes.summary()), notes.lines(mostLines));
-    setVisible(notes.lostCount > 0);
+    if (notes.hasFaults())
+        say(u"%1: %2."_s.arg(files::visibleText(document->title()), notes.summary()), notes.faults(mostLines));
+    setVisible(notes.hasFaults());
 }
 
 } // namespace host::app

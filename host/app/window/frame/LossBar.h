@@ -4,7 +4,8 @@
 
 namespace host::app {
 
-/// Says how many objects of the active drawing's file could not be read; its list has which, and why. Closed, it stays
+/// Says how many objects of the active drawing's file could not be read, or that it is damaged; its list has which
+/// objects, and why. Closed, it stays
 /// closed until another drawing is shown.
 class LossBar final : public NoticeBar
 {
