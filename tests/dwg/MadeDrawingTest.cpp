@@ -1,0 +1,83 @@
+// Drawings that are made here, in each release and container, and read again: what stands in them comes out.
+
+#include "tests/dwg/making/ReadBack.h"
+
+#include <gtest/gtest.h>
+
+namespace host::dwg::test {
+
+namespace {
+
+class MadeFiles : public testing::TestWithParam<Release>
+{
+};
+
+void writeCircle(ObjectWriter &o)
+{
+    o.point({1.5, -2.0, 0.0});
+    o.real(5.0);
+    o.thickness(0.25);
+    o.extrusion({0.0, 0.0, -1.0});
+}
+
+} // namespace
+
+TEST_P(MadeFiles, AreReadAsTheyWereMade)
+{
+    MadeDrawing drawing(GetParam());
+    const std::uint64_t circle = drawing.addEntity(0x12, writeCircle);
+    drawing.head(circle).colour = 3;
+    drawing.head(circle).reactors = {MadeHandles::LayerZero};
+    drawing.addEntity(0x28, [](ObjectWriter &o) {
+        o.point({0.0, 0.0, 0.0});
+        o.point({1.0, 0.0, 0.0});
+    });
+    // A text that does not fit into the 15 bits of its length, and characters of one to four bytes.
+    const std::string wide = GetParam() >= Release::R2007 ? "a\xc3\xa4\xe2\x82\xac\xf0\x9f\x98\x80" : "abcd";
+    const std::string text = wide + std::string(3000, 'x');
+    const std::uint64_t variable = drawing.addObject("DICTIONARYVAR", "CLEF", [text](ObjectWriter &o) {
+        o.small(0);
+        o.text(text);
+    });
+    drawing.head(variable).dictionary = drawing.addOwned(0x2a, variable, [](ObjectWriter &o) {
+        o.int32(0);
+        if (o.release() == Release::R14)
+            o.small(0);
+        if (o.since(Release::R2000)) {
+            o.int16(1);
+            o.small(1);
+        }
+    });
+    drawing.setHeader("$LTSCALE", 2.5);
+
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.problems(), "");
+    EXPECT_EQ(read.record(circle), "0 CIRCLE|5 40|102 {ACAD_REACTORS|330 10|102 }|330 1D|100 AcDbEntity|8 0|62 3|"
+                                   "100 AcDbCircle|39 0.25|10 1.5|20 -2.0|30 0.0|40 5.0|210 0.0|220 0.0|230 -1.0|");
+    EXPECT_EQ(read.record(variable), "0 DICTIONARYVAR|5 42|102 {ACAD_XDICTIONARY|360 43|102 }|330 C|"
+                                     "100 DictionaryVariables|280 0|1 " +
+                                         text + '|');
+    EXPECT_EQ(read.lastPart(MadeHandles::NamedObjects),
+              GetParam() >= Release::R2000 ? "281 1|3 CLEF|350 42|" : "3 CLEF|350 42|");
+    EXPECT_EQ(read.variable("$LTSCALE"), "9 $LTSCALE|40 2.5|");
+    EXPECT_LT(read.drawing.text.find("AcDbRay"), read.drawing.text.find("OBJECTS"));
+}
+
+TEST_P(MadeFiles, HaveAsManyObjectsAsAreAdded)
+{
+    MadeDrawing drawing(GetParam());
+    constexpr std::size_t count = 5000;
+    for (std::size_t i = 0; i < count; ++i)
+        drawing.addEntity(0x12, writeCircle);
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.problems(), "");
+    EXPECT_EQ(read.drawing.objectCount, MadeDrawing(GetParam()).parts().objects.size() + count);
+    EXPECT_EQ(read.lastPart(0x40 + count - 1), read.lastPart(0x40));
+}
+
+INSTANTIATE_TEST_SUITE_P(Dwg, MadeFiles,
+                         testing::Values(Release::R13, Release::R14, Release::R2000, Release::R2004, Release::R2010,
+                                         Release::R2013, Release::R2018),
+                         [](const auto &row) { return "AC" + std::to_string(static_cast<int>(row.param)); });
+
+} // namespace host::dwg::test

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tests/dwg/making/BitWriter.h"
+
+#include <string>
+
+namespace host::dwg::test {
+
+using FileBytes = std::vector<std::uint8_t>;
+
+/// What a drawing file consists of, before it is put into a container.
+struct MadeParts
+{
+    struct Object
+    {
+        std::uint64_t handle = 0;
+        FileBytes bytes; ///< whole, as ObjectWriter::bytes() gives it
+    };
+
+    Release release = Release::R2000;
+    FileBytes header;  ///< the variables, without length, checksum and marks
+    FileBytes classes; ///< the same
+    std::vector<Object> objects;
+};
+
+/// A section of R2004 and later as it is cut into pages.
+struct MadeSection
+{
+    std::string name;
+    FileBytes bytes;
+    std::uint32_t pageSize = 0x400;
+    bool isPacked = true;
+};
+
+/// The file with these parts, in the container of their release: a table of sections up to R2000, pages later. R2007,
+/// which has another container than the releases around it, is not made.
+FileBytes madeFile(const MadeParts &parts);
+
+// What containers are made of.
+
+/// A section between its marks, with its length in front and its checksum behind.
+FileBytes sectionBetweenMarks(Release release, int mark, const FileBytes &content);
+constexpr int headerMark = 0;
+constexpr int classesMark = 1;
+
+/// The map of objects: where each of them is. Places rise with the objects.
+FileBytes objectMap(const std::vector<MadeParts::Object> &objects, const std::vector<std::size_t> &places);
+
+/// The sections of R2004 and later but R2007, from `parts`.
+std::vector<MadeSection> sectionsOf(const MadeParts &parts);
+/// A file of R2004 and later but R2007 that has these sections.
+FileBytes pagedFile(Release release, const std::vector<MadeSection> &sections);
+
+/// `bytes` packed as R2004 packs them, as plain bytes alone; at least 4 bytes.
+FileBytes packedPlain(const FileBytes &bytes);
+
+} // namespace host::dwg::test
