@@ -1,16 +1,16 @@
 #include "tests/dwg/making/ReadBack.h"
 
+#include <algorithm>
+#include <cstdio>
+
 namespace host::dwg::test {
 
 namespace {
 
-std::string tagsOf(const TextRecords &records, const std::string &key)
+std::string tagsOf(const TextNode &node)
 {
     std::string tags;
-    const auto found = records.find(key);
-    if (found == records.end())
-        return tags;
-    for (const TextTag &tag : found->second)
+    for (const TextTag &tag : node.tags)
         tags += std::to_string(tag.code) + ' ' + tag.value + '|';
     return tags;
 }
@@ -21,7 +21,7 @@ std::string ReadBack::record(std::uint64_t handle) const
 {
     char digits[20];
     std::snprintf(digits, sizeof digits, "%llX", static_cast<unsigned long long>(handle));
-    return tagsOf(records, digits);
+    return tagsOf(tree.nodes[tree.find(digits)]);
 }
 
 std::string ReadBack::lastPart(std::uint64_t handle) const
@@ -33,7 +33,8 @@ std::string ReadBack::lastPart(std::uint64_t handle) const
 
 std::string ReadBack::variable(const std::string &name) const
 {
-    return tagsOf(records, name);
+    const auto found = std::ranges::find(tree.nodes, name, &TextNode::name);
+    return found != tree.nodes.end() ? tagsOf(*found) : std::string();
 }
 
 std::string ReadBack::problems() const
@@ -48,7 +49,7 @@ ReadBack readBack(const FileBytes &file)
 {
     ReadBack result;
     result.drawing = readDrawing(file);
-    result.records = readRecords(result.drawing.text);
+    result.tree = readTree(result.drawing.text);
     return result;
 }
 

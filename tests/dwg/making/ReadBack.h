@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/dwg/drawing/DrawingText.h"
-#include "tests/dwg/PairComparison.h"
+#include "tests/dwg/TextTree.h"
 #include "tests/dwg/making/MadeDrawing.h"
 
 namespace host::dwg::test {
@@ -10,7 +10,7 @@ namespace host::dwg::test {
 struct ReadBack
 {
     DrawingText drawing;
-    TextRecords records;
+    TextTree tree;
 
     /// The record with the handle as one line: "0 LINE|5 40|330 1D|100 AcDbEntity|..."; empty where there is none.
     std::string record(std::uint64_t handle) const;
