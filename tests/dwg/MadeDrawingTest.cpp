@@ -76,8 +76,8 @@ TEST_P(MadeFiles, HaveAsManyObjectsAsAreAdded)
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, MadeFiles,
-                         testing::Values(Release::R13, Release::R14, Release::R2000, Release::R2004, Release::R2010,
-                                         Release::R2013, Release::R2018),
+                         testing::Values(Release::R13, Release::R14, Release::R2000, Release::R2004, Release::R2007,
+                                         Release::R2010, Release::R2013, Release::R2018),
                          [](const auto &row) { return "AC" + std::to_string(static_cast<int>(row.param)); });
 
 } // namespace host::dwg::test

@@ -1,6 +1,7 @@
 #include "host/dwg/bits/Checksums.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace host::dwg {
 
@@ -22,6 +23,50 @@ constexpr std::array<Number, 256> checksumTable()
 constexpr auto table16 = checksumTable<std::uint16_t, 0xa001>();
 constexpr auto table32 = checksumTable<std::uint32_t, 0xedb88320>();
 
+/// The two sums of a page.
+class PageSums
+{
+public:
+    /// As many bytes as can be summed before the second sum has to be reduced; a multiple of 8.
+    static constexpr std::size_t run = 0x15b0;
+
+    explicit PageSums(std::uint32_t seed) : m_first(seed & 0xffff), m_second(seed >> 16) {}
+
+    void add(std::uint8_t byte)
+    {
+        m_first += byte;
+        m_second += m_first;
+    }
+    void reduce()
+    {
+        m_first %= modulus;
+        m_second %= modulus;
+    }
+    std::uint32_t value() const { return m_second << 16 | m_first; }
+
+private:
+    static constexpr std::uint32_t modulus = 0xfff1;
+
+    std::uint32_t m_first;
+    std::uint32_t m_second;
+};
+
+/// The order that R2007 takes bytes in: the pairs of eight backwards, those of four changed.
+void addInPairs(Bytes part, PageSums &sums)
+{
+    const auto add = [&](std::initializer_list<std::size_t> order) {
+        for (const std::size_t i : order)
+            sums.add(part[i]);
+        part = part.subspan(order.size());
+    };
+    while (part.size() >= 8)
+        add({6, 7, 4, 5, 2, 3, 0, 1});
+    if (part.size() >= 4)
+        add({2, 3, 0, 1});
+    while (!part.empty())
+        add({0});
+}
+
 } // namespace
 
 std::uint16_t checksum16(Bytes bytes, std::uint16_t seed)
@@ -41,22 +86,27 @@ std::uint32_t checksum32(Bytes bytes, std::uint32_t seed)
 
 std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed)
 {
-    constexpr std::uint32_t modulus = 0xfff1;
-    // As many bytes as can be summed before the second sum has to be reduced.
-    constexpr std::size_t run = 0x15b0;
-    std::uint32_t first = seed & 0xffff;
-    std::uint32_t second = seed >> 16;
+    PageSums sums(seed);
     while (!bytes.empty()) {
-        const Bytes part = bytes.first(std::min(run, bytes.size()));
-        for (const std::uint8_t byte : part) {
-            first += byte;
-            second += first;
-        }
-        first %= modulus;
-        second %= modulus;
+        const Bytes part = bytes.first(std::min(PageSums::run, bytes.size()));
+        for (const std::uint8_t byte : part)
+            sums.add(byte);
+        sums.reduce();
         bytes = bytes.subspan(part.size());
     }
-    return second << 16 | first;
+    return sums.value();
+}
+
+std::uint32_t pageChecksum2007(Bytes bytes)
+{
+    PageSums sums(static_cast<std::uint32_t>(bytes.size()) * 0x343fd + 0x269ec3);
+    while (!bytes.empty()) {
+        const Bytes part = bytes.first(std::min(PageSums::run, bytes.size()));
+        addInPairs(part, sums);
+        sums.reduce();
+        bytes = bytes.subspan(part.size());
+    }
+    return sums.value();
 }
 
 } // namespace host::dwg

@@ -14,4 +14,7 @@ std::uint32_t checksum32(Bytes bytes, std::uint32_t seed);
 /// The checksum of pages of R2004 and later: two sums modulo 65521, the second one of the first.
 std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed);
 
+/// The same of R2007: begins with a number made of the length, and takes bytes in another order.
+std::uint32_t pageChecksum2007(Bytes bytes);
+
 } // namespace host::dwg

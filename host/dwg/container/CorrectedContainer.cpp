@@ -1,3 +1,5 @@
+#include "host/dwg/bits/Checksums.h"
+#include "host/dwg/bits/ErrorCorrection.h"
 #include "host/dwg/container/Container.h"
 #include "host/dwg/container/PageCompression2007.h"
 
@@ -12,23 +14,50 @@ using PageBytes = std::vector<std::uint8_t>;
 constexpr std::size_t headerPlace = 0x80;
 constexpr std::size_t pagesPlace = 0x480;
 
-/// How many of the 255 bytes of a block are its own; the others would correct it.
-constexpr std::size_t systemBlock = 239;
-constexpr std::size_t dataBlock = 251;
-constexpr std::size_t wholeBlock = 255;
-
 constexpr std::uint64_t mostGrowth2007 = 300;
 
-/// Blocks without what would correct them: byte by byte in turn, as all but a few sections have them.
-PageBytes withoutCorrection(Bytes page, std::size_t blocks, std::size_t own, bool inTurn)
+/// The bytes that were put right in a page, and whether there were more.
+struct Correction
+{
+    std::size_t count = 0;
+    bool isWhole = true;
+};
+
+/// Puts each block of a page right. Their bytes stand in turn: the first of each, then the second of each.
+Correction correctPage(PageBytes &page, ErrorCode code)
+{
+    Correction correction;
+    const std::size_t blocks = page.size() / correctedBlock;
+    std::array<std::uint8_t, correctedBlock> block{};
+    for (std::size_t one = 0; one < blocks; ++one) {
+        for (std::size_t i = 0; i < correctedBlock; ++i)
+            block[i] = page[one + i * blocks];
+        const auto count = correctBlock(code, block);
+        correction.count += count.value_or(0);
+        correction.isWhole = correction.isWhole && count.has_value();
+        for (std::size_t i = 0; count.value_or(0) > 0 && i < correctedBlock; ++i)
+            page[one + i * blocks] = block[i];
+    }
+    return correction;
+}
+
+/// The blocks' own bytes, one block behind the other.
+PageBytes ownBytesOf(Bytes page, ErrorCode code)
 {
     PageBytes bytes;
-    bytes.reserve(blocks * own);
-    for (std::size_t block = 0; block < blocks; ++block) {
-        for (std::size_t i = 0; i < own; ++i)
-            bytes.push_back(page[inTurn ? block + i * blocks : block * wholeBlock + i]);
+    const std::size_t blocks = page.size() / correctedBlock;
+    bytes.reserve(blocks * ownBytes(code));
+    for (std::size_t one = 0; one < blocks; ++one) {
+        for (std::size_t i = 0; i < ownBytes(code); ++i)
+            bytes.push_back(page[one + i * blocks]);
     }
     return bytes;
+}
+
+/// A number of bytes as they fill whole blocks.
+std::size_t blocksFor(std::uint64_t size, ErrorCode code)
+{
+    return (size + ownBytes(code) - 1) / ownBytes(code);
 }
 
 std::optional<PageBytes> unpacked(Bytes packed, std::uint64_t packedSize, std::uint64_t size)
@@ -40,16 +69,20 @@ std::optional<PageBytes> unpacked(Bytes packed, std::uint64_t packedSize, std::u
     return PageBytes(packed.begin(), packed.begin() + static_cast<std::ptrdiff_t>(std::min(size, packedSize)));
 }
 
+/// Where one of the two maps is. Each has a copy.
+struct MapPlace
+{
+    std::uint64_t place = 0; ///< the number of its page for the map of sections
+    std::uint64_t copy = 0;
+    std::uint64_t packedSize = 0;
+    std::uint64_t size = 0;
+    std::uint64_t repeat = 0; ///< how often the bytes stand in the page
+};
+
 struct Maps2007
 {
-    std::uint64_t pagesRepeat = 0;
-    std::uint64_t pagesPlace = 0;
-    std::uint64_t pagesPackedSize = 0;
-    std::uint64_t pagesSize = 0;
-    std::uint64_t sectionsPackedSize = 0;
-    std::uint64_t sectionsPage = 0;
-    std::uint64_t sectionsSize = 0;
-    std::uint64_t sectionsRepeat = 0;
+    MapPlace pages;
+    MapPlace sections;
 };
 
 struct Section2007
@@ -67,73 +100,99 @@ public:
 
     void read(Container &container)
     {
-        const std::optional<Maps2007> maps = readHeader();
+        const std::optional<Maps2007> maps = findHeader();
         if (!maps)
             return m_problems.lose("The header of the file cannot be read.");
-        const auto pages = systemPage(maps->pagesPlace, maps->pagesPackedSize, maps->pagesSize, maps->pagesRepeat);
+        auto pages = mapAt(maps->pages.place, maps->pages);
+        if (!pages)
+            pages = mapAt(maps->pages.copy, maps->pages);
         if (!pages)
             return m_problems.lose("The map of the file's pages cannot be read.");
         readPageMap(*pages);
-        const auto found = m_pages.find(static_cast<std::int64_t>(maps->sectionsPage));
-        const auto sections = found != m_pages.end() ? systemPage(found->second, maps->sectionsPackedSize,
-                                                                  maps->sectionsSize, maps->sectionsRepeat)
-                                                     : std::nullopt;
+        auto sections = mapOfPage(maps->sections.place, maps->sections);
+        if (!sections)
+            sections = mapOfPage(maps->sections.copy, maps->sections);
         if (!sections)
             return m_problems.lose("The map of the file's sections cannot be read.");
         BitReader reader(*sections);
         while (reader.left() >= 64 * 8 && !reader.hasFailed())
             readSection(reader, container);
+        if (m_corrected > 0)
+            m_problems.warn(std::to_string(m_corrected) + " damaged bytes were put right.");
     }
 
 private:
-    std::optional<Maps2007> readHeader()
+    static constexpr std::size_t headerBlocks = 3;
+    static constexpr std::size_t headerRoom = 0x400; ///< in the file
+
+    /// The header in front, else its copy at the end of the file.
+    std::optional<Maps2007> findHeader()
     {
-        constexpr std::size_t blocks = 3;
-        constexpr std::size_t unpackedSize = 0x110;
-        if (m_file.size() < headerPlace + blocks * wholeBlock)
+        if (m_file.size() < pagesPlace)
             return std::nullopt;
-        const PageBytes page = withoutCorrection(m_file.subspan(headerPlace), blocks, systemBlock, true);
-        BitReader head(page);
-        head.seek(24 * 8);
-        const auto packedSize = static_cast<std::int32_t>(head.raw32());
-        const std::uint64_t size = static_cast<std::uint64_t>(packedSize < 0 ? -std::int64_t(packedSize) : packedSize);
-        const auto bytes = packedSize < 0 ? unpacked(Bytes(page).subspan(32), size, size)
-                                          : unpacked(Bytes(page).subspan(32), size, unpackedSize);
-        if (!bytes || bytes->size() < unpackedSize)
-            return std::nullopt;
-        std::array<std::uint64_t, unpackedSize / 8> numbers{};
-        BitReader reader(*bytes);
-        for (std::uint64_t &number : numbers)
-            number = reader.raw64();
-        Maps2007 maps;
-        maps.pagesRepeat = numbers[3];
-        maps.pagesPlace = numbers[7];
-        maps.pagesPackedSize = numbers[10];
-        maps.pagesSize = numbers[11];
-        maps.sectionsPackedSize = numbers[22];
-        maps.sectionsPage = numbers[24];
-        maps.sectionsSize = numbers[25];
-        maps.sectionsRepeat = numbers[27];
+        auto maps = readHeader(m_file.subspan(headerPlace, headerBlocks * correctedBlock));
+        if (!maps && m_file.size() >= pagesPlace + headerRoom) {
+            maps = readHeader(m_file.last(headerRoom).first(headerBlocks * correctedBlock));
+            if (maps)
+                m_problems.warn("The header of the file is damaged; its copy was read.");
+        }
         return maps;
     }
 
-    /// A page of the two maps. `repeat` says how often its bytes are there.
-    std::optional<PageBytes> systemPage(std::uint64_t place, std::uint64_t packedSize, std::uint64_t size,
-                                        std::uint64_t repeat)
+    std::optional<Maps2007> readHeader(Bytes bytes)
     {
-        if (packedSize > m_file.size() || size > m_file.size() * mostGrowth2007 || repeat > 1000)
+        constexpr std::size_t headSize = 32;
+        constexpr std::size_t unpackedSize = 0x110;
+        const auto page = correctedPage(bytes, ErrorCode::Maps);
+        if (!page)
             return std::nullopt;
-        const std::size_t blocks = ((packedSize + 7) / 8 * 8 * repeat + systemBlock - 1) / systemBlock;
-        const Bytes page = pageAt(place, blocks);
-        if (page.empty())
+        BitReader head(*page);
+        head.seek(24 * 8);
+        // Below 0 for one that is not packed.
+        const auto packedSize = static_cast<std::int32_t>(head.raw32());
+        const std::uint64_t size = static_cast<std::uint64_t>(packedSize < 0 ? -std::int64_t(packedSize) : packedSize);
+        const Bytes content = Bytes(*page).subspan(headSize);
+        const auto plain = unpacked(content, size, packedSize < 0 ? size : unpackedSize);
+        if (!plain || plain->size() < unpackedSize)
             return std::nullopt;
-        return unpacked(withoutCorrection(page, blocks, systemBlock, true), packedSize, size);
+        std::array<std::uint64_t, unpackedSize / 8> numbers{};
+        BitReader reader(*plain);
+        for (std::uint64_t &number : numbers)
+            number = reader.raw64();
+        return Maps2007{{numbers[7], numbers[5], numbers[10], numbers[11], numbers[3]},
+                        {numbers[24], numbers[23], numbers[22], numbers[25], numbers[27]}};
+    }
+
+    /// The bytes of a page's blocks, put right; nothing where they are damaged beyond that.
+    std::optional<PageBytes> correctedPage(Bytes bytes, ErrorCode code)
+    {
+        PageBytes page(bytes.begin(), bytes.end());
+        const Correction correction = correctPage(page, code);
+        if (!correction.isWhole)
+            return std::nullopt;
+        m_corrected += correction.count;
+        return ownBytesOf(page, code);
+    }
+
+    std::optional<PageBytes> mapAt(std::uint64_t place, const MapPlace &map)
+    {
+        if (map.packedSize > m_file.size() || map.size > m_file.size() * mostGrowth2007 || map.repeat > 1000)
+            return std::nullopt;
+        const Bytes bytes =
+            pageAt(place, blocksFor((map.packedSize + 7) / 8 * 8 * map.repeat, ErrorCode::Maps) * correctedBlock);
+        const auto page = bytes.empty() ? std::nullopt : correctedPage(bytes, ErrorCode::Maps);
+        return page ? unpacked(*page, map.packedSize, map.size) : std::nullopt;
+    }
+
+    std::optional<PageBytes> mapOfPage(std::uint64_t number, const MapPlace &map)
+    {
+        const auto found = m_pages.find(static_cast<std::int64_t>(number));
+        return found != m_pages.end() ? mapAt(found->second, map) : std::nullopt;
     }
 
     /// Empty when the file ends before.
-    Bytes pageAt(std::uint64_t place, std::size_t blocks) const
+    Bytes pageAt(std::uint64_t place, std::size_t size) const
     {
-        const std::size_t size = blocks * wholeBlock;
         if (place > m_file.size() || pagesPlace + place > m_file.size() || size > m_file.size() - pagesPlace - place)
             return {};
         return m_file.subspan(pagesPlace + place, size);
@@ -184,25 +243,52 @@ private:
         const auto number = static_cast<std::int64_t>(reader.raw64());
         const std::uint64_t size = reader.raw64();
         const std::uint64_t packedSize = reader.raw64();
-        reader.raw64(); // checksums
-        reader.raw64();
+        const auto checksum = static_cast<std::uint32_t>(reader.raw64());
+        reader.raw64(); // another one, of 64 bits
         const auto found = m_pages.find(number);
         if (found == m_pages.end() || start > bytes.size() || packedSize > m_file.size())
             return false;
         m_unpackedSize += size;
         if (size > m_file.size() * mostGrowth2007 || m_unpackedSize > m_file.size() * mostGrowth2007)
             return false;
-        constexpr std::uint64_t inTurn = 4;
-        const std::size_t blocks = ((packedSize + 7) / 8 * 8 + dataBlock - 1) / dataBlock;
-        const Bytes page = pageAt(found->second, blocks);
-        if (page.empty() && blocks > 0)
-            return false;
-        const auto content =
-            unpacked(withoutCorrection(page, blocks, dataBlock, section.encoding == inTurn), packedSize, size);
+        constexpr std::uint64_t withCorrection = 4;
+        const auto content = section.encoding == withCorrection
+                                 ? pageContent(found->second, packedSize, size, checksum)
+                                 : plainContent(found->second, packedSize, size, checksum);
         if (content)
             std::copy_n(content->begin(), std::min<std::size_t>(content->size(), bytes.size() - start),
                         bytes.begin() + static_cast<std::ptrdiff_t>(start));
         return content.has_value();
+    }
+
+    /// Blocks are looked at for damaged bytes only where the checksum tells that there are any.
+    std::optional<PageBytes> pageContent(std::uint64_t place, std::uint64_t packedSize, std::uint64_t size,
+                                         std::uint32_t checksum)
+    {
+        const Bytes bytes = pageAt(place, blocksFor((packedSize + 7) / 8 * 8, ErrorCode::Data) * correctedBlock);
+        if (bytes.empty() && packedSize > 0)
+            return std::nullopt;
+        auto content = unpacked(ownBytesOf(bytes, ErrorCode::Data), packedSize, size);
+        if (content && pageChecksum2007(*content) == checksum)
+            return content;
+        PageBytes page(bytes.begin(), bytes.end());
+        const Correction correction = correctPage(page, ErrorCode::Data);
+        auto corrected = unpacked(ownBytesOf(page, ErrorCode::Data), packedSize, size);
+        if (corrected && pageChecksum2007(*corrected) == checksum) {
+            m_corrected += correction.count;
+            return corrected;
+        }
+        m_problems.warn("The checksum of a page does not fit.");
+        return corrected ? std::move(corrected) : std::move(content);
+    }
+
+    std::optional<PageBytes> plainContent(std::uint64_t place, std::uint64_t packedSize, std::uint64_t size,
+                                          std::uint32_t checksum)
+    {
+        auto content = unpacked(pageAt(place, packedSize), packedSize, size);
+        if (content && pageChecksum2007(*content) != checksum)
+            m_problems.warn("The checksum of a page does not fit.");
+        return content;
     }
 
     Bytes m_file;
@@ -210,6 +296,7 @@ private:
     std::map<std::int64_t, std::uint64_t> m_pages;
     std::uint64_t m_sectionSize = 0; ///< of all sections so far
     std::uint64_t m_unpackedSize = 0;
+    std::size_t m_corrected = 0; ///< bytes
 };
 
 } // namespace

@@ -178,7 +178,10 @@ FileBytes objectMap(const std::vector<MadeParts::Object> &objects, const std::ve
 
 FileBytes madeFile(const MadeParts &parts)
 {
-    return parts.release <= Release::R2000 ? locatorFile(parts) : pagedFile(parts.release, sectionsOf(parts));
+    if (parts.release <= Release::R2000)
+        return locatorFile(parts);
+    return parts.release == Release::R2007 ? correctedFile(sectionsOf(parts))
+                                           : pagedFile(parts.release, sectionsOf(parts));
 }
 
 std::vector<MadeSection> sectionsOf(const MadeParts &parts)

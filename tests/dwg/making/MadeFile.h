@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/dwg/bits/ErrorCorrection.h"
 #include "tests/dwg/making/BitWriter.h"
 
 #include <string>
@@ -32,8 +33,7 @@ struct MadeSection
     bool isPacked = true;
 };
 
-/// The file with these parts, in the container of their release: a table of sections up to R2000, pages later. R2007,
-/// which has another container than the releases around it, is not made.
+/// The file with these parts, in the container of their release: a table of sections up to R2000, pages later.
 FileBytes madeFile(const MadeParts &parts);
 
 // What containers are made of.
@@ -50,6 +50,10 @@ FileBytes objectMap(const std::vector<MadeParts::Object> &objects, const std::ve
 std::vector<MadeSection> sectionsOf(const MadeParts &parts);
 /// A file of R2004 and later but R2007 that has these sections.
 FileBytes pagedFile(Release release, const std::vector<MadeSection> &sections);
+/// A file of R2007 that has these sections; their pages are not packed.
+FileBytes correctedFile(const std::vector<MadeSection> &sections);
+/// `bytes` as a page of R2007: in blocks with what would correct them, byte by byte in turn.
+FileBytes correctedBlocks(ErrorCode code, FileBytes bytes);
 
 /// `bytes` packed as R2004 packs them, as plain bytes alone; at least 4 bytes.
 FileBytes packedPlain(const FileBytes &bytes);
