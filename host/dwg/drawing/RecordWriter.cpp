@@ -109,6 +109,9 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
     readHead(frame, type.name, type.isEntity);
     if (type.read)
         type.read(m_fields);
+    // Classes have other forms in other releases and programs; what a reader leaves over tells that it is another one.
+    if (m_objects.classOf(frame.type) && !m_fields.isUsedUp())
+        return false;
     return m_fields.relations().handle == handle && writeUnlessFailed();
 }
 
@@ -121,7 +124,10 @@ bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bo
         readProxy(m_fields, isEntity);
     } else {
         noteProxy(m_fields, frame.type, isEntity);
-        m_objects.keep(handle, frame.type, "Objects of this class are kept as their bytes.");
+        m_objects.keep(handle, frame.type,
+                       m_objects.typeOf(frame.type)
+                           ? "The object has another form than is known; it is kept as its bytes."
+                           : "Objects of this class are kept as their bytes.");
     }
     if (writeUnlessFailed())
         return true;

@@ -5,17 +5,21 @@ namespace host::dwg {
 
 namespace {
 
-void readDictionary(Fields &f)
+/// `isClass`: it is of a class, as dictionaries with a default are, which have the fields of R2000 in earlier files
+/// too.
+void readDictionaryBody(Fields &f, bool isClass)
 {
     f.subclass("AcDbDictionary");
     const std::size_t count = f.checkedCount(f.int32(), 8, f.references());
-    if (f.release() == Release::R14)
+    if (f.release() == Release::R14 && !isClass)
         f.small();
     int cloning = 1;
     bool isOwner = false;
-    if (f.since(Release::R2000)) {
+    if (f.since(Release::R2000) || isClass) {
         cloning = f.int16();
         isOwner = f.small() != 0;
+    }
+    if (f.since(Release::R2000)) {
         f.noteUnless(280, isOwner, {0});
         f.note(281, cloning);
     }
@@ -29,9 +33,14 @@ void readDictionary(Fields &f)
     }
 }
 
+void readDictionary(Fields &f)
+{
+    readDictionaryBody(f, false);
+}
+
 void readDictionaryWithDefault(Fields &f)
 {
-    readDictionary(f);
+    readDictionaryBody(f, true);
     f.subclass("AcDbDictionaryWithDefault");
     f.reference(340);
 }

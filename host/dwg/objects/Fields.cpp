@@ -42,6 +42,12 @@ bool Fields::hasFailed() const
     return m_values.hasFailed() || m_texts.hasFailed() || m_references.hasFailed();
 }
 
+bool Fields::isUsedUp() const
+{
+    // References fill the last byte up.
+    return !hasFailed() && m_values.left() == 0 && m_texts.left() == 0 && m_references.left() < 8;
+}
+
 std::string Fields::text()
 {
     return since(Release::R2007) ? m_texts.text16() : m_values.text8();

@@ -55,6 +55,9 @@ public:
     void splitAt(std::size_t bit);
     bool hasFailed() const;
     void fail() { m_values.fail(); }
+    /// Whether nothing is left of the object: of its references no whole one, of its values and texts not a bit. A
+    /// reader that knows the form of its object leaves nothing.
+    bool isUsedUp() const;
 
     Release release() const { return m_release; }
     bool since(Release release) const { return m_release >= release; }

@@ -102,8 +102,10 @@ std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release r
 BitReader textsOf(Bytes bytes, std::size_t end)
 {
     const auto numberAt = [bytes](std::size_t bit) { return BitReader(bytes, bit, bytes.size() * 8).raw16(); };
-    if (end < 17 || !BitReader(bytes, end - 1, end).bit())
-        return BitReader(bytes, end, end);
+    // The last bit says whether there are any.
+    const std::size_t flag = end - std::min<std::size_t>(end, 1);
+    if (end < 17 || !BitReader(bytes, flag, end).bit())
+        return BitReader(bytes, flag, flag);
     std::size_t at = end - 17;
     std::size_t size = numberAt(at);
     if ((size & 0x8000) != 0) {
@@ -123,10 +125,9 @@ void ObjectHead::read(const ObjectFrame &frame, bool isEntity, Fields &fields)
     m_space = 0;
     m_objectEnd = frame.referencesStart;
     const std::size_t all = frame.bytes.size() * 8;
-    BitReader texts;
-    if (fields.since(Release::R2007))
-        texts = textsOf(frame.bytes, m_objectEnd);
-    const std::size_t valuesEnd = texts.left() > 0 ? texts.position() : m_objectEnd != 0 ? m_objectEnd : all;
+    const bool hasTexts = fields.since(Release::R2007);
+    const BitReader texts = hasTexts ? textsOf(frame.bytes, m_objectEnd) : BitReader();
+    const std::size_t valuesEnd = hasTexts ? texts.position() : m_objectEnd != 0 ? m_objectEnd : all;
     fields.start(BitReader(frame.bytes, frame.bodyStart, valuesEnd), texts, BitReader(frame.bytes, m_objectEnd, all));
     fields.relations().isEntity = isEntity;
     fields.relations().handle = fields.values().handle().value;

@@ -19,7 +19,8 @@ std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release r
 /// The same without the checksum.
 std::optional<ObjectFrame> peekAt(Bytes objects, std::uint64_t place, Release release);
 
-/// Where the texts of R2007 and later are: in front of the references, found from their end. Empty when there are none.
+/// Where the texts of R2007 and later are: in front of the references, found from their end. Empty when there are none;
+/// its end is that of the values in any case.
 BitReader textsOf(Bytes bytes, std::size_t end);
 
 /// What follows the type: the handle, extended data, and what every entity or every other object has. Notes the tags in
