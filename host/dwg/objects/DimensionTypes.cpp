@@ -1,5 +1,8 @@
 #include "host/dwg/objects/TypeTable.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace host::dwg {
 
 namespace {
@@ -12,7 +15,8 @@ enum class Measured
     Diameter = 3,
     Radius = 4,
     ThreePoints = 5,
-    Ordinate = 6
+    Ordinate = 6,
+    JoggedRadius = 9
 };
 
 struct DimensionHead
@@ -27,9 +31,11 @@ struct DimensionHead
     int attachment = 0;
     int spacing = 1;
     double spacingFactor = 1.0;
+    bool unknown = false;
     bool flipsFirst = false;
     bool flipsSecond = false;
     Point place;
+    int kindFlags = 0; ///< what a kind adds to the type
 };
 
 DimensionHead readDimensionHead(Fields &f)
@@ -53,7 +59,7 @@ DimensionHead readDimensionHead(Fields &f)
         head.measurement = f.real();
     }
     if (f.since(Release::R2007)) {
-        f.flag();
+        head.unknown = f.flag();
         head.flipsFirst = f.flag();
         head.flipsSecond = f.flag();
     }
@@ -89,8 +95,11 @@ void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point def
         f.noteUnless(41, head.spacingFactor, {1.0});
         f.note(42, head.measurement);
     }
-    f.noteUnless(74, head.flipsFirst, {0});
-    f.noteUnless(75, head.flipsSecond, {0});
+    if (f.since(Release::R2007)) {
+        f.note(73, head.unknown);
+        f.note(74, head.flipsFirst);
+        f.note(75, head.flipsSecond);
+    }
     f.note(3, style);
     if (head.textRotation != 0.0)
         f.noteAngle(53, head.textRotation);
@@ -101,17 +110,17 @@ void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point def
 }
 
 /// What stands in front of a kind's own fields in the file and, but for the definition point, in the text form.
-/// `readOwn` notes the kind's fields and returns that point; what it adds to the type goes into `flags`.
+/// `readOwn` notes the kind's fields and returns that point; it may look at the head and
+/// adds its flags there.
 template <typename ReadOwn>
 void readDimension(Fields &f, Measured measured, ReadOwn readOwn)
 {
     f.subclass("AcDbDimension");
     const std::size_t begin = f.mark();
-    const DimensionHead head = readDimensionHead(f);
-    int flags = 0;
-    const Point definition = readOwn(flags);
+    DimensionHead head = readDimensionHead(f);
+    const Point definition = readOwn(head);
     const std::size_t end = f.mark();
-    noteDimensionHead(f, head, dimensionType(measured, head.flags) | flags, definition);
+    noteDimensionHead(f, head, dimensionType(measured, head.flags) | head.kindFlags, definition);
     f.moveForward(end, begin);
 }
 
@@ -134,29 +143,29 @@ Point readDistance(Fields &f, Measured measured)
 
 void readRotated(Fields &f)
 {
-    readDimension(f, Measured::Rotated, [&f](int &) { return readDistance(f, Measured::Rotated); });
+    readDimension(f, Measured::Rotated, [&f](DimensionHead &) { return readDistance(f, Measured::Rotated); });
 }
 
 void readAligned(Fields &f)
 {
-    readDimension(f, Measured::Aligned, [&f](int &) { return readDistance(f, Measured::Aligned); });
+    readDimension(f, Measured::Aligned, [&f](DimensionHead &) { return readDistance(f, Measured::Aligned); });
 }
 
 void readOrdinate(Fields &f)
 {
-    readDimension(f, Measured::Ordinate, [&f](int &flags) {
+    readDimension(f, Measured::Ordinate, [&f](DimensionHead &head) {
         f.subclass("AcDbOrdinateDimension");
         const Point definition = f.point();
         f.point(13);
         f.point(14);
-        flags = (f.small() & 1) != 0 ? 64 : 0;
+        head.kindFlags = (f.small() & 1) != 0 ? 64 : 0;
         return definition;
     });
 }
 
 void readThreePoints(Fields &f)
 {
-    readDimension(f, Measured::ThreePoints, [&f](int &) {
+    readDimension(f, Measured::ThreePoints, [&f](DimensionHead &) {
         f.subclass("AcDb3PointAngularDimension");
         const Point definition = f.point();
         f.point(13);
@@ -168,7 +177,7 @@ void readThreePoints(Fields &f)
 
 void readTwoLines(Fields &f)
 {
-    readDimension(f, Measured::TwoLines, [&f](int &) {
+    readDimension(f, Measured::TwoLines, [&f](DimensionHead &) {
         f.subclass("AcDb2LineAngularDimension");
         const Point arc{f.rawReal(), f.rawReal(), 0.0};
         f.point(13);
@@ -182,7 +191,7 @@ void readTwoLines(Fields &f)
 
 void readRadius(Fields &f)
 {
-    readDimension(f, Measured::Radius, [&f](int &) {
+    readDimension(f, Measured::Radius, [&f](DimensionHead &) {
         f.subclass("AcDbRadialDimension");
         const Point definition = f.point();
         f.point(15);
@@ -193,12 +202,55 @@ void readRadius(Fields &f)
 
 void readDiameter(Fields &f)
 {
-    readDimension(f, Measured::Diameter, [&f](int &) {
+    readDimension(f, Measured::Diameter, [&f](DimensionHead &) {
         f.subclass("AcDbDiametricDimension");
         f.point(15);
         const Point definition = f.point();
         f.real(40);
         return definition;
+    });
+}
+
+/// The length of an arc, which has the number of angles.
+void readArcLength(Fields &f)
+{
+    readDimension(f, Measured::ThreePoints, [&f](DimensionHead &) {
+        f.subclass("AcDbArcDimension");
+        const Point definition = f.point();
+        f.point(13);
+        f.point(14);
+        f.point(15);
+        f.flag(70);
+        f.real(40);
+        f.real(41);
+        f.flag(71);
+        f.point(16);
+        f.point(17);
+        return definition;
+    });
+}
+
+bool isDistance(Point a, Point b, double distance)
+{
+    return std::abs(std::hypot(a.x - b.x, a.y - b.y, a.z - b.z) - distance) <= 1e-6 * std::max(1.0, distance);
+}
+
+/// A radius whose line is bent towards another centre than the real one.
+void readJoggedRadius(Fields &f)
+{
+    readDimension(f, Measured::JoggedRadius, [&f](DimensionHead &head) {
+        f.subclass("AcDbRadialDimensionLarge");
+        const std::size_t begin = f.mark();
+        const Point centre = f.point();
+        const Point chord = f.point(15);
+        f.real(40);
+        f.point(13);
+        f.point(14);
+        f.arrange(begin, {13, 23, 33, 14, 24, 34, 15, 25, 35, 40});
+        // No drawing at hand has one; that the definition point is the centre is measured.
+        if (f.since(Release::R2000) && !isDistance(centre, chord, head.measurement))
+            f.fail();
+        return centre;
     });
 }
 
@@ -261,10 +313,11 @@ void readLeader(Fields &f)
 std::span<const ObjectType> dimensionTypes()
 {
     static constexpr ObjectType rows[] = {
-        {0x14, "DIMENSION", readOrdinate, true}, {0x15, "DIMENSION", readRotated, true},
-        {0x16, "DIMENSION", readAligned, true},  {0x17, "DIMENSION", readThreePoints, true},
-        {0x18, "DIMENSION", readTwoLines, true}, {0x19, "DIMENSION", readRadius, true},
-        {0x1a, "DIMENSION", readDiameter, true}, {0x2d, "LEADER", readLeader, true},
+        {0x14, "DIMENSION", readOrdinate, true},   {0x15, "DIMENSION", readRotated, true},
+        {0x16, "DIMENSION", readAligned, true},    {0x17, "DIMENSION", readThreePoints, true},
+        {0x18, "DIMENSION", readTwoLines, true},   {0x19, "DIMENSION", readRadius, true},
+        {0x1a, "DIMENSION", readDiameter, true},   {0x2d, "LEADER", readLeader, true},
+        {0, "ARC_DIMENSION", readArcLength, true}, {0, "LARGE_RADIAL_DIMENSION", readJoggedRadius, true},
     };
     return rows;
 }

@@ -1,3 +1,4 @@
+#include "host/dwg/objects/TableFormat.h"
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
@@ -39,70 +40,6 @@ void readTableStyle(Fields &f)
     f.flag(281);
     for (int row = 0; row < 3; ++row)
         readRowStyle(f);
-}
-
-void readContentFormat(Fields &f)
-{
-    f.note(300, "CONTENTFORMAT");
-    f.note(1, "CONTENTFORMAT_BEGIN");
-    f.int32(90);
-    f.int32(91);
-    f.int32(92);
-    f.int32(93);
-    f.text(300);
-    f.real(40);
-    f.real(140);
-    f.int32(94);
-    f.longColour(62);
-    f.reference(340);
-    f.real(144);
-    f.note(309, "CONTENTFORMAT_END");
-}
-
-void readGridFormat(Fields &f)
-{
-    f.int32(95);
-    f.note(302, "GRIDFORMAT");
-    f.note(1, "GRIDFORMAT_BEGIN");
-    f.int32(90);
-    f.int32(91);
-    f.longColour(62);
-    f.int32(92);
-    f.reference(340);
-    f.int32(93);
-    f.real(40);
-    f.note(309, "GRIDFORMAT_END");
-}
-
-void readMargins(Fields &f)
-{
-    f.note(301, "MARGIN");
-    f.note(1, "CELLMARGIN_BEGIN");
-    for (int i = 0; i < 6; ++i)
-        f.real(40);
-    f.note(309, "CELLMARGIN_END");
-}
-
-void readTableFormat(Fields &f)
-{
-    f.note(1, "TABLEFORMAT_BEGIN");
-    f.int32(90);
-    const bool hasFormat = f.int16(170) != 0;
-    if (hasFormat) {
-        f.int32(91);
-        f.int32(92);
-        f.longColour(62);
-        f.int32(93);
-        readContentFormat(f);
-        const bool hasMargins = f.int16(171) != 0;
-        if (hasMargins)
-            readMargins(f);
-        const std::size_t borders = f.count(8);
-        f.note(94, borders);
-        for (std::size_t i = 0; i < borders && !f.hasFailed(); ++i)
-            readGridFormat(f);
-    }
-    f.note(309, "TABLEFORMAT_END");
 }
 
 void readCellStyle(Fields &f)

@@ -10,10 +10,12 @@ struct AllTypes
 {
     AllTypes()
     {
-        for (const auto rows : {curveTypes(), polylineTypes(), textTypes(), insertTypes(), dimensionTypes(),
-                                multiLeaderTypes(), hatchTypes(), solidTypes(), viewportTypes(), imageTypes(),
-                                multiLineTypes(), tableTypes(), dimensionStyleTypes(), dictionaryTypes(), layoutTypes(),
-                                materialTypes(), visualStyleTypes(), styleTypes(), tableStyleTypes()}) {
+        for (const auto rows :
+             {curveTypes(),       polylineTypes(),      textTypes(),           insertTypes(),     dimensionTypes(),
+              multiLeaderTypes(), hatchTypes(),         solidTypes(),          viewportTypes(),   imageTypes(),
+              multiLineTypes(),   tableTypes(),         dimensionStyleTypes(), dictionaryTypes(), layoutTypes(),
+              materialTypes(),    visualStyleTypes(),   styleTypes(),          tableStyleTypes(), tableContentTypes(),
+              fieldTypes(),       dimensionLinkTypes(), lightTypes(),          filterTypes()}) {
             for (const ObjectType &row : rows) {
                 if (row.number != 0)
                     byNumber.emplace(row.number, &row);

@@ -1,0 +1,223 @@
+#include "host/dwg/objects/TableContent.h"
+#include "host/dwg/objects/TableFormat.h"
+#include "host/dwg/objects/TypeTable.h"
+
+namespace host::dwg {
+
+namespace {
+
+/// Values under names, which other programs keep in a table.
+void readCustomData(Fields &f)
+{
+    f.int32(91);
+    f.note(301, "CUSTOMDATA");
+    f.note(1, "DATAMAP_BEGIN");
+    const std::size_t count = f.count(4);
+    f.note(90, count);
+    for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
+        f.text(300);
+        f.note(301, "DATAMAP_VALUE");
+        readCellValue(f);
+    }
+    f.note(309, "DATAMAP_END");
+}
+
+/// The format between the lines around it that name what has it.
+void readNamedFormat(Fields &f, const char *name, const char *begin, const char *end)
+{
+    f.note(1, begin);
+    f.note(300, name);
+    readTableFormat(f);
+    f.note(309, end);
+}
+
+void readColumn(Fields &f)
+{
+    f.note(300, "COLUMN");
+    f.note(1, "LINKEDTABLEDATACOLUMN_BEGIN");
+    f.text(300);
+    readCustomData(f);
+    f.note(309, "LINKEDTABLEDATACOLUMN_END");
+    readNamedFormat(f, "COLUMNTABLEFORMAT", "FORMATTEDTABLEDATACOLUMN_BEGIN", "FORMATTEDTABLEDATACOLUMN_END");
+    f.note(1, "TABLECOLUMN_BEGIN");
+    f.int32(90);
+    f.real(40);
+    f.note(309, "TABLECOLUMN_END");
+}
+
+void readContentAttributes(Fields &f)
+{
+    const std::size_t count = f.count(4);
+    f.note(91, count);
+    for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
+        f.reference(330);
+        f.text(301);
+        f.int32(92);
+    }
+}
+
+void readContent(Fields &f)
+{
+    enum Kind
+    {
+        Value = 1,
+        FieldKind = 2,
+        Block = 4
+    };
+    f.note(302, "CONTENT");
+    f.note(1, "CELLCONTENT_BEGIN");
+    const int kind = f.int32(90);
+    if (kind == Value) {
+        f.note(300, "VALUE");
+        readCellValue(f);
+    } else if (kind == FieldKind || kind == Block) {
+        f.reference(340);
+    }
+    readContentAttributes(f);
+    f.note(309, "CELLCONTENT_END");
+    f.note(1, "FORMATTEDCELLCONTENT_BEGIN");
+    if (f.int16(170) != 0)
+        readContentFormat(f);
+    f.note(309, "FORMATTEDCELLCONTENT_END");
+}
+
+/// Where the data of a cell comes from.
+void readDataLink(Fields &f)
+{
+    if (f.int32(92) == 0)
+        return;
+    f.reference(340);
+    f.int32(93);
+    f.int32(94);
+    f.int32(96);
+}
+
+/// Where the contents of a cell stand in it.
+void readCellGeometry(Fields &f)
+{
+    if (f.int32(91) == 0)
+        return;
+    f.real(40);
+    f.real(41);
+    f.int32(92);
+    f.reference(330);
+}
+
+void readCell(Fields &f)
+{
+    f.note(300, "CELL");
+    f.note(1, "LINKEDTABLEDATACELL_BEGIN");
+    f.int32(90);
+    f.text(300);
+    readCustomData(f);
+    readDataLink(f);
+    const std::size_t contents = f.count(4);
+    f.note(95, contents);
+    for (std::size_t i = 0; i < contents && !f.hasFailed(); ++i)
+        readContent(f);
+    f.note(309, "LINKEDTABLEDATACELL_END");
+    readNamedFormat(f, "CELLTABLEFORMAT", "FORMATTEDTABLEDATACELL_BEGIN", "FORMATTEDTABLEDATACELL_END");
+    f.note(1, "TABLECELL_BEGIN");
+    f.int32(90);
+    readCellGeometry(f);
+    f.note(309, "TABLECELL_END");
+}
+
+void readRow(Fields &f)
+{
+    f.note(301, "ROW");
+    f.note(1, "LINKEDTABLEDATAROW_BEGIN");
+    const std::size_t cells = f.count(8);
+    f.note(90, cells);
+    for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i)
+        readCell(f);
+    readCustomData(f);
+    f.note(309, "LINKEDTABLEDATAROW_END");
+    readNamedFormat(f, "ROWTABLEFORMAT", "FORMATTEDTABLEDATAROW_BEGIN", "FORMATTEDTABLEDATAROW_END");
+    f.note(1, "TABLEROW_BEGIN");
+    f.int32(90);
+    f.real(40);
+    f.note(309, "TABLEROW_END");
+}
+
+void readLinkedTable(Fields &f)
+{
+    f.subclass("AcDbLinkedTableData");
+    const std::size_t columns = f.count(8);
+    f.note(90, columns);
+    for (std::size_t i = 0; i < columns && !f.hasFailed(); ++i)
+        readColumn(f);
+    const std::size_t rows = f.count(8);
+    f.note(91, rows);
+    for (std::size_t i = 0; i < rows && !f.hasFailed(); ++i)
+        readRow(f);
+    const std::size_t fields = f.checkedCount(f.int32(), 8, f.references());
+    f.note(92, fields);
+    for (std::size_t i = 0; i < fields; ++i)
+        f.reference(340);
+}
+
+void readFormattedTable(Fields &f)
+{
+    f.subclass("AcDbFormattedTableData");
+    f.note(300, "TABLEFORMAT");
+    readTableFormat(f);
+    const std::size_t merged = f.count(8);
+    f.note(90, merged);
+    for (std::size_t i = 0; i < merged; ++i) {
+        for (int code = 91; code <= 94; ++code)
+            f.int32(code);
+    }
+}
+
+void readCellContentGeometry(Fields &f)
+{
+    f.point(10);
+    f.point(11);
+    for (int code = 43; code <= 46; ++code)
+        f.real(code);
+    f.int32(95);
+}
+
+void readTableGeometry(Fields &f)
+{
+    f.subclass("AcDbTableGeometry");
+    f.int32(90);
+    f.int32(91);
+    const std::size_t cells = f.count(8);
+    f.note(92, cells);
+    for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i) {
+        f.int32(93);
+        f.real(40);
+        f.real(41);
+        f.reference(330);
+        const std::size_t contents = f.count(22);
+        f.note(94, contents);
+        for (std::size_t content = 0; content < contents; ++content)
+            readCellContentGeometry(f);
+    }
+}
+
+} // namespace
+
+void readTableContent(Fields &f)
+{
+    f.subclass("AcDbLinkedData");
+    f.text(1);
+    f.text(300);
+    readLinkedTable(f);
+    readFormattedTable(f);
+    f.subclass("AcDbTableContent");
+    f.reference(340);
+}
+
+std::span<const ObjectType> tableContentTypes()
+{
+    static constexpr ObjectType rows[] = {
+        {0, "TABLECONTENT", readTableContent},
+        {0, "TABLEGEOMETRY", readTableGeometry},
+    };
+    return rows;
+}
+
+} // namespace host::dwg
