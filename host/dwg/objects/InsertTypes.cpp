@@ -1,3 +1,5 @@
+#include "host/dwg/objects/InsertTypes.h"
+
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
@@ -39,6 +41,8 @@ Point readFactors(Fields &f)
     }
 }
 
+} // namespace
+
 void readInsertBody(Fields &f, bool isArray)
 {
     f.subclass(isArray ? "AcDbMInsertBlock" : "AcDbBlockReference");
@@ -75,6 +79,8 @@ void readInsertBody(Fields &f, bool isArray)
     }
     f.arrange(begin, {66, 2, 10, 20, 30, 41, 42, 43, 50, 70, 71, 44, 45});
 }
+
+namespace {
 
 void readInsert(Fields &f)
 {

@@ -14,7 +14,7 @@ struct AllTypes
              {curveTypes(),       polylineTypes(),      textTypes(),           insertTypes(),     dimensionTypes(),
               multiLeaderTypes(), hatchTypes(),         solidTypes(),          viewportTypes(),   imageTypes(),
               multiLineTypes(),   tableTypes(),         dimensionStyleTypes(), dictionaryTypes(), layoutTypes(),
-              materialTypes(),    visualStyleTypes(),   styleTypes(),          tableStyleTypes(), tableContentTypes(),
+              materialTypes(),    visualStyleTypes(),   styleTypes(),          tableStyleTypes(), tableContentTypes(), tableEntityTypes(),
               fieldTypes(),       dimensionLinkTypes(), lightTypes(),          filterTypes()}) {
             for (const ObjectType &row : rows) {
                 if (row.number != 0)

@@ -41,6 +41,7 @@ std::span<const ObjectType> visualStyleTypes();
 std::span<const ObjectType> styleTypes();        ///< scales, styles of leaders and views
 std::span<const ObjectType> tableStyleTypes();   ///< of tables with cells
 std::span<const ObjectType> tableContentTypes(); ///< the cells of these tables
+std::span<const ObjectType> tableEntityTypes();
 std::span<const ObjectType> fieldTypes();
 std::span<const ObjectType> dimensionLinkTypes(); ///< what dimensions follow
 std::span<const ObjectType> lightTypes();
