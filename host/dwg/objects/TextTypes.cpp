@@ -1,3 +1,4 @@
+#include "host/dwg/objects/ParagraphTypes.h"
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
@@ -124,15 +125,37 @@ void readText(Fields &f)
     f.noteUnless(73, text.vertical, {0});
 }
 
-/// Whether an attribute has a paragraph text, which stands within it from R2018 on.
-bool isParagraph(Fields &f)
+/// How the text of an attribute is kept from R2018 on.
+enum class AttributeKind
+{
+    SingleLine = 1,
+    Paragraphs = 2,
+    DefinedParagraphs = 4
+};
+
+/// From R2010 on attributes have a version; from R2018 on they may have a paragraph text, which stands within them here
+/// and at the end of the text form. What is noted of it begins at the mark that is returned.
+std::size_t readAttributeText(Fields &f, AttributeKind &kind)
 {
     if (f.since(Release::R2010))
-        f.small(); // a version, always 0
-    if (!f.since(Release::R2018))
-        return false;
-    const int kind = f.small();
-    return kind == 2 || kind == 4;
+        f.small(280);
+    if (f.since(Release::R2018))
+        kind = static_cast<AttributeKind>(f.small());
+    const std::size_t begin = f.mark();
+    if (kind == AttributeKind::Paragraphs || kind == AttributeKind::DefinedParagraphs)
+        readEmbeddedParagraphs(f);
+    return begin;
+}
+
+/// Moves what was noted of the paragraphs, between the marks, behind everything else, with what leads to it.
+void noteParagraphsLast(Fields &f, const TextValues &text, AttributeKind kind, std::size_t begin, std::size_t end)
+{
+    if (begin == end)
+        return;
+    f.note(71, static_cast<int>(kind));
+    f.note(72, 0);
+    f.note(11, text.alignment);
+    f.moveForward(end, begin);
 }
 
 /// The tag of an attribute and what goes with it.
@@ -152,9 +175,11 @@ void readAttribute(Fields &f)
     const TextValues text = readTextValues(f);
     noteText(f, text);
     f.subclass("AcDbAttribute");
-    if (isParagraph(f))
-        return f.fail();
+    AttributeKind kind = AttributeKind::SingleLine;
+    const std::size_t paragraphs = readAttributeText(f, kind);
+    const std::size_t tag = f.mark();
     readTag(f, text);
+    noteParagraphsLast(f, text, kind, paragraphs, tag);
 }
 
 void readAttributeDefinition(Fields &f)
@@ -162,61 +187,15 @@ void readAttributeDefinition(Fields &f)
     const TextValues text = readTextValues(f);
     noteText(f, text);
     f.subclass("AcDbAttributeDefinition");
-    const std::size_t begin = f.mark();
-    if (isParagraph(f))
-        return f.fail();
+    AttributeKind kind = AttributeKind::SingleLine;
+    const std::size_t paragraphs = readAttributeText(f, kind);
+    const std::size_t tag = f.mark();
     readTag(f, text);
     if (f.since(Release::R2010))
         f.small();
     f.text(3);
-    f.arrange(begin, {3, 2, 70});
-}
-
-void readBackground(Fields &f)
-{
-    const int kind = f.int32(90, {0});
-    constexpr int filled = 1;
-    constexpr int framed = 16;
-    if ((kind & filled) == 0 && !((kind & framed) != 0 && f.since(Release::R2018)))
-        return;
-    f.real(45);
-    f.colour(63);
-    f.int32(441);
-}
-
-void readMText(Fields &f)
-{
-    f.subclass("AcDbMText");
-    const std::size_t begin = f.mark();
-    f.point(10);
-    const Point extrusion = f.point();
-    const Point direction = f.point();
-    f.real(41);
-    if (f.since(Release::R2007))
-        f.real(46);
-    f.real(40);
-    f.int16(71);
-    f.int16(72);
-    f.real(); // its extents, which are worked out again
-    f.real();
-    const std::string text = f.text();
-    f.noteLong(1, 3, text);
-    if (f.since(Release::R2000)) {
-        f.int16(73);
-        f.real(44);
-        f.flag();
-    }
-    if (f.since(Release::R2004))
-        readBackground(f);
-    if (extrusion != Point{0.0, 0.0, 1.0})
-        f.note(210, extrusion);
-    if (direction != Point{1.0, 0.0, 0.0})
-        f.note(11, direction);
-    const std::string_view style = f.nameOf(f.reference());
-    if (style != "Standard" && style != "STANDARD")
-        f.note(7, style);
-    f.arrange(begin,
-              {10, 20, 30, 40, 41, 46, 71, 72, 3, 1, 7, 210, 220, 230, 11, 21, 31, 73, 44, 90, 63, 421, 431, 45, 441});
+    f.arrange(tag, {3, 2, 70});
+    noteParagraphsLast(f, text, kind, paragraphs, tag);
 }
 
 void readTolerance(Fields &f)
@@ -267,7 +246,6 @@ std::span<const ObjectType> textTypes()
         {0x02, "ATTRIB", readAttribute, true},
         {0x03, "ATTDEF", readAttributeDefinition, true},
         {0x21, "SHAPE", readShape, true},
-        {0x2c, "MTEXT", readMText, true},
         {0x2e, "TOLERANCE", readTolerance, true},
     };
     return rows;

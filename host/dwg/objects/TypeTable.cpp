@@ -11,11 +11,12 @@ struct AllTypes
     AllTypes()
     {
         for (const auto rows :
-             {curveTypes(),       polylineTypes(),      textTypes(),           insertTypes(),     dimensionTypes(),
-              multiLeaderTypes(), hatchTypes(),         solidTypes(),          viewportTypes(),   imageTypes(),
-              multiLineTypes(),   tableTypes(),         dimensionStyleTypes(), dictionaryTypes(), layoutTypes(),
-              materialTypes(),    visualStyleTypes(),   styleTypes(),          tableStyleTypes(), tableContentTypes(), tableEntityTypes(),
-              fieldTypes(),       dimensionLinkTypes(), lightTypes(),          filterTypes()}) {
+             {curveTypes(),        polylineTypes(),    textTypes(),        paragraphTypes(),      insertTypes(),
+              dimensionTypes(),    multiLeaderTypes(), hatchTypes(),       solidTypes(),          viewportTypes(),
+              imageTypes(),        multiLineTypes(),   tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
+              layoutTypes(),       materialTypes(),    visualStyleTypes(), styleTypes(),          tableStyleTypes(),
+              tableContentTypes(), tableEntityTypes(), fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
+              filterTypes()}) {
             for (const ObjectType &row : rows) {
                 if (row.number != 0)
                     byNumber.emplace(row.number, &row);

@@ -24,6 +24,7 @@ const ObjectType *typeByClass(std::string_view name);
 std::span<const ObjectType> curveTypes();     ///< lines, arcs, splines, points, faces
 std::span<const ObjectType> polylineTypes();  ///< polylines and their vertices
 std::span<const ObjectType> textTypes();      ///< texts, attributes, tolerances, shapes
+std::span<const ObjectType> paragraphTypes(); ///< texts of paragraphs
 std::span<const ObjectType> insertTypes();    ///< blocks and what stands in them
 std::span<const ObjectType> dimensionTypes(); ///< dimensions and leaders
 std::span<const ObjectType> multiLeaderTypes();
