@@ -5,7 +5,9 @@ namespace host::dwg {
 std::optional<int> readMeasurement(const Container &container)
 {
     BitReader reader(container.measurement);
-    reader.rawBytes(reader.raw16());
+    // A description of the template stands in front of it, from R2007 on with two bytes for each character.
+    const std::size_t length = reader.raw16();
+    reader.rawBytes(container.release >= Release::R2007 ? 2 * length : length);
     const int measurement = reader.raw16();
     return reader.hasFailed() ? std::nullopt : std::optional(measurement);
 }

@@ -12,6 +12,7 @@ enum class HeaderKind
 {
     Flag,
     Byte,
+    IsOne, ///< a byte, of which the text form says whether it is 1
     Int16,
     Int32,
     LongLong,

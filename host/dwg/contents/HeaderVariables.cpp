@@ -57,6 +57,9 @@ private:
         case HeaderKind::Byte:
             f.small(row.code);
             return;
+        case HeaderKind::IsOne:
+            f.note(row.code, f.small() == 1);
+            return;
         case HeaderKind::Int16:
             f.int16(row.code);
             return;

@@ -1,4 +1,5 @@
 #include "host/dwg/contents/HeaderTable.h"
+#include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
 
 #include <map>
@@ -8,16 +9,16 @@ namespace host::dwg {
 namespace {
 
 /// The tags of the variables by their names, as lines.
-using HeaderValues = std::map<std::string_view, std::string>;
+using HeaderValues = std::map<std::string, std::string, std::less<>>;
 
-/// What readHeader() noted. The names are views into `fields`.
+/// What readHeader() noted.
 HeaderValues notedValues(const Fields &fields)
 {
     HeaderValues values;
     std::string *value = nullptr;
     fields.forEachTag([&](int code, std::string_view text) {
         if (code == 9)
-            value = &values[text];
+            value = &values[std::string(text)];
         else if (value)
             *value += tagLines(code, text);
     });
@@ -51,6 +52,36 @@ void addFileValues(const Container &container, HeaderValues &values)
     values["$DWGCODEPAGE"] = tagLines(3, codePageName(container.codePage));
 }
 
+std::uint64_t entryOf(const DictionaryEntries &entries, std::string_view name)
+{
+    const auto found = entries.find(name);
+    return found != entries.end() ? found->second : 0;
+}
+
+/// Where the file names no visual style for parts that interfere, it is one that every drawing has.
+void addUsualStyles(DrawingParts &parts, HeaderValues &values)
+{
+    struct UsualStyle
+    {
+        const char *variable;
+        int code;
+        const char *style;
+    };
+    Fields &fields = parts.records.fields();
+    const DictionaryEntries named = readEntries(parts.objects, parts.header.namedObjects, fields);
+    const DictionaryEntries styles = readEntries(parts.objects, entryOf(named, "ACAD_VISUALSTYLE"), fields);
+    for (const auto &[variable, code, style] :
+         {UsualStyle{"$INTERFEREOBJVS", 345, "Realistic"}, UsualStyle{"$INTERFEREVPVS", 346, "Wireframe"}}) {
+        const auto found = values.find(variable);
+        if (found == values.end() || found->second != tagLines(code, "0"))
+            continue;
+        fields.start({}, {}, {});
+        fields.noteHandle(code, entryOf(styles, style));
+        found->second.clear();
+        fields.write(found->second);
+    }
+}
+
 } // namespace
 
 void writeHeaderSection(DrawingParts &parts)
@@ -61,6 +92,7 @@ void writeHeaderSection(DrawingParts &parts)
     HeaderValues values = notedValues(records.fields());
     addDerivedValues(parts.container.release, values);
     addFileValues(parts.container, values);
+    addUsualStyles(parts, values);
     records.beginSection("HEADER");
     for (const std::string_view name : headerOrder()) {
         if (const auto found = values.find(name); found != values.end()) {
@@ -77,6 +109,8 @@ void writeClassesSection(DrawingParts &parts)
     Fields &fields = records.fields();
     records.beginSection("CLASSES");
     for (const ObjectClass &one : parts.objects.classes()) {
+        if (fields.since(Release::R2004) && (one.name == "ACDBPLACEHOLDER" || one.name == "LAYOUT"))
+            continue; // they have types of their own since then
         fields.start({}, {}, {});
         fields.note(1, one.name);
         fields.note(2, one.cppName);

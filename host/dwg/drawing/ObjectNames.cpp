@@ -1,5 +1,7 @@
 #include "host/dwg/drawing/ObjectNames.h"
 
+#include "host/dwg/objects/TableTypes.h"
+
 #include <algorithm>
 
 namespace host::dwg {
@@ -20,13 +22,36 @@ bool isAnonymousBlock(std::string_view name)
 void readNames(const DrawingObjects &objects, Fields &fields, Names &names)
 {
     ObjectHead head({});
+    std::uint64_t multiLineStyles = 0;
     for (const MapEntry &entry : objects.map()) {
         const auto frame = objects.peek(entry);
         if (!frame || std::ranges::find(namedTypes, frame->type) == namedTypes.end())
             continue;
         head.read(*frame, false, fields);
         names[entry.handle] = fields.text();
+        if (frame->type == multiLineStyleType)
+            multiLineStyles = fields.relations().owner;
     }
+    // What their dictionary calls them is their name, be it in another case.
+    for (const auto &[name, style] : readEntries(objects, multiLineStyles, fields)) {
+        if (const auto found = names.find(style); found != names.end())
+            found->second = name;
+    }
+}
+
+DictionaryEntries readEntries(const DrawingObjects &objects, std::uint64_t dictionary, Fields &fields)
+{
+    constexpr int dictionaryType = 0x2a;
+    DictionaryEntries entries;
+    const auto frame = objects.peek(dictionary);
+    if (!frame || frame->type != dictionaryType)
+        return entries;
+    ObjectHead({}).read(*frame, false, fields);
+    typeByNumber(dictionaryType)->read(fields);
+    const Relations &relations = fields.relations();
+    for (std::size_t i = 0; i < relations.entries.size(); ++i)
+        entries.emplace(relations.entryNames[i], relations.entries[i]);
+    return entries;
 }
 
 void numberBlocks(const std::vector<std::uint64_t> &entries, const ObjectHead::Spaces &spaces, Names &names)

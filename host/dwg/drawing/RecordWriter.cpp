@@ -112,7 +112,12 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
     // Classes have other forms in other releases and programs; what a reader leaves over tells that it is another one.
     if (m_objects.classOf(frame.type) && !m_fields.isUsedUp())
         return false;
-    return m_fields.relations().handle == handle && writeUnlessFailed();
+    const bool isWhole = m_fields.isUsedUp();
+    if (m_fields.relations().handle != handle || !writeUnlessFailed())
+        return false;
+    if (!isWhole)
+        m_objects.warn(handle, frame.type, "More of the object is in the file than is read of it.");
+    return true;
 }
 
 bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity)

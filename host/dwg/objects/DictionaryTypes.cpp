@@ -27,9 +27,12 @@ void readDictionaryBody(Fields &f, bool isClass)
         const std::string name = f.text();
         const HandleReference reference = f.references().handle();
         const std::uint64_t entry = reference.from(f.relations().handle);
+        if (entry == 0)
+            continue; // what some programs leave of an entry that was taken out
         f.note(3, name);
         f.noteHandle(isOwner || reference.kind == HandleReference::HardOwner ? 360 : 350, entry);
         f.relations().entries.push_back(entry);
+        f.relations().entryNames.push_back(name);
     }
 }
 

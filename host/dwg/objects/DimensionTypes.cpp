@@ -294,6 +294,10 @@ void readLeader(Fields &f)
         f.int16();
         f.flag();
         f.flag();
+    } else {
+        f.int16();
+        f.flag();
+        f.flag();
     }
     const std::uint64_t annotation = f.reference();
     f.name(3);

@@ -25,7 +25,8 @@ struct Relations
     std::uint64_t end = 0;   ///< what closes its list: SEQEND, ENDBLK
     std::uint64_t begin = 0; ///< what opens it: BLOCK
     std::vector<std::uint64_t> owned;
-    std::vector<std::uint64_t> entries; ///< of a dictionary
+    std::vector<std::uint64_t> entries;  ///< of a dictionary
+    std::vector<std::string> entryNames; ///< theirs
     bool isEntity = false;
     bool hasList = false; ///< attributes or vertices follow
 };

@@ -85,6 +85,7 @@ void readStyle(Fields &f)
     f.real(42);
     f.text(3);
     f.text(4);
+    f.reference(); // of the external drawing it came from
 }
 
 /// One dash of a linetype, with the shape or text in it.
@@ -328,6 +329,8 @@ void readApplication(Fields &f)
 {
     const EntryHead entry = readEntryHead(f);
     noteEntry(f, "AcDbRegAppTableRecord", entry);
+    f.small();
+    f.reference(); // of the external drawing it came from
 }
 
 } // namespace

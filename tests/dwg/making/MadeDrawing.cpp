@@ -141,6 +141,7 @@ void writeHeaderValue(ObjectWriter &o, const HeaderRow &row, double number)
     case HeaderKind::Flag:
         return o.flag(whole != 0);
     case HeaderKind::Byte:
+    case HeaderKind::IsOne:
         return o.small(whole);
     case HeaderKind::Int16:
     case HeaderKind::StyleKind:
