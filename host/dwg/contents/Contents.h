@@ -47,6 +47,7 @@ struct Header
     std::uint64_t namedObjects = 0;
     std::uint64_t paperSpace = 0;
     std::uint64_t modelSpace = 0;
+    std::uint64_t firstFree = 0; ///< a handle that no object has
 };
 
 /// Reads the header's variables into `fields`, which are theirs: each noted as group 9 with its tags. `maintenance` is

@@ -94,7 +94,8 @@ private:
             return;
         }
         case HeaderKind::OwnHandle:
-            f.noteHandle(row.code, f.values().handle().value);
+            m_header.firstFree = f.values().handle().value;
+            f.noteHandle(row.code, m_header.firstFree);
             return;
         case HeaderKind::Bits:
             noteBits(f, static_cast<std::uint32_t>(f.int32()));

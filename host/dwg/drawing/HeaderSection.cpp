@@ -2,6 +2,7 @@
 #include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
 
+#include <algorithm>
 #include <map>
 
 namespace host::dwg {
@@ -82,6 +83,39 @@ void addUsualStyles(DrawingParts &parts, HeaderValues &values)
     }
 }
 
+/// The file's classes, with that of the records which files do not have.
+std::vector<ObjectClass> classesOf(const DrawingParts &parts)
+{
+    std::vector<ObjectClass> classes = parts.objects.classes();
+    const auto added = static_cast<int>(parts.records.companions().count());
+    if (added == 0)
+        return classes;
+    auto found = std::ranges::find(classes, "CELLSTYLEMAP", &ObjectClass::name);
+    if (found == classes.end()) {
+        constexpr int allowed = 0x480; // what programs may do that do not know it
+        found = classes.insert(classes.end(),
+                               {0, allowed, "ObjectDBX Classes", "AcDbCellStyleMap", "CELLSTYLEMAP", false, false, 0});
+    }
+    found->instances += added;
+    return classes;
+}
+
+/// Records that files do not have get the first handles that are free.
+void addCompanions(DrawingParts &parts, HeaderValues &values)
+{
+    const std::uint64_t firstFree = parts.header.firstFree;
+    parts.records.setCompanions({parts.objects, parts.header.namedObjects, firstFree, parts.records.fields()});
+    const Companions &companions = parts.records.companions();
+    if (companions.count() == 0)
+        return;
+    Fields &fields = parts.records.fields();
+    fields.start({}, {}, {});
+    fields.noteHandle(5, companions.firstFree());
+    std::string &value = values["$HANDSEED"];
+    value.clear();
+    fields.write(value);
+}
+
 } // namespace
 
 void writeHeaderSection(DrawingParts &parts)
@@ -93,6 +127,7 @@ void writeHeaderSection(DrawingParts &parts)
     addDerivedValues(parts.container.release, values);
     addFileValues(parts.container, values);
     addUsualStyles(parts, values);
+    addCompanions(parts, values);
     records.beginSection("HEADER");
     for (const std::string_view name : headerOrder()) {
         if (const auto found = values.find(name); found != values.end()) {
@@ -107,10 +142,11 @@ void writeClassesSection(DrawingParts &parts)
 {
     RecordWriter &records = parts.records;
     Fields &fields = records.fields();
+    const bool hasOwnTypes = fields.since(Release::R2004);
     records.beginSection("CLASSES");
-    for (const ObjectClass &one : parts.objects.classes()) {
-        if (fields.since(Release::R2004) && (one.name == "ACDBPLACEHOLDER" || one.name == "LAYOUT"))
-            continue; // they have types of their own since then
+    for (const ObjectClass &one : classesOf(parts)) {
+        if (hasOwnTypes && (one.name == "ACDBPLACEHOLDER" || one.name == "LAYOUT"))
+            continue; // they are no classes any more
         fields.start({}, {}, {});
         fields.note(1, one.name);
         fields.note(2, one.cppName);

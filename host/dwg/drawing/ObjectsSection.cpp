@@ -28,6 +28,8 @@ void writeRest(DrawingParts &parts)
         if (!parts.objects.isTaken(i))
             parts.records.writeObject(map[i].handle);
     }
+    for (const std::uint64_t handle : parts.records.companions().left())
+        parts.records.writeObject(handle);
 }
 
 } // namespace

@@ -77,14 +77,27 @@ void RecordWriter::writeFields(std::string_view recordType, std::string_view lin
 
 void RecordWriter::writeNoted(std::string_view recordType, std::string_view lines)
 {
+    const std::size_t companion = m_fields.companion();
+    const std::size_t extended = m_fields.mark();
     m_head.noteExtendedData(m_fields);
-    writeFields(recordType, lines);
+    m_fields.moveForward(extended, companion);
+    const std::size_t end = companion + m_fields.mark() - extended;
+    beginRecord(recordType);
+    m_text += lines;
+    m_fields.write(m_text, 0, end);
+    m_companions.make(m_fields, end);
     if (m_fields.relations().dictionary != 0)
         m_dictionaries.push_back(m_fields.relations().dictionary);
 }
 
 bool RecordWriter::writeObject(std::uint64_t handle)
 {
+    if (const auto companion = m_companions.take(handle)) {
+        m_text += companion->lines;
+        m_fields.start({}, {}, {});
+        m_fields.relations().entries = companion->entries;
+        return true;
+    }
     const auto frame = m_objects.take(handle);
     return frame && writeFrame(handle, *frame);
 }
@@ -113,6 +126,7 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
     if (m_objects.classOf(frame.type) && !m_fields.isUsedUp())
         return false;
     const bool isWhole = m_fields.isUsedUp();
+    m_companions.complete(m_fields);
     if (m_fields.relations().handle != handle || !writeUnlessFailed())
         return false;
     if (!isWhole)

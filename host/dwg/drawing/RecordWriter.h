@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/dwg/drawing/Companions.h"
 #include "host/dwg/drawing/DrawingObjects.h"
 
 #include <utility>
@@ -22,6 +23,10 @@ public:
     const ObjectHead::Spaces &spaces() const { return m_spaces; }
     /// The owners of what does not tell its owner; known when the header was read.
     void setSpaces(const ObjectHead::Spaces &spaces);
+
+    /// Records that the file does not have, known when the header was read.
+    void setCompanions(Companions companions) { m_companions = std::move(companions); }
+    const Companions &companions() const { return m_companions; }
 
     void beginSection(std::string_view name);
     void endSection() { beginRecord("ENDSEC"); }
@@ -58,6 +63,7 @@ private:
     Fields m_fields;
     ObjectHead::Spaces m_spaces;
     ObjectHead m_head;
+    Companions m_companions;
     std::vector<std::uint64_t> m_dictionaries;
 };
 

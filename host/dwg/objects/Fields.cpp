@@ -29,6 +29,7 @@ void Fields::start(BitReader values, BitReader texts, BitReader references)
     m_relations = {};
     m_buffer.clear();
     m_notes.clear();
+    m_companion = noCompanion;
 }
 
 void Fields::splitAt(std::size_t bit)
@@ -176,23 +177,27 @@ int Fields::longColour(int code)
     return noteLongColour(code, noLimit);
 }
 
+NotedColour Fields::longColour()
+{
+    NotedColour colour;
+    int16(); // an index of old, always 0
+    colour.rgb = static_cast<std::uint32_t>(int32());
+    colour.index = colourIndex(colour.rgb);
+    const int parts = small();
+    if ((parts & 1) != 0)
+        colour.name = text();
+    const std::string book = (parts & 2) != 0 ? text() : std::string();
+    if (!book.empty())
+        colour.name = book + "$" + colour.name;
+    return colour;
+}
+
 int Fields::noteLongColour(int code, int unless)
 {
-    int16(); // an index of old, always 0
-    const auto rgb = static_cast<std::uint32_t>(int32());
-    const int parts = small();
-    std::string name;
-    std::string book;
-    if ((parts & 1) != 0)
-        name = text();
-    if ((parts & 2) != 0)
-        book = text();
-    if (!book.empty())
-        name = book + "$" + name;
-    const int index = colourIndex(rgb);
-    if (index != unless || isTrueColour(rgb))
-        noteColour(code, index, rgb, name);
-    return index;
+    const NotedColour colour = longColour();
+    if (colour.index != unless || isTrueColour(colour.rgb))
+        note(code, colour);
+    return colour.index;
 }
 
 void Fields::wholeColour(int code)
@@ -353,13 +358,14 @@ void Fields::moveRange(std::size_t from, std::size_t end, std::size_t to)
     std::rotate(at(to), at(from), at(end));
 }
 
-void Fields::write(std::string &lines) const
+void Fields::write(std::string &lines, std::size_t from, std::size_t end) const
 {
-    for (const Note &note : m_notes) {
+    for (std::size_t i = from; i < end; ++i) {
+        const Note &note = m_notes[i];
         char digits[16];
-        char *const end = std::to_chars(digits, digits + sizeof digits, note.code).ptr;
-        lines.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, 3 - (end - digits))), ' ');
-        lines.append(digits, end);
+        char *const digitsEnd = std::to_chars(digits, digits + sizeof digits, note.code).ptr;
+        lines.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, 3 - (digitsEnd - digits))), ' ');
+        lines.append(digits, digitsEnd);
         lines += '\n';
         lines.append(m_buffer, note.begin, note.end - note.begin);
         lines += '\n';

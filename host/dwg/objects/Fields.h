@@ -2,6 +2,7 @@
 
 #include "host/dwg/bits/BitReader.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
@@ -29,6 +30,14 @@ struct Relations
     std::vector<std::string> entryNames; ///< theirs
     bool isEntity = false;
     bool hasList = false; ///< attributes or vertices follow
+};
+
+/// A colour of R2004 and later.
+struct NotedColour
+{
+    int index = 0;
+    std::uint32_t rgb = 0; ///< with the kind in its highest byte
+    std::string name;      ///< of a colour book, or empty
 };
 
 /// The fields of one object while it is read: each call takes the next coded value of the object and notes it as the
@@ -66,6 +75,7 @@ public:
     BitReader &values() { return m_values; }
     BitReader &references() { return m_references; }
     Relations &relations() { return m_relations; }
+    const Relations &relations() const { return m_relations; }
 
     // Values that are read alone.
     bool flag() { return m_values.bit(); }
@@ -116,6 +126,7 @@ public:
     int colour(int code, int unless);
     /// The same for objects that came with R2004, which have its colours in earlier files too.
     int longColour(int code);
+    NotedColour longColour();
 
     /// A colour noted as the 32 bits that it has from R2004 on.
     void wholeColour(int code);
@@ -147,6 +158,7 @@ public:
     /// A text that is longer than 250 bytes in several tags: `part` each, `code` the last.
     void noteLong(int code, int part, std::string_view text);
     void noteColour(int code, int index, std::uint32_t rgb, std::string_view name);
+    void note(int code, const NotedColour &colour) { noteColour(code, colour.index, colour.rgb, colour.name); }
     /// Group 100.
     void subclass(const char *name) { note(100, name); }
     std::string_view nameOf(std::uint64_t handle) const;
@@ -154,6 +166,11 @@ public:
     /// The name that group 0 gets, where the type's usual one does not fit.
     void setTypeName(std::string_view name) { m_typeName = name; }
     std::string_view typeName() const { return m_typeName; }
+
+    /// The tags from `at` on are of another record, which goes with this one in the text form.
+    void beginCompanion(std::size_t at) { m_companion = at; }
+    /// Where that begins; mark() where there is none.
+    std::size_t companion() const { return std::min(m_companion, mark()); }
 
     /// Where the next tag will be, for arrange().
     std::size_t mark() const { return m_notes.size(); }
@@ -174,7 +191,9 @@ public:
             take(note.code, std::string_view(m_buffer).substr(note.begin, note.end - note.begin));
     }
     /// Adds all tags to `lines` as a file has them.
-    void write(std::string &lines) const;
+    void write(std::string &lines) const { write(lines, 0, m_notes.size()); }
+    /// Adds those from `from` to before `end`.
+    void write(std::string &lines, std::size_t from, std::size_t end) const;
 
 private:
     struct Note
@@ -183,6 +202,8 @@ private:
         std::uint32_t begin;
         std::uint32_t end;
     };
+
+    static constexpr std::size_t noCompanion = static_cast<std::size_t>(-1);
 
     int noteLongColour(int code, int unless);
     void addReal(int code, double value);
@@ -198,6 +219,7 @@ private:
     std::string_view m_typeName;
     std::string m_buffer; ///< the tags' values, one behind the other
     std::vector<Note> m_notes;
+    std::size_t m_companion = noCompanion;
     std::vector<Note> m_arranged; ///< kept for its room
 };
 

@@ -76,8 +76,9 @@ void readContent(Fields &f)
     readContentAttributes(f);
     f.note(309, "CELLCONTENT_END");
     f.note(1, "FORMATTEDCELLCONTENT_BEGIN");
+    TableFormat format;
     if (f.int16(170) != 0)
-        readContentFormat(f);
+        readContentFormat(f, format);
     f.note(309, "FORMATTEDCELLCONTENT_END");
 }
 

@@ -60,17 +60,17 @@ void readOverrides(Fields &f, unsigned flags, const Override (&overrides)[count]
 using enum Override::Kind;
 
 constexpr Override cellOverrides[] = {
-    {0x1, Small, 170},     {0x2, Flag, 283},     {0x4, Colour, 63},     {0x8, Colour, 64},    {0x10, Style, 7},
-    {0x20, Real, 140},     {0x40, Colour, 69},   {0x400, Int16, 279},   {0x4000, Int16, 289}, {0x80, Colour, 65},
-    {0x800, Int16, 275},   {0x8000, Int16, 285}, {0x100, Colour, 66},   {0x1000, Int16, 276}, {0x10000, Int16, 286},
-    {0x200, Colour, 68},   {0x2000, Int16, 278}, {0x20000, Int16, 288},
+    {0x1, Small, 170},   {0x2, Flag, 283},     {0x4, Colour, 63},     {0x8, Colour, 64},    {0x10, Style, 7},
+    {0x20, Real, 140},   {0x40, Colour, 69},   {0x400, Int16, 279},   {0x4000, Int16, 289}, {0x80, Colour, 65},
+    {0x800, Int16, 275}, {0x8000, Int16, 285}, {0x100, Colour, 66},   {0x1000, Int16, 276}, {0x10000, Int16, 286},
+    {0x200, Colour, 68}, {0x2000, Int16, 278}, {0x20000, Int16, 288},
 };
 
 constexpr Override tableOverrides[] = {
-    {0x1, Flag, 280},      {0x2, Flag, 281},      {0x4, Int16, 70},      {0x8, Real, 40},       {0x10, Real, 41},
-    {0x20, Colour, 64},    {0x40, Colour, 64},    {0x80, Colour, 64},    {0x100, Flag, 283},    {0x200, Flag, 283},
-    {0x400, Flag, 283},    {0x800, Colour, 63},   {0x1000, Colour, 63},  {0x2000, Colour, 63},  {0x4000, Int16, 170},
-    {0x8000, Int16, 170},  {0x10000, Int16, 170}, {0x20000, Style, 7},   {0x40000, Style, 7},   {0x80000, Style, 7},
+    {0x1, Flag, 280},      {0x2, Flag, 281},      {0x4, Int16, 70},      {0x8, Real, 40},      {0x10, Real, 41},
+    {0x20, Colour, 64},    {0x40, Colour, 64},    {0x80, Colour, 64},    {0x100, Flag, 283},   {0x200, Flag, 283},
+    {0x400, Flag, 283},    {0x800, Colour, 63},   {0x1000, Colour, 63},  {0x2000, Colour, 63}, {0x4000, Int16, 170},
+    {0x8000, Int16, 170},  {0x10000, Int16, 170}, {0x20000, Style, 7},   {0x40000, Style, 7},  {0x80000, Style, 7},
     {0x100000, Real, 140}, {0x200000, Real, 140}, {0x400000, Real, 140},
 };
 
@@ -151,8 +151,7 @@ void readCell(Fields &f)
 void readCells(Fields &f, std::size_t columns, std::size_t rows)
 {
     constexpr std::size_t leastOfACell = 16;
-    const std::size_t cells =
-        f.checkedCount(static_cast<std::int64_t>(columns * rows), leastOfACell, f.values());
+    const std::size_t cells = f.checkedCount(static_cast<std::int64_t>(columns * rows), leastOfACell, f.values());
     for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i)
         readCell(f);
 }

@@ -4,70 +4,86 @@ namespace host::dwg {
 
 namespace {
 
-void readGridFormat(Fields &f)
+NotedColour readFormatColour(Fields &f)
 {
-    f.int32(95);
+    NotedColour colour = f.longColour();
+    f.note(62, colour);
+    return colour;
+}
+
+void readGridFormat(Fields &f, TableFormat &format)
+{
+    const int places = f.int32(95);
     f.note(302, "GRIDFORMAT");
     f.note(1, "GRIDFORMAT_BEGIN");
     f.int32(90);
     f.int32(91);
-    f.longColour(62);
-    f.int32(92);
+    TableFormat::Border border;
+    border.colour = readFormatColour(f);
+    border.weight = f.int32(92);
     f.reference(340);
-    f.int32(93);
+    border.isVisible = f.int32(93) == 0;
     f.real(40);
     f.note(309, "GRIDFORMAT_END");
+    for (std::size_t i = 0; i < TableFormat::borderCount; ++i) {
+        if ((places >> i & 1) != 0)
+            format.borders[i] = border;
+    }
 }
 
-void readMargins(Fields &f)
+void readMargins(Fields &f, TableFormat &format)
 {
     f.note(301, "MARGIN");
     f.note(1, "CELLMARGIN_BEGIN");
-    for (int i = 0; i < 6; ++i)
+    format.uprightMargin = f.real(40);
+    format.acrossMargin = f.real(40);
+    for (int i = 2; i < 6; ++i)
         f.real(40);
     f.note(309, "CELLMARGIN_END");
 }
 
 } // namespace
 
-void readContentFormat(Fields &f)
+void readContentFormat(Fields &f, TableFormat &format)
 {
     f.note(300, "CONTENTFORMAT");
     f.note(1, "CONTENTFORMAT_BEGIN");
     f.int32(90);
     f.int32(91);
-    f.int32(92);
-    f.int32(93);
-    f.text(300);
+    format.dataKind = f.int32(92);
+    format.unit = f.int32(93);
+    format.format = f.text(300);
     f.real(40);
     f.real(140);
-    f.int32(94);
-    f.longColour(62);
-    f.reference(340);
-    f.real(144);
+    format.alignment = f.int32(94);
+    format.colour = readFormatColour(f);
+    format.textStyle = f.reference(340);
+    format.height = f.real(144);
     f.note(309, "CONTENTFORMAT_END");
 }
 
-void readTableFormat(Fields &f)
+TableFormat readTableFormat(Fields &f)
 {
+    TableFormat format;
     f.note(1, "TABLEFORMAT_BEGIN");
     f.int32(90);
     const bool hasFormat = f.int16(170) != 0;
     if (hasFormat) {
         f.int32(91);
         f.int32(92);
-        f.longColour(62);
+        format.fill = readFormatColour(f);
         f.int32(93);
-        readContentFormat(f);
+        readContentFormat(f, format);
         const bool hasMargins = f.int16(171) != 0;
         if (hasMargins)
-            readMargins(f);
+            readMargins(f, format);
         const std::size_t borders = f.count(8);
         f.note(94, borders);
         for (std::size_t i = 0; i < borders && !f.hasFailed(); ++i)
-            readGridFormat(f);
+            readGridFormat(f, format);
     }
     f.note(309, "TABLEFORMAT_END");
+    return format;
 }
 
 namespace {

@@ -2,15 +2,43 @@
 
 #include "host/dwg/objects/Fields.h"
 
+#include <array>
+
 namespace host::dwg {
+
+/// What the older form of a table style has of a cell's format; the usual values where the file says nothing.
+struct TableFormat
+{
+    struct Border
+    {
+        int weight = -2;
+        bool isVisible = true;
+        NotedColour colour;
+    };
+
+    /// The lines around a cell: above, inside across, below, left, inside upright, right.
+    static constexpr std::size_t borderCount = 6;
+
+    std::uint64_t textStyle = 0;
+    double height = 0.0;
+    int alignment = 0;
+    NotedColour colour;
+    NotedColour fill;
+    int dataKind = 0;
+    int unit = 0;
+    std::string format;
+    double acrossMargin = 0.0;
+    double uprightMargin = 0.0;
+    std::array<Border, borderCount> borders;
+};
 
 // How cells, rows, columns and whole tables look: parts of table styles and of the contents of tables, the same in the
 // file and, between their BEGIN and END, in the text form.
 
-/// How the content of a cell looks: its text style, height, colour, alignment.
-void readContentFormat(Fields &fields);
+/// How the content of a cell looks: its text style, height, colour, alignment. Fills in what `format` has of these.
+void readContentFormat(Fields &fields, TableFormat &format);
 /// How a cell looks, with its margins and borders; nothing but its kind where it has no format of its own.
-void readTableFormat(Fields &fields);
+TableFormat readTableFormat(Fields &fields);
 
 /// A value with its unit: what cells of tables and fields hold. Ends in ACVALUE_END.
 void readCellValue(Fields &fields);
