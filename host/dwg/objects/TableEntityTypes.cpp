@@ -115,7 +115,7 @@ void readBlockInCell(Fields &f)
     }
 }
 
-void readCell(Fields &f)
+void readEntityCell(Fields &f)
 {
     constexpr int textCell = 1;
     const int kind = f.int16(171);
@@ -153,7 +153,7 @@ void readCells(Fields &f, std::size_t columns, std::size_t rows)
     constexpr std::size_t leastOfACell = 16;
     const std::size_t cells = f.checkedCount(static_cast<std::int64_t>(columns * rows), leastOfACell, f.values());
     for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i)
-        readCell(f);
+        readEntityCell(f);
 }
 
 /// Up to R2007, where the table has its cells itself.

@@ -10,7 +10,7 @@ namespace host::dwg::test {
 
 namespace {
 
-constexpr std::size_t headerPlace = 0x80;
+constexpr std::size_t correctedHeaderPlace = 0x80;
 constexpr std::size_t headerRoom = 0x400;
 constexpr std::size_t pageUnit = 0x20;
 
@@ -139,7 +139,7 @@ private:
         file.append(FileBytes(0x0d, 0));
         file.raw16(30);
         FileBytes whole = file.bytes();
-        whole.resize(headerPlace);
+        whole.resize(correctedHeaderPlace);
         for (const FileBytes *part : {&header, &m_pages, &header})
             whole.insert(whole.end(), part->begin(), part->end());
         return whole;
