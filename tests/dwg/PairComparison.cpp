@@ -61,12 +61,15 @@ private:
             difference.told = node.handle;
             return add(std::move(difference));
         }
-        compareTags(m_read.nodes[partner].tags, withPartners(node), difference);
+        compareTags(m_read.nodes[partner].tags, withPartners(node), difference, lastDigit());
         if (difference.groups.empty())
             ++m_outcome.equal;
         else
             add(std::move(difference));
     }
+
+    /// Up to R12 numbers have six digits behind the point.
+    double lastDigit() const { return m_expected.byHandle.empty() ? 1e-6 : 1e-16; }
 
     /// References as the drawing that was read has them.
     std::vector<TextTag> withPartners(const TextNode &node) const

@@ -79,7 +79,8 @@ TEST_P(Pairs, HaveTheSameRecords)
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, Pairs,
-                         testing::Values(PairRow{"r13_example", 5477, 5691, 533}, PairRow{"r14_leader", 263, 400, 279},
+                         testing::Values(PairRow{"r9_entities", 1, 1, 0}, PairRow{"r11_entities", 1, 1, 0},
+                                         PairRow{"r13_example", 5478, 5691, 531}, PairRow{"r14_leader", 263, 400, 279},
                                          PairRow{"r2000_entities", 261, 275, 14}, PairRow{"r2000_leader", 465, 479, 17},
                                          PairRow{"r2000_sample", 240, 421, 179}, PairRow{"r2004_leader", 468, 483, 20},
                                          PairRow{"r2007_circle", 455, 481, 23}, PairRow{"r2007_line", 460, 486, 23},

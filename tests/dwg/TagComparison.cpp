@@ -23,21 +23,21 @@ bool isText(int code)
            (code >= 1000 && code <= 1003);
 }
 
-/// The other program writes 16 digits, and none behind the 16th after the point.
-bool isSameReal(const std::string &read, const std::string &expected)
+/// The other program writes 16 digits, and none behind the 16th after the point, or earlier ones.
+bool isSameReal(const std::string &read, const std::string &expected, double lastDigit)
 {
     const double a = std::strtod(read.c_str(), nullptr);
     const double b = std::strtod(expected.c_str(), nullptr);
-    return std::abs(a - b) <= std::max(1.01e-16, std::max(std::abs(a), std::abs(b)) * 2e-15);
+    return std::abs(a - b) <= std::max(1.01 * lastDigit, std::max(std::abs(a), std::abs(b)) * 2e-15);
 }
 
-bool isSame(const TextTag &read, const TextTag &expected)
+bool isSame(const TextTag &read, const TextTag &expected, double lastDigit)
 {
     if (read.code != expected.code)
         return false;
     if (read.value == expected.value || (!isText(read.code) && trimmed(read.value) == trimmed(expected.value)))
         return true;
-    return isReal(read.code) && isSameReal(read.value, expected.value);
+    return isReal(read.code) && isSameReal(read.value, expected.value, lastDigit);
 }
 
 std::size_t findTag(const Tags &tags, int code, std::string_view value)
@@ -71,9 +71,10 @@ Tags inOneForm(const Tags &tags)
 class TagComparison
 {
 public:
-    TagComparison(const Tags &read, const Tags &expected) : m_read(read), m_expected(expected)
+    TagComparison(const Tags &read, const Tags &expected, double lastDigit)
+        : m_read(read), m_expected(expected), m_lastDigit(lastDigit)
     {
-        while (m_from < std::min(read.size(), expected.size()) && isSame(read[m_from], expected[m_from]))
+        while (m_from < std::min(read.size(), expected.size()) && isSame(read[m_from], expected[m_from], lastDigit))
             ++m_from;
         m_rows = read.size() - m_from;
         m_columns = expected.size() - m_from;
@@ -106,7 +107,7 @@ public:
 private:
     bool isSameAt(std::size_t row, std::size_t column) const
     {
-        return isSame(m_read[m_from + row], m_expected[m_from + column]);
+        return isSame(m_read[m_from + row], m_expected[m_from + column], m_lastDigit);
     }
 
     std::size_t &common(std::size_t row, std::size_t column) { return m_common[row * (m_columns + 1) + column]; }
@@ -158,6 +159,7 @@ private:
 
     const Tags &m_read;
     const Tags &m_expected;
+    double m_lastDigit;
     std::size_t m_from = 0; ///< so many tags are the same in front
     std::size_t m_rows = 0;
     std::size_t m_columns = 0;
@@ -172,11 +174,12 @@ bool isReference(int code)
            (code >= 480 && code <= 481) || code == 1005;
 }
 
-void compareTags(const std::vector<TextTag> &read, const std::vector<TextTag> &expected, Difference &difference)
+void compareTags(const std::vector<TextTag> &read, const std::vector<TextTag> &expected, Difference &difference,
+                 double lastDigit)
 {
     const Tags one = inOneForm(read);
     const Tags other = inOneForm(expected);
-    TagComparison(one, other).run(difference);
+    TagComparison(one, other, lastDigit).run(difference);
 }
 
 } // namespace host::dwg::test

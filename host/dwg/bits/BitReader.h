@@ -16,6 +16,11 @@ using Bytes = std::span<const std::uint8_t>;
 enum class Release : int
 {
     None = 0,
+    R25 = 1002, ///< 2.5; those up to R12 have plain records (early/)
+    R26 = 1003, ///< 2.6
+    R9 = 1004,
+    R10 = 1006,
+    R12 = 1009, ///< and R11
     R13 = 1012,
     R14 = 1014,
     R2000 = 1015,

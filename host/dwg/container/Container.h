@@ -30,7 +30,7 @@ struct Container
     std::deque<std::vector<std::uint8_t>> storage; ///< what had to be unpacked
 };
 
-/// What the first six bytes say: None for what is no drawing of R13 to R2018.
+/// What the first six bytes say: None for what is no drawing of 2.5 to R2018.
 Release releaseOf(Bytes file);
 
 /// Takes a file apart. `file` must outlive the container. Each part that cannot be had is empty and told among the

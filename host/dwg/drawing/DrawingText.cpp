@@ -2,6 +2,8 @@
 
 #include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
+#include "host/dwg/early/EarlyDrawing.h"
+#include "host/dwg/early/EarlyFile.h"
 
 namespace host::dwg {
 
@@ -28,6 +30,11 @@ void writeDrawing(const Container &container, DrawingText &result)
 DrawingText readDrawing(Bytes file)
 {
     DrawingText result;
+    result.release = releaseOf(file);
+    if (hasPlainRecords(result.release)) {
+        readEarlyDrawing(file, result);
+        return result;
+    }
     const Container container = openContainer(file, result.problems);
     result.release = container.release;
     if (!container.objectMap.empty() && !container.objects.empty())

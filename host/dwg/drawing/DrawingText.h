@@ -8,13 +8,13 @@ namespace host::dwg {
 /// A drawing as the text form (DXF) has it.
 struct DrawingText
 {
-    Release release = Release::None; ///< that of the file; None where it is no drawing of R13 to R2018
+    Release release = Release::None; ///< that of the file; None where it is no drawing of 2.5 to R2018
     std::string text; ///< a whole file of the same release, lines ended by line feeds; empty where nothing can be had
     std::size_t objectCount = 0; ///< in the file's map
     Problems problems;           ///< what is not in `text`, and what is doubtful
 };
 
-/// Reads a drawing file of R13 to R2018 as if its twin in text form had been opened: the same records with the same
+/// Reads a drawing file of 2.5 to R2018 as if its twin in text form had been opened: the same records with the same
 /// handles, owners and numbers. Texts before R2007 keep the bytes of their code page, later ones are UTF-8.
 ///
 /// Anything may be in `file`. What cannot be read is left out and told with its type and handle; objects of classes

@@ -1,0 +1,108 @@
+#include "host/dwg/early/EarlyFile.h"
+
+#include "host/dwg/bits/Checksums.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr std::size_t checksumSize = 2;
+/// Sections of R11 and R12 stand between two rows of bytes that are the same in every file.
+constexpr std::size_t earlyMarkSize = 16;
+constexpr std::size_t firstTableHead = 0x2c;
+constexpr std::size_t tableHeadSize = 10;
+
+std::uint32_t earlyNumber(Bytes bytes, std::size_t at)
+{
+    return BitReader(bytes, at * 8, bytes.size() * 8).raw32();
+}
+
+/// Of addresses in blocks and further entities the two highest bits say which; they count from the section's begin.
+constexpr std::uint32_t addressMask = 0x3fffffff;
+
+EarlySection earlySection(const EarlyFile &file, std::size_t begin, std::size_t end, Problems &problems)
+{
+    const std::size_t size = file.bytes.size();
+    if (begin > end || end > size)
+        problems.lose("A section of entities reaches beyond the file.");
+    begin = std::min(begin, size);
+    return {begin, std::clamp(end, begin, size)};
+}
+
+void dropMark(EarlySection &section)
+{
+    if (section.end - section.begin >= earlyMarkSize)
+        section.end -= earlyMarkSize;
+}
+
+EarlyTable earlyTableAt(Bytes bytes, std::size_t head, Problems &problems)
+{
+    BitReader reader(bytes, head * 8, (head + tableHeadSize) * 8);
+    EarlyTable table;
+    table.recordSize = reader.raw16();
+    table.count = reader.raw16();
+    reader.skip(16);
+    table.at = reader.raw32();
+    table.isThere = !reader.hasFailed();
+    if (table.isThere && (table.at > bytes.size() || table.recordSize * table.count > bytes.size() - table.at)) {
+        problems.lose("A table reaches beyond the file.");
+        table.count = 0;
+    }
+    return table;
+}
+
+} // namespace
+
+bool hasPlainRecords(Release release)
+{
+    return release >= Release::R25 && release <= Release::R12;
+}
+
+bool fitsEarlyChecksum(Bytes bytes, std::size_t begin, std::size_t end)
+{
+    constexpr std::uint16_t seed = 0xc0c1;
+    if (end > bytes.size() || begin + checksumSize > end)
+        return false;
+    const std::size_t at = end - checksumSize;
+    return checksum16(bytes.subspan(begin, at - begin), seed) == (bytes[at] | bytes[at + 1] << 8);
+}
+
+EarlyFile openEarlyFile(Bytes bytes, Release release, Problems &problems)
+{
+    EarlyFile file;
+    file.release = release;
+    file.bytes = bytes;
+    file.entities = earlySection(file, earlyNumber(bytes, 0x14), earlyNumber(bytes, 0x18), problems);
+    const std::size_t blocks = earlyNumber(bytes, 0x1c);
+    file.blocks = earlySection(file, blocks, blocks + (earlyNumber(bytes, 0x20) & addressMask), problems);
+    const std::size_t further = earlyNumber(bytes, 0x24);
+    file.further = earlySection(file, further, further + (earlyNumber(bytes, 0x28) & addressMask), problems);
+    file.variablesEnd = file.entities.begin;
+    if (file.isChecked()) {
+        dropMark(file.entities);
+        dropMark(file.blocks);
+        file.variablesEnd -= std::min(file.variablesEnd, earlyMarkSize);
+        if (!fitsEarlyChecksum(bytes, 0, file.variablesEnd))
+            problems.warn("The checksum of the header does not fit.");
+        file.variablesEnd -= std::min(file.variablesEnd, checksumSize);
+    }
+    constexpr std::array<std::size_t, static_cast<std::size_t>(EarlyTableKind::Count)> heads = {
+        firstTableHead,
+        firstTableHead + tableHeadSize,
+        firstTableHead + 2 * tableHeadSize,
+        firstTableHead + 3 * tableHeadSize,
+        firstTableHead + 4 * tableHeadSize,
+        0x3ef,
+        0x500,
+        0x512,
+        0x522};
+    for (std::size_t i = 0; i < heads.size(); ++i) {
+        if (heads[i] + tableHeadSize <= file.variablesEnd)
+            file.tables[i] = earlyTableAt(bytes, heads[i], problems);
+    }
+    return file;
+}
+
+} // namespace host::dwg

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/dwg/early/EarlyFile.h"
+#include "host/dwg/objects/Fields.h"
+
+namespace host::dwg {
+
+/// What records refer to by its place in a table, and drawings in text form by name. A place that a table does not have
+/// gives an empty name.
+class EarlyNames
+{
+public:
+    explicit EarlyNames(const EarlyFile &file);
+
+    std::string_view name(EarlyTableKind kind, std::size_t index) const;
+    /// The same with BYLAYER and BYBLOCK, which have numbers of their own.
+    std::string_view linetype(std::size_t index) const;
+
+private:
+    std::array<std::vector<std::string>, static_cast<std::size_t>(EarlyTableKind::Count)> m_names;
+};
+
+/// A text of up to `size` bytes that ends early with a zero.
+std::string takeEarlyName(BitReader &reader, std::size_t size);
+
+/// A handle of up to eight bytes, the highest first.
+std::uint64_t takeEarlyHandle(BitReader &reader, int bytes);
+
+/// Where records of blocks have the address of the block's entities: its table gives name, flags and address.
+struct EarlyBlock
+{
+    std::string name;
+    int flags = 0;
+    std::uint32_t address = 0;
+};
+
+/// The blocks of the file in the order of their table, without deleted ones.
+std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames &names);
+
+/// Adds the section TABLES to `text`: all tables that the release has, in the order of the text form.
+void writeEarlyTables(const EarlyFile &file, const EarlyNames &names, std::string &text, Problems &problems);
+
+} // namespace host::dwg

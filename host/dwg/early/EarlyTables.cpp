@@ -1,0 +1,315 @@
+#include "host/dwg/early/EarlyNames.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr std::size_t nameSize = 32;
+constexpr int deletedFlag = 0x80;
+
+/// A record's part that all tables have; what is left of `body` is the table's own.
+struct EarlyTableRecord
+{
+    int flags = 0;
+    std::string name;
+    BitReader body;
+
+    bool isDeleted() const { return (flags & deletedFlag) != 0; }
+};
+
+EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table, std::size_t index)
+{
+    const std::size_t begin = table.at + index * table.recordSize;
+    const std::size_t checksum = file.isChecked() ? 2 : 0;
+    const std::size_t end = begin + table.recordSize - std::min(table.recordSize, checksum);
+    EarlyTableRecord record;
+    record.body = BitReader(file.bytes, begin * 8, end * 8);
+    record.flags = record.body.byte();
+    record.name = takeEarlyName(record.body, nameSize);
+    if (file.isChecked())
+        record.body.raw16();
+    return record;
+}
+
+/// The own fields of a table's records.
+struct EarlyTableFields
+{
+    Fields &f;
+    const EarlyNames &names;
+
+    void byte(int code) { f.note(code, static_cast<int>(f.values().byte())); }
+    void number(int code) { f.note(code, static_cast<std::int16_t>(f.values().raw16())); }
+    void angle(int code) { f.noteAngle(code, f.rawReal()); }
+    void text(int code, std::size_t size) { f.note(code, takeEarlyName(f.values(), size)); }
+};
+
+void readEarlyViewport(EarlyTableFields &r)
+{
+    Fields &f = r.f;
+    const std::size_t begin = f.mark();
+    f.rawFlatPoint(10);
+    f.rawFlatPoint(11);
+    f.rawPoint(17);
+    f.rawPoint(16);
+    r.angle(51);
+    f.rawReal(40);
+    f.rawFlatPoint(12);
+    for (const int code : {41, 42, 43, 44})
+        f.rawReal(code);
+    for (const int code : {71, 72, 73, 74, 75, 76, 77, 78})
+        r.number(code);
+    r.angle(50);
+    f.rawFlatPoint(13);
+    f.rawFlatPoint(14);
+    f.rawFlatPoint(15);
+    // Each point is noted as its parts.
+    f.arrange(begin, {10, 20, 11, 21, 12, 22, 13, 23, 14, 24, 15, 25, 16, 26, 36, 17, 27, 37, 40, 41, 42, 43, 44, 50,
+                      51, 71});
+}
+
+void readEarlyLinetype(EarlyTableFields &r)
+{
+    constexpr int mostDashes = 12;
+    Fields &f = r.f;
+    r.text(3, 48);
+    r.byte(72);
+    const int count = f.values().byte();
+    if (count > mostDashes)
+        f.fail();
+    f.note(73, count);
+    f.rawReal(40);
+    for (int i = 0; i < mostDashes; ++i) {
+        const double dash = f.rawReal();
+        if (i < count)
+            f.note(49, dash);
+    }
+}
+
+void readEarlyLayer(EarlyTableFields &r)
+{
+    r.number(62);
+    r.f.note(6, r.names.linetype(r.f.values().raw16()));
+}
+
+void readEarlyStyle(EarlyTableFields &r)
+{
+    r.f.rawReal(40);
+    r.f.rawReal(41);
+    r.angle(50);
+    r.byte(71);
+    r.f.rawReal(42);
+    r.text(3, 64);
+    r.text(4, 64);
+}
+
+void readEarlyView(EarlyTableFields &r)
+{
+    Fields &f = r.f;
+    f.rawReal(40);
+    f.rawFlatPoint(10);
+    f.rawReal(41);
+    f.rawPoint(11);
+    f.values().raw16(); // whether it looks at the drawing from above, which the direction says as well
+    if (f.release() < Release::R10)
+        return;
+    f.rawPoint(12);
+    for (const int code : {42, 43, 44})
+        f.rawReal(code);
+    r.angle(50);
+    r.number(71);
+}
+
+void readEarlySystem(EarlyTableFields &r)
+{
+    r.f.rawPoint(10);
+    r.f.rawPoint(11);
+    r.f.rawPoint(12);
+}
+
+void readEarlyDimensionStyle(EarlyTableFields &r)
+{
+    constexpr std::size_t affixSize = 16;
+    constexpr std::size_t blockNameSize = 33;
+    Fields &f = r.f;
+    const std::size_t begin = f.mark();
+    for (const int code : {40, 41, 42, 43, 44, 45, 46, 47, 48, 140, 141, 142, 143, 144, 145})
+        f.rawReal(code);
+    for (const int code : {71, 72, 73, 74, 75, 76, 77, 78, 170, 171, 172, 173, 174, 175})
+        r.byte(code);
+    r.text(3, affixSize);
+    r.text(4, affixSize);
+    for (const int code : {5, 6, 7})
+        r.text(code, blockNameSize);
+    for (const int code : {176, 177, 178})
+        r.number(code);
+    f.rawReal(146);
+    f.rawReal(147);
+    f.arrange(begin, {3, 4, 5, 6, 7, 40, 41, 42, 43, 44, 45, 46, 47, 48, 140, 141, 142, 143, 144, 145, 146, 147});
+}
+
+struct EarlyTableRow
+{
+    EarlyTableKind kind;
+    const char *name;
+    void (*read)(EarlyTableFields &); ///< null where records have no more than their names
+};
+
+/// In the order of the text form.
+constexpr EarlyTableRow earlyTableRows[] = {
+    {EarlyTableKind::Viewports, "VPORT", readEarlyViewport},
+    {EarlyTableKind::Linetypes, "LTYPE", readEarlyLinetype},
+    {EarlyTableKind::Layers, "LAYER", readEarlyLayer},
+    {EarlyTableKind::Styles, "STYLE", readEarlyStyle},
+    {EarlyTableKind::Views, "VIEW", readEarlyView},
+    {EarlyTableKind::Systems, "UCS", readEarlySystem},
+    {EarlyTableKind::Applications, "APPID", nullptr},
+    {EarlyTableKind::DimensionStyles, "DIMSTYLE", readEarlyDimensionStyle},
+};
+
+bool isTableIntact(const EarlyFile &file, const EarlyTable &table)
+{
+    bool isIntact = true;
+    for (std::size_t i = 0; file.isChecked() && i < table.count; ++i) {
+        const std::size_t begin = table.at + i * table.recordSize;
+        isIntact = isIntact && fitsEarlyChecksum(file.bytes, begin, begin + table.recordSize);
+    }
+    return isIntact;
+}
+
+class EarlyTableWriter
+{
+public:
+    EarlyTableWriter(const EarlyFile &file, const EarlyNames &names, std::string &text, Problems &problems)
+        : m_file(file), m_names(names), m_text(text), m_problems(problems), m_fields(file.release, m_noNames)
+    {
+    }
+
+    void run()
+    {
+        begin("SECTION");
+        m_fields.note(2, "TABLES");
+        m_fields.write(m_text);
+        for (const EarlyTableRow &row : earlyTableRows) {
+            if (m_file.table(row.kind).isThere)
+                writeTable(row);
+        }
+        begin("ENDSEC");
+        m_fields.write(m_text);
+    }
+
+private:
+    void begin(std::string_view type, BitReader values = {})
+    {
+        m_fields.start(values, {}, {});
+        m_fields.note(0, type);
+    }
+
+    void writeTable(const EarlyTableRow &row)
+    {
+        const EarlyTable &table = m_file.table(row.kind);
+        if (!isTableIntact(m_file, table))
+            m_problems.warn(std::string("A checksum of the table ") + row.name + " does not fit.");
+        begin("TABLE");
+        m_fields.note(2, row.name);
+        m_fields.note(70, table.count);
+        m_fields.write(m_text);
+        for (std::size_t i = 0; i < table.count; ++i)
+            writeRecord(row, earlyTableRecord(m_file, table, i));
+        begin("ENDTAB");
+        m_fields.write(m_text);
+    }
+
+    void writeRecord(const EarlyTableRow &row, const EarlyTableRecord &record)
+    {
+        if (record.isDeleted())
+            return;
+        begin(row.name, record.body);
+        m_fields.note(2, record.name);
+        m_fields.note(70, record.flags);
+        EarlyTableFields fields{m_fields, m_names};
+        if (row.read)
+            row.read(fields);
+        if (m_fields.hasFailed())
+            m_problems.add({Problem::Kind::Lost, "The record of a table is too short.", row.name, 0});
+        else
+            m_fields.write(m_text);
+    }
+
+    const EarlyFile &m_file;
+    const EarlyNames &m_names;
+    std::string &m_text;
+    Problems &m_problems;
+    Names m_noNames;
+    Fields m_fields;
+};
+
+} // namespace
+
+std::string takeEarlyName(BitReader &reader, std::size_t size)
+{
+    std::string name = reader.rawBytes(size);
+    name.resize(std::min(name.size(), name.find('\0')));
+    return name;
+}
+
+std::uint64_t takeEarlyHandle(BitReader &reader, int bytes)
+{
+    constexpr int mostBytes = 8;
+    if (bytes > mostBytes)
+        reader.fail();
+    std::uint64_t number = 0;
+    for (int i = 0; i < bytes && !reader.hasFailed(); ++i)
+        number = number << 8 | reader.byte();
+    return number;
+}
+
+EarlyNames::EarlyNames(const EarlyFile &file)
+{
+    for (std::size_t kind = 0; kind < m_names.size(); ++kind) {
+        const EarlyTable &table = file.tables[kind];
+        for (std::size_t i = 0; i < table.count; ++i) {
+            std::string name = earlyTableRecord(file, table, i).name;
+            // Files have the names of anonymous blocks without the number that tells them apart.
+            if (kind == static_cast<std::size_t>(EarlyTableKind::Blocks) && name.size() == 2 && name[0] == '*')
+                name += std::to_string(i);
+            m_names[kind].push_back(std::move(name));
+        }
+    }
+}
+
+std::string_view EarlyNames::name(EarlyTableKind kind, std::size_t index) const
+{
+    const auto &names = m_names[static_cast<std::size_t>(kind)];
+    return index < names.size() ? std::string_view(names[index]) : std::string_view();
+}
+
+std::string_view EarlyNames::linetype(std::size_t index) const
+{
+    const auto &names = m_names[static_cast<std::size_t>(EarlyTableKind::Linetypes)];
+    if (index < names.size())
+        return names[index];
+    // 32767 and 32766 from R11 on, before 256 (which entities have as no linetype at all) and 255.
+    return index == 0x7ffe || index == 0xff ? "BYBLOCK" : "BYLAYER";
+}
+
+std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames &names)
+{
+    std::vector<EarlyBlock> blocks;
+    const EarlyTable &table = file.table(EarlyTableKind::Blocks);
+    for (std::size_t i = 0; i < table.count; ++i) {
+        EarlyTableRecord record = earlyTableRecord(file, table, i);
+        const std::uint32_t address = record.body.raw32();
+        if (!record.isDeleted() && !record.body.hasFailed())
+            blocks.push_back({std::string(names.name(EarlyTableKind::Blocks, i)), record.flags, address});
+    }
+    return blocks;
+}
+
+void writeEarlyTables(const EarlyFile &file, const EarlyNames &names, std::string &text, Problems &problems)
+{
+    EarlyTableWriter(file, names, text, problems).run();
+}
+
+} // namespace host::dwg
