@@ -22,12 +22,24 @@ struct Explanation
 constexpr std::string_view localTime = "local time of the machine that wrote the text form; files have universal time";
 constexpr std::string_view savedAgain = "the drawing was saved again for the text form";
 
+constexpr std::string_view shapeNames = "files number shapes; their names stand in the shape file";
+constexpr std::string_view blanks = "the text form has no blanks at the end of a line, here the whole text";
+
 std::span<const Explanation> explanations()
 {
     static const Explanation rows[] = {
-        {"*", Kind::Different, "$TDCREATE", {40}, localTime},    {"*", Kind::Different, "$TDUPDATE", {40}, localTime},
-        {"*", Kind::Different, "$TDUUPDATE", {40}, savedAgain},  {"*", Kind::Different, "$TDINDWG", {40}, savedAgain},
-        {"*", Kind::Different, "$TDUSRTIMER", {40}, savedAgain}, {"*", Kind::Different, "$HANDSEED", {5}, savedAgain},
+        {"*", Kind::Different, "$TDCREATE", {40}, localTime},
+        {"*", Kind::Different, "$TDUPDATE", {40}, localTime},
+        {"*", Kind::Different, "$TDUUPDATE", {40}, savedAgain},
+        {"*", Kind::Different, "$TDINDWG", {40}, savedAgain},
+        {"*", Kind::Different, "$TDUSRTIMER", {40}, savedAgain},
+        {"*", Kind::Different, "$HANDSEED", {5}, savedAgain},
+        {"r9_entities", Kind::Different, "$TDUPDATE", {40}, savedAgain},
+        {"r11_entities", Kind::Different, "$TDUPDATE", {40}, savedAgain},
+        {"r9_entities", Kind::Different, "SHAPE *", {2}, shapeNames},
+        {"r11_entities", Kind::Different, "SHAPE *", {2}, shapeNames},
+        {"r9_entities", Kind::Different, "DIMENSION *", {1}, blanks},
+        {"r11_entities", Kind::Different, "DIMENSION *", {1}, blanks},
     };
     return rows;
 }

@@ -24,9 +24,9 @@ Release releaseOf(Bytes file)
     int number = 0;
     for (std::size_t i = 2; i < 6; ++i)
         number = number * 10 + (file[i] >= '0' && file[i] <= '9' ? file[i] - '0' : 1000);
-    for (const Release release : {Release::R25, Release::R26, Release::R9, Release::R10, Release::R12, Release::R13,
-                                  Release::R14, Release::R2000, Release::R2004, Release::R2007, Release::R2010,
-                                  Release::R2013, Release::R2018}) {
+    for (const Release release :
+         {Release::R25, Release::R26, Release::R9, Release::R10, Release::R12, Release::R13, Release::R14,
+          Release::R2000, Release::R2004, Release::R2007, Release::R2010, Release::R2013, Release::R2018}) {
         if (number == static_cast<int>(release))
             return release;
     }

@@ -108,8 +108,8 @@ void readEarlyDimension(EarlyRecord &r)
 std::span<const EarlyType> earlyAnnotationTypes()
 {
     static constexpr EarlyType types[] = {
-        {4, "SHAPE", readEarlyShape},           {7, "TEXT", readEarlyText},
-        {15, "ATTDEF", readEarlyDefinition},    {16, "ATTRIB", readEarlyAttribute},
+        {4, "SHAPE", readEarlyShape},          {7, "TEXT", readEarlyText},
+        {15, "ATTDEF", readEarlyDefinition},   {16, "ATTRIB", readEarlyAttribute},
         {23, "DIMENSION", readEarlyDimension},
     };
     return types;

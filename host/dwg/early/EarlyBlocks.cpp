@@ -60,8 +60,12 @@ void readEarlyLoad(EarlyRecord &r)
 std::span<const EarlyType> earlyBlockTypes()
 {
     static constexpr EarlyType types[] = {
-        {5, "REPEAT", nullptr},       {6, "ENDREP", readEarlyRepetition},      {10, "LOAD", readEarlyLoad},
-        {13, "ENDBLK", nullptr},      {14, "INSERT", readEarlyInsert},         {17, "SEQEND", readEarlyEnd},
+        {5, "REPEAT", nullptr},
+        {6, "ENDREP", readEarlyRepetition},
+        {10, "LOAD", readEarlyLoad},
+        {13, "ENDBLK", nullptr},
+        {14, "INSERT", readEarlyInsert},
+        {17, "SEQEND", readEarlyEnd},
         {24, "VIEWPORT", readEarlyPaperViewport},
     };
     return types;

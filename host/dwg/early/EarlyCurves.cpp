@@ -130,10 +130,11 @@ void readEarlyVertex(EarlyRecord &r)
 std::span<const EarlyType> earlyCurveTypes()
 {
     static constexpr EarlyType types[] = {
-        {1, "LINE", readEarlyLine, true},     {2, "POINT", readEarlyPoint, true}, {3, "CIRCLE", readEarlyCircle},
-        {8, "ARC", readEarlyArc},             {9, "TRACE", readEarlySolid},       {11, "SOLID", readEarlySolid},
-        {19, "POLYLINE", readEarlyPolyline},  {20, "VERTEX", readEarlyVertex},    {21, "3DLINE", readEarlySpaceLine},
-        {22, "3DFACE", readEarlyFace, true},
+        {1, "LINE", readEarlyLine, true},    {2, "POINT", readEarlyPoint, true},
+        {3, "CIRCLE", readEarlyCircle},      {8, "ARC", readEarlyArc},
+        {9, "TRACE", readEarlySolid},        {11, "SOLID", readEarlySolid},
+        {19, "POLYLINE", readEarlyPolyline}, {20, "VERTEX", readEarlyVertex},
+        {21, "3DLINE", readEarlySpaceLine},  {22, "3DFACE", readEarlyFace, true},
     };
     return types;
 }

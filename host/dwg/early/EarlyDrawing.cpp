@@ -101,8 +101,7 @@ private:
     /// Behind the last record of a section, where none follows.
     bool isEnd(std::size_t place) const
     {
-        const bool isBehind =
-            place == m_file.entities.end || place == m_file.blocks.end || place == m_file.further.end;
+        const bool isBehind = place == m_file.entities.end || place == m_file.blocks.end || place == m_file.further.end;
         return isBehind && !sectionOf(place);
     }
 
@@ -180,8 +179,8 @@ private:
     void writeEntity(const EarlyFrame &frame, const EarlyType &type)
     {
         ++m_result.objectCount;
-        const bool isRead = std::ranges::any_of(
-            m_forms, [&](const EarlyForm &form) { return readEntity(frame, type, form); });
+        const bool isRead =
+            std::ranges::any_of(m_forms, [&](const EarlyForm &form) { return readEntity(frame, type, form); });
         if (!isRead)
             return lose(type.name, "Its values do not fill its record.");
         if (m_file.isChecked() && !fitsEarlyChecksum(m_file.bytes, frame.begin, frame.next))
@@ -236,7 +235,7 @@ private:
     Names m_noNames;
     Fields m_fields;
     EarlyRecord m_record;
-    std::size_t m_bytesLeft; ///< of the file that no record had yet
+    std::size_t m_bytesLeft;             ///< of the file that no record had yet
     const EarlyBlock *m_block = nullptr; ///< whose BLOCK is read
 };
 

@@ -8,8 +8,7 @@ namespace {
 class EarlyDataReader
 {
 public:
-    EarlyDataReader(BitReader data, const EarlyNames &names, Fields &fields)
-        : m_data(data), m_names(names), f(fields)
+    EarlyDataReader(BitReader data, const EarlyNames &names, Fields &fields) : m_data(data), m_names(names), f(fields)
     {
     }
 

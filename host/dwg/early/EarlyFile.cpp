@@ -9,7 +9,7 @@ namespace host::dwg {
 namespace {
 
 constexpr std::size_t checksumSize = 2;
-/// Sections of R11 and R12 stand between two rows of bytes that are the same in every file.
+/// Sections of R11 and R12 stand between two rows of bytes that are the same in every file, and no part of them.
 constexpr std::size_t earlyMarkSize = 16;
 constexpr std::size_t firstTableHead = 0x2c;
 constexpr std::size_t tableHeadSize = 10;
@@ -29,12 +29,6 @@ EarlySection earlySection(const EarlyFile &file, std::size_t begin, std::size_t 
         problems.lose("A section of entities reaches beyond the file.");
     begin = std::min(begin, size);
     return {begin, std::clamp(end, begin, size)};
-}
-
-void dropMark(EarlySection &section)
-{
-    if (section.end - section.begin >= earlyMarkSize)
-        section.end -= earlyMarkSize;
 }
 
 EarlyTable earlyTableAt(Bytes bytes, std::size_t head, Problems &problems)
@@ -81,8 +75,6 @@ EarlyFile openEarlyFile(Bytes bytes, Release release, Problems &problems)
     file.further = earlySection(file, further, further + (earlyNumber(bytes, 0x28) & addressMask), problems);
     file.variablesEnd = file.entities.begin;
     if (file.isChecked()) {
-        dropMark(file.entities);
-        dropMark(file.blocks);
         file.variablesEnd -= std::min(file.variablesEnd, earlyMarkSize);
         if (!fitsEarlyChecksum(bytes, 0, file.variablesEnd))
             problems.warn("The checksum of the header does not fit.");

@@ -22,10 +22,10 @@ enum class EarlyTableKind
     Styles,
     Linetypes,
     Views,
-    Systems,            ///< from R10 on
-    Viewports,          ///< from R10 on
-    Applications,       ///< from R11 on
-    DimensionStyles,    ///< from R11 on
+    Systems,         ///< from R10 on
+    Viewports,       ///< from R10 on
+    Applications,    ///< from R11 on
+    DimensionStyles, ///< from R11 on
     Count
 };
 

@@ -22,13 +22,13 @@ struct EarlyType
 /// Each record tells its length, so that only one way takes all of it.
 struct EarlyForm
 {
-    bool hasWideLinetypes = false;    ///< the place of a linetype has two bytes
-    bool hasSpaceDimensions = false;  ///< the measured points of dimensions have three numbers
+    bool hasWideLinetypes = false;   ///< the place of a linetype has two bytes
+    bool hasSpaceDimensions = false; ///< the measured points of dimensions have three numbers
 };
 
-/// One entity while it is read: like Fields, each call takes the next value and notes it as the tag that it is. Which of
-/// an entity's further values are there is told by its options, a bit each: what is asked for with an option that is not
-/// there takes and notes nothing.
+/// One entity while it is read: like Fields, each call takes the next value and notes it as the tag that it is. Which
+/// of an entity's further values are there is told by its options, a bit each: what is asked for with an option that is
+/// not there takes and notes nothing.
 class EarlyRecord
 {
 public:

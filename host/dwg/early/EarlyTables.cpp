@@ -65,8 +65,8 @@ void readEarlyViewport(EarlyTableFields &r)
     f.rawFlatPoint(14);
     f.rawFlatPoint(15);
     // Each point is noted as its parts.
-    f.arrange(begin, {10, 20, 11, 21, 12, 22, 13, 23, 14, 24, 15, 25, 16, 26, 36, 17, 27, 37, 40, 41, 42, 43, 44, 50,
-                      51, 71});
+    f.arrange(begin,
+              {10, 20, 11, 21, 12, 22, 13, 23, 14, 24, 15, 25, 16, 26, 36, 17, 27, 37, 40, 41, 42, 43, 44, 50, 51, 71});
 }
 
 void readEarlyLinetype(EarlyTableFields &r)
