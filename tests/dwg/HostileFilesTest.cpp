@@ -20,8 +20,8 @@ std::vector<File> samples()
 {
     std::vector<File> files;
     const char *corpus = std::getenv("ORTAKIT_CORPUS");
-    for (const char *name :
-         {"r2000_sample.dwg", "r2000_entities.dwg", "r2018_sample.dwg", "r2004_leader.dwg", "r2007_line.dwg"}) {
+    for (const char *name : {"r2000_sample.dwg", "r2000_entities.dwg", "r2018_sample.dwg", "r2004_leader.dwg",
+                             "r2007_line.dwg", "r9_entities.dwg", "r11_entities.dwg"}) {
         if (!corpus)
             break;
         std::ifstream file(std::filesystem::path(corpus).parent_path() / "dwg" / name, std::ios::binary);

@@ -13,6 +13,8 @@ constexpr std::size_t checksumSize = 2;
 constexpr std::size_t earlyMarkSize = 16;
 constexpr std::size_t firstTableHead = 0x2c;
 constexpr std::size_t tableHeadSize = 10;
+/// Flags and a name.
+constexpr std::size_t leastTableRecord = 33;
 
 std::uint32_t earlyNumber(Bytes bytes, std::size_t at)
 {
@@ -40,8 +42,9 @@ EarlyTable earlyTableAt(Bytes bytes, std::size_t head, Problems &problems)
     reader.skip(16);
     table.at = reader.raw32();
     table.isThere = !reader.hasFailed();
-    if (table.isThere && (table.at > bytes.size() || table.recordSize * table.count > bytes.size() - table.at)) {
-        problems.lose("A table reaches beyond the file.");
+    const bool isInFile = table.at <= bytes.size() && table.recordSize * table.count <= bytes.size() - table.at;
+    if (table.isThere && table.count != 0 && (!isInFile || table.recordSize < leastTableRecord)) {
+        problems.lose("A table has more records than the file has room for, or shorter ones than can be.");
         table.count = 0;
     }
     return table;

@@ -168,16 +168,6 @@ constexpr EarlyTableRow earlyTableRows[] = {
     {EarlyTableKind::DimensionStyles, "DIMSTYLE", readEarlyDimensionStyle},
 };
 
-bool isTableIntact(const EarlyFile &file, const EarlyTable &table)
-{
-    bool isIntact = true;
-    for (std::size_t i = 0; file.isChecked() && i < table.count; ++i) {
-        const std::size_t begin = table.at + i * table.recordSize;
-        isIntact = isIntact && fitsEarlyChecksum(file.bytes, begin, begin + table.recordSize);
-    }
-    return isIntact;
-}
-
 class EarlyTableWriter
 {
 public:
@@ -191,6 +181,7 @@ public:
         begin("SECTION");
         m_fields.note(2, "TABLES");
         m_fields.write(m_text);
+        check(m_file.table(EarlyTableKind::Blocks), "BLOCK");
         for (const EarlyTableRow &row : earlyTableRows) {
             if (m_file.table(row.kind).isThere)
                 writeTable(row);
@@ -206,11 +197,21 @@ private:
         m_fields.note(0, type);
     }
 
+    void check(const EarlyTable &table, const char *name)
+    {
+        bool isIntact = true;
+        for (std::size_t i = 0; m_file.isChecked() && isIntact && i < table.count; ++i) {
+            const std::size_t begin = table.at + i * table.recordSize;
+            isIntact = fitsEarlyChecksum(m_file.bytes, begin, begin + table.recordSize);
+        }
+        if (!isIntact)
+            m_problems.warn(std::string("A checksum of the table ") + name + " does not fit.");
+    }
+
     void writeTable(const EarlyTableRow &row)
     {
         const EarlyTable &table = m_file.table(row.kind);
-        if (!isTableIntact(m_file, table))
-            m_problems.warn(std::string("A checksum of the table ") + row.name + " does not fit.");
+        check(table, row.name);
         begin("TABLE");
         m_fields.note(2, row.name);
         m_fields.note(70, table.count);

@@ -1,0 +1,358 @@
+// Files of R9 to R12 that the tests make, for what no pair has: each type of entity with its options, what all entities
+// have, tables, blocks, jumps, and records that are not as they should be.
+
+#include "host/dwg/drawing/DrawingText.h"
+#include "tests/dwg/EarlyFileMaker.h"
+#include "tests/dwg/TextTree.h"
+
+#include <gtest/gtest.h>
+
+namespace host::dwg::test {
+
+namespace {
+
+std::string joined(const TextNode &node)
+{
+    std::string text = node.type();
+    for (std::size_t i = 1; i < node.tags.size(); ++i)
+        text += ' ' + std::to_string(node.tags[i].code) + ' ' + node.tags[i].value;
+    return text;
+}
+
+/// The records of a section or a table, one a line; vertices and attributes behind what has them.
+std::string recordsOf(const TextTree &tree, std::string_view name, std::size_t at = 0)
+{
+    std::string lines;
+    for (const std::size_t child : tree.nodes[at].children) {
+        const TextNode &node = tree.nodes[child];
+        if (node.name == name && (node.type() == "SECTION" || node.type() == "TABLE"))
+            return recordsOf(tree, {}, child);
+        if (node.type() == "SECTION" || node.type() == "TABLE")
+            lines += recordsOf(tree, name, child);
+        else if (name.empty())
+            lines += joined(node) + '\n' + recordsOf(tree, {}, child);
+    }
+    return lines;
+}
+
+std::string problemsOf(const DrawingText &drawing)
+{
+    std::string lines;
+    for (const Problem &problem : drawing.problems.list())
+        lines += problem.message() + '\n';
+    return lines;
+}
+
+struct EarlyEntityRow
+{
+    const char *name;
+    Release release;
+    int type;
+    int flags;
+    int options;
+    const char *values;
+    const char *record;        ///< empty where the entity is lost
+    const char *problems = ""; ///< without the line's end
+};
+
+constexpr auto r9 = Release::R9;
+constexpr auto r10 = Release::R10;
+constexpr auto r12 = Release::R12;
+constexpr const char *lost = "Its values do not fill its record.";
+
+const EarlyEntityRow earlyEntityRows[] = {
+    // What all entities have.
+    {"colour", r12, 2, 0x01, 0, "b1 1.0 2.0 3.0", "POINT 8 0 62 1 10 1.0 20 2.0 30 3.0"},
+    {"linetype of two bytes", r12, 2, 0x02, 0, "w0 1.0 2.0 3.0", "POINT 8 0 6 CONTINUOUS 10 1.0 20 2.0 30 3.0"},
+    {"linetype of the block", r12, 2, 0x03, 0, "b0 w32766 1.0 2.0 3.0",
+     "POINT 8 0 6 BYBLOCK 62 0 10 1.0 20 2.0 30 3.0"},
+    {"linetype of one byte", r9, 2, 0x02, 0, "b0 1.0 2.0", "POINT 8 0 6 CONTINUOUS 10 1.0 20 2.0"},
+    {"linetype of R10 of one byte", r10, 2, 0x02, 0, "b255 1.0 2.0 3.0", "POINT 8 0 6 BYBLOCK 10 1.0 20 2.0 30 3.0"},
+    {"linetype of R10 of two bytes", r10, 2, 0x02, 0, "w0 1.0 2.0 3.0", "POINT 8 0 6 CONTINUOUS 10 1.0 20 2.0 30 3.0"},
+    {"elevation of R9", r9, 3, 0x04, 0, "7.0 1.0 2.0 3.0", "CIRCLE 8 0 38 7.0 10 1.0 20 2.0 40 3.0"},
+    {"elevation", r12, 3, 0x04, 0, "7.0 1.0 2.0 3.0", "CIRCLE 8 0 10 1.0 20 2.0 30 7.0 40 3.0"},
+    {"thickness", r12, 3, 0x08, 0, "7.0 1.0 2.0 3.0", "CIRCLE 8 0 39 7.0 10 1.0 20 2.0 30 0.0 40 3.0"},
+    {"handle", r12, 3, 0x20, 0, "b2 h1A2B 1.0 2.0 3.0", "CIRCLE 5 1A2B 8 0 10 1.0 20 2.0 30 0.0 40 3.0"},
+    {"handle of nine bytes", r12, 3, 0x20, 0, "b9 h112233445566778899 1.0 2.0 3.0", "", lost},
+    {"paper space", r12, 3, 0x40, 0, "b4 w1 1.0 2.0 3.0", "CIRCLE 8 0 67 1 10 1.0 20 2.0 30 0.0 40 3.0"},
+    {"all at once", r12, 3, 0x6f, 0, "b3 b4 w0 4.0 5.0 b1 hFF w2 1.0 2.0 3.0",
+     "CIRCLE 5 FF 8 0 6 CONTINUOUS 39 5.0 62 3 67 1 10 1.0 20 2.0 30 4.0 40 3.0"},
+    {"extended data", r12, 3, 0x40, 0,
+     "b2 w70 b1 w0 b0 b3 \"a_b b2 b0 b3 w0 b4 b2 h01FF b5 h00000000000000AB b10 1.0 2.0 3.0 b40 4.0 b70 w-5 b71 l-6 b2 "
+     "b1 1.0 2.0 3.0",
+     "CIRCLE 8 0 10 1.0 20 2.0 30 0.0 40 3.0 1001 MADE 1000 a b 1002 { 1003 0 1004 01FF 1005 AB 1010 1.0 1020 2.0 1030 "
+     "3.0 1040 4.0 1070 -5 1071 -6 1002 }"},
+    {"extended data of an unknown kind", r12, 3, 0x40, 0, "b2 w2 b99 b1 1.0 2.0 3.0",
+     "CIRCLE 8 0 10 1.0 20 2.0 30 0.0 40 3.0", "The extended data are left out."},
+    {"extended data beyond the record", r12, 3, 0x40, 0, "b2 w300 b1 w0 1.0 2.0 3.0", "", lost},
+
+    // Types with their options.
+    {"LINE", r12, 1, 0, 0x01, "1.0 2.0 3.0 4.0 5.0 6.0 0.0 0.0 -1.0",
+     "LINE 8 0 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 6.0 210 0.0 220 0.0 230 -1.0"},
+    {"LINE on the ground", r12, 1, 0x04, 0, "1.0 2.0 4.0 5.0", "LINE 8 0 10 1.0 20 2.0 30 0.0 11 4.0 21 5.0 31 0.0"},
+    {"LINE of R9 with an elevation", r9, 1, 0x04, 0, "9.0 1.0 2.0 4.0 5.0",
+     "LINE 8 0 38 9.0 10 1.0 20 2.0 11 4.0 21 5.0"},
+    {"LINE that is too short", r12, 1, 0, 0, "1.0 2.0 3.0 4.0 5.0", "", lost},
+    {"LINE that is too long", r12, 1, 0, 0, "1.0 2.0 3.0 4.0 5.0 6.0 7.0", "", lost},
+    {"POINT with a direction", r12, 2, 0, 0x02, "1.0 2.0 3.0 0.0", "POINT 8 0 10 1.0 20 2.0 30 3.0 50 0.0"},
+    {"SHAPE", r12, 4, 0, 0x1f, "1.0 2.0 3.0 b131 0.0 b1 2.0 0.0 0.0 0.0 1.0",
+     "SHAPE 8 0 10 1.0 20 2.0 30 0.0 40 3.0 2 131 50 0.0 41 2.0 51 0.0 210 0.0 220 0.0 230 1.0"},
+    {"REPEAT", r9, 5, 0, 0, "", "REPEAT 8 0"},
+    {"ENDREP", r9, 6, 0, 0, "w3 w4 5.0 6.0", "ENDREP 8 0 70 3 71 4 44 5.0 45 6.0"},
+    {"LOAD", r9, 10, 0, 0, "'es", "LOAD 8 0 1 es"},
+    {"TEXT", r12, 7, 0, 0x1ff, "1.0 2.0 3.0 'a_b 0.0 2.0 0.0 b0 b2 b1 4.0 5.0 0.0 0.0 1.0 b3",
+     "TEXT 8 0 10 1.0 20 2.0 30 0.0 40 3.0 1 a b 50 0.0 41 2.0 51 0.0 7 STANDARD 71 2 72 1 11 4.0 21 5.0 31 0.0 210 "
+     "0.0 "
+     "220 0.0 230 1.0 73 3"},
+    {"TEXT longer than its record", r12, 7, 0, 0, "1.0 2.0 3.0 w500 \"abc", "", lost},
+    {"ARC", r12, 8, 0, 0x01, "1.0 2.0 3.0 0.0 3.141592653589793 0.0 0.0 -1.0",
+     "ARC 8 0 10 1.0 20 2.0 30 0.0 40 3.0 50 0.0 51 180.0 210 0.0 220 0.0 230 -1.0"},
+    {"TRACE of R9", r9, 9, 0, 0, "1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0",
+     "TRACE 8 0 10 1.0 20 2.0 11 3.0 21 4.0 12 5.0 22 6.0 13 7.0 23 8.0"},
+    {"SOLID", r12, 11, 0x04, 0x01, "9.0 1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0 0.0 0.0 -1.0",
+     "SOLID 8 0 10 1.0 20 2.0 30 9.0 11 3.0 21 4.0 31 9.0 12 5.0 22 6.0 32 9.0 13 7.0 23 8.0 33 9.0 210 0.0 220 0.0 "
+     "230 "
+     "-1.0"},
+    {"INSERT in rows", r12, 14, 0, 0x1ff, "w0 1.0 2.0 3.0 4.0 0.0 5.0 w6 w7 8.0 9.0 0.0 0.0 1.0",
+     "INSERT 8 0 2 TREE 10 1.0 20 2.0 30 0.0 41 3.0 42 4.0 50 0.0 43 5.0 70 6 71 7 44 8.0 45 9.0 210 0.0 220 0.0 230 "
+     "1.0"},
+    {"INSERT of no block", r12, 14, 0, 0, "w9 1.0 2.0", "INSERT 8 0 2  10 1.0 20 2.0 30 0.0"},
+    {"ATTDEF", r12, 15, 0, 0x201, "1.0 2.0 3.0 'one 'Which? 'TAG b8 b5 b2",
+     "ATTDEF 8 0 10 1.0 20 2.0 30 0.0 40 3.0 1 one 3 Which? 2 TAG 70 8 73 5 74 2"},
+    {"ATTRIB", r9, 16, 0, 0xfe, "1.0 2.0 3.0 'one 'TAG b0 0.0 2.0 0.0 b0 b2 b1 4.0 5.0",
+     "ATTRIB 8 0 10 1.0 20 2.0 40 3.0 1 one 2 TAG 70 0 50 0.0 41 2.0 51 0.0 7 STANDARD 71 2 72 1 11 4.0 21 5.0"},
+    {"SEQEND", r12, 17, 0, 0, "l0", "SEQEND 8 0"},
+    {"POLYLINE", r12, 19, 0x80, 0x0f, "b1 2.0 3.0 0.0 0.0 1.0",
+     "POLYLINE 8 0 66 1 10 0.0 20 0.0 30 0.0 70 1 40 2.0 41 3.0 210 0.0 220 0.0 230 1.0"},
+    {"POLYLINE of a mesh", r10, 19, 0x84, 0x1f1, "5.0 b16 w3 w4 w5 w6 w8",
+     "POLYLINE 8 0 66 1 10 0.0 20 0.0 30 5.0 70 16 71 3 72 4 73 5 74 6 75 8"},
+    {"VERTEX", r12, 20, 0x04, 0x1f, "9.0 1.0 2.0 3.0 4.0 5.0 b1 0.0",
+     "VERTEX 8 0 10 1.0 20 2.0 30 9.0 40 3.0 41 4.0 42 5.0 70 1 50 0.0"},
+    {"VERTEX that is a face", r12, 20, 0, 0x41e8, "b128 w1 w2 w-3 w4",
+     "VERTEX 8 0 10 0.0 20 0.0 30 0.0 70 128 71 1 72 2 73 -3 74 4"},
+    {"3DLINE", r9, 21, 0, 0x03, "1.0 2.0 3.0 4.0 5.0 6.0", "3DLINE 8 0 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 6.0"},
+    {"3DLINE to above", r9, 21, 0, 0x02, "1.0 2.0 4.0 5.0 6.0", "3DLINE 8 0 10 1.0 20 2.0 11 4.0 21 5.0 31 6.0"},
+    {"3DFACE", r12, 22, 0, 0x01, "1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0 9.0 7.0 8.0 9.0 w5",
+     "3DFACE 8 0 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 6.0 12 7.0 22 8.0 32 9.0 13 7.0 23 8.0 33 9.0 70 5"},
+    {"3DFACE on the ground", r12, 22, 0x04, 0, "1.0 2.0 4.0 5.0 7.0 8.0 7.0 8.0",
+     "3DFACE 8 0 10 1.0 20 2.0 30 0.0 11 4.0 21 5.0 31 0.0 12 7.0 22 8.0 32 0.0 13 7.0 23 8.0 33 0.0"},
+    {"3DFACE of R9", r9, 22, 0, 0x11, "1.0 2.0 3.0 4.0 5.0 7.0 8.0 7.0 8.0 b1",
+     "3DFACE 8 0 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 12 7.0 22 8.0 13 7.0 23 8.0 70 1"},
+    {"DIMENSION", r12, 23, 0, 0x13e, "w0 1.0 2.0 3.0 4.0 5.0 b2 '<> 6.0 7.0 8.0 9.0 10.0 11.0 12.0 13.0 14.0 0.0",
+     "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 0.0 70 2 1 <> 13 6.0 23 7.0 33 8.0 14 9.0 24 10.0 34 "
+     "11.0 15 12.0 25 13.0 35 14.0 50 0.0"},
+    {"DIMENSION with a style", r12, 23, 0, 0x26c3, "w0 1.0 2.0 3.0 4.0 5.0 6.0 7.0 b2 8.0 9.0 10.0 0.0 0.0 0.0 1.0 w0",
+     "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 0.0 12 6.0 22 7.0 32 0.0 70 2 16 8.0 26 9.0 36 0.0 40 "
+     "10.0 51 0.0 210 0.0 220 0.0 230 1.0 3 MADE"},
+    {"DIMENSION with a turned text", r12, 23, 0, 0x800, "w0 1.0 2.0 3.0 4.0 5.0 1.0",
+     "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 0.0",
+     "The turn of its text or of its extension lines is left out."},
+    {"DIMENSION of R10 with flat points", r10, 23, 0, 0x08, "w0 1.0 2.0 4.0 5.0 6.0 7.0",
+     "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 0.0 11 4.0 21 5.0 31 0.0 13 6.0 23 7.0 33 0.0"},
+    {"DIMENSION of R10 with points in space", r10, 23, 0, 0x08, "w0 1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0",
+     "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 0.0 13 6.0 23 7.0 33 8.0"},
+    {"VIEWPORT", r12, 24, 0x40, 0x01, "b4 w1 1.0 2.0 3.0 4.0 5.0 w2 w3",
+     "VIEWPORT 8 0 67 1 10 1.0 20 2.0 30 3.0 40 4.0 41 5.0 68 2 69 3"},
+    {"VIEWPORT on the ground", r12, 24, 0, 0, "1.0 2.0 4.0 5.0 w2",
+     "VIEWPORT 8 0 10 1.0 20 2.0 30 0.0 40 4.0 41 5.0 68 2"},
+    {"deleted", r12, 129, 0, 0, "1.0 2.0 3.0 4.0 5.0 6.0", ""},
+    {"of no type", r12, 99, 0, 0, "1.0", "", "type 99 0: Entities of this type are not read."},
+};
+
+/// A file with one record of each table.
+EarlyFileMaker makerWithTables(Release release)
+{
+    EarlyFileMaker maker(release);
+    maker.addRecord(EarlyTableKind::Styles, 0, "STANDARD", "0.0 1.0 0.0 b0 0.2 \"txt z125");
+    maker.addToBlocks(12, 0, 0, "0.0 0.0");
+    maker.addToBlocks(13, 0, 0, "");
+    maker.addRecord(EarlyTableKind::Blocks, 0, "TREE", release >= r12 ? "l1073741824 l-1" : "l1073741824");
+    maker.addRecord(EarlyTableKind::Applications, 0, "MADE", "");
+    maker.addRecord(EarlyTableKind::DimensionStyles, 0, "MADE",
+                    "1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0 9.0 10.0 11.0 12.0 13.0 14.0 15.0 b1 b2 b3 b4 b5 b6 b7 b8 b9 b10 "
+                    "b11 b12 b13 b14 \"<>mm z12 z16 \"DOT z30 z33 z33 w1 w2 w3 16.0 17.0");
+    maker.addRecord(EarlyTableKind::Views, 0, "FRONT",
+                    release >= r10 ? "1.0 2.0 3.0 4.0 0.0 -1.0 0.0 w0 5.0 6.0 7.0 50.0 8.0 9.0 0.0 w1"
+                                   : "1.0 2.0 3.0 4.0 0.0 -1.0 0.0 w0");
+    maker.addRecord(EarlyTableKind::Systems, 0, "SIDE", "1.0 2.0 3.0 0.0 1.0 0.0 0.0 0.0 1.0");
+    return maker;
+}
+
+EarlyFileMaker makerOf(const EarlyEntityRow &row)
+{
+    EarlyFileMaker maker = makerWithTables(row.release);
+    maker.addEntity(row.type, row.flags, row.options, row.values);
+    return maker;
+}
+
+} // namespace
+
+TEST(EarlyDwg, EntitiesHaveTheirOptions)
+{
+    for (const EarlyEntityRow &row : earlyEntityRows) {
+        const DrawingText drawing = readDrawing(makerOf(row).file());
+        const std::string records = recordsOf(readTree(drawing.text), "ENTITIES");
+        EXPECT_EQ(records, row.record[0] ? row.record + std::string("\n") : "") << row.name;
+        const std::string problems = problemsOf(drawing);
+        const bool isTold = row.problems[0] ? problems.ends_with(row.problems + std::string("\n")) : problems.empty();
+        EXPECT_TRUE(isTold) << row.name << ": " << problems;
+        EXPECT_EQ(drawing.problems.lostCount() != 0, !row.record[0] && row.problems[0]) << row.name;
+    }
+}
+
+TEST(EarlyDwg, TablesAreThoseOfTheRelease)
+{
+    const DrawingText drawing = readDrawing(makerWithTables(r12).file());
+    const TextTree tree = readTree(drawing.text);
+    EXPECT_EQ(problemsOf(drawing), "");
+    EXPECT_EQ(recordsOf(tree, "VIEW"),
+              "VIEW 2 FRONT 70 0 40 1.0 10 2.0 20 3.0 41 4.0 11 0.0 21 -1.0 31 0.0 12 5.0 22 6.0 "
+              "32 7.0 42 50.0 43 8.0 44 9.0 50 0.0 71 1\n");
+    EXPECT_EQ(recordsOf(tree, "UCS"),
+              "UCS 2 SIDE 70 0 10 1.0 20 2.0 30 3.0 11 0.0 21 1.0 31 0.0 12 0.0 22 0.0 32 1.0\n");
+    EXPECT_EQ(
+        recordsOf(tree, "DIMSTYLE"),
+        "DIMSTYLE 2 MADE 70 0 3 <>mm 4  5 DOT 6  7  40 1.0 41 2.0 42 3.0 43 4.0 44 5.0 45 6.0 46 7.0 47 8.0 48 9.0 "
+        "140 10.0 141 11.0 142 12.0 143 13.0 144 14.0 145 15.0 146 16.0 147 17.0 71 1 72 2 73 3 74 4 75 5 76 6 77 "
+        "7 78 8 170 9 171 10 172 11 173 12 174 13 175 14 176 1 177 2 178 3\n");
+    const TextTree early = readTree(readDrawing(makerWithTables(r9).file()).text);
+    EXPECT_EQ(recordsOf(early, "VIEW"), "VIEW 2 FRONT 70 0 40 1.0 10 2.0 20 3.0 41 4.0 11 0.0 21 -1.0 31 0.0\n");
+    EXPECT_EQ(recordsOf(early, "APPID"), "");
+}
+
+TEST(EarlyDwg, DeletedRecordsOfTablesAreCountedAlone)
+{
+    EarlyFileMaker maker(r9);
+    maker.addRecord(EarlyTableKind::Layers, 128, "GONE", "w1 w0");
+    maker.addRecord(EarlyTableKind::Layers, 1, "FROZEN", "w-3 w255");
+    maker.addRecord(EarlyTableKind::Linetypes, 0, "DASHED", "\"- z47 b65 b2 1.5 1.0 -0.5 z80");
+    maker.addRecord(EarlyTableKind::Linetypes, 0, "WRONG", "\"- z47 b65 b13 1.5 1.0 -0.5 z80");
+    const DrawingText drawing = readDrawing(maker.file());
+    const TextTree tree = readTree(drawing.text);
+    EXPECT_EQ(recordsOf(tree, "LAYER"), "LAYER 2 0 70 0 62 7 6 CONTINUOUS\nLAYER 2 FROZEN 70 1 62 -3 6 BYBLOCK\n");
+    EXPECT_EQ(recordsOf(tree, "LTYPE"), "LTYPE 2 CONTINUOUS 70 64 3 Solid line 72 65 73 0 40 0.0\n"
+                                        "LTYPE 2 DASHED 70 0 3 - 72 65 73 2 40 1.5 49 1.0 49 -0.5\n");
+    EXPECT_NE(drawing.text.find("TABLE\n  2\nLAYER\n 70\n3\n"), std::string::npos);
+    EXPECT_EQ(problemsOf(drawing), "LTYPE 0: The record of a table is too short.\n");
+}
+
+TEST(EarlyDwg, BlocksHaveWhatTheirTableSays)
+{
+    EarlyFileMaker maker(r12);
+    maker.addToBlocks(12, 0x04, 0x06, "3.0 1.0 2.0 'C:\\PLAN.DWG 'PLAN");
+    const std::size_t second = maker.addToBlocks(13, 0, 0, "") + 10;
+    maker.addToBlocks(12, 0, 0x04, "0.0 0.0 '*U");
+    const std::size_t broken = maker.addToBlocks(2, 0, 0, "1.0 2.0 3.0");
+    const auto address = [](std::size_t place) {
+        return 'l' + std::to_string(place | EarlyFileMaker::blocksBit) + " l-1";
+    };
+    maker.addRecord(EarlyTableKind::Blocks, 4, "PLAN", address(0));
+    maker.addRecord(EarlyTableKind::Blocks, 1, "*U", address(second));
+    maker.addRecord(EarlyTableKind::Blocks, 0, "BROKEN", address(broken));
+    const DrawingText drawing = readDrawing(maker.file());
+    const TextTree tree = readTree(drawing.text);
+    EXPECT_EQ(recordsOf(tree, "BLOCKS"),
+              "BLOCK 8 0 2 PLAN 70 4 10 1.0 20 2.0 30 3.0 3 PLAN 1 C:\\PLAN.DWG\nENDBLK 8 0\n"
+              "BLOCK 8 0 2 *U1 70 1 10 0.0 20 0.0 30 0.0 3 *U\nPOINT 8 0 10 1.0 20 2.0 30 3.0\nENDBLK\n");
+    EXPECT_EQ(problemsOf(drawing), "BLOCK 0: There is no block at its place: BROKEN.\n");
+}
+
+TEST(EarlyDwg, JumpsAreFollowedAndRingsEnd)
+{
+    for (const Release release : {r9, r12}) {
+        EarlyFileMaker maker(release);
+        maker.addEntity(3, 0, 0, "1.0 0.0 1.0");
+        maker.addJump(0, EarlyFileMaker::furtherBit);
+        const std::size_t back = maker.addEntity(3, 0, 0, "3.0 0.0 1.0");
+        maker.addFurther(3, 0, 0, "2.0 0.0 1.0");
+        EarlyFileMaker ring = maker;
+        maker.addJumpBack(back);
+        const DrawingText drawing = readDrawing(maker.file());
+        std::string centers;
+        for (const TextNode &node : readTree(drawing.text).nodes)
+            centers += !node.tags.empty() && node.type() == "CIRCLE" ? node.tags[2].value + ' ' : "";
+        EXPECT_EQ(centers, "1.0 2.0 3.0 ");
+        EXPECT_EQ(problemsOf(drawing), "");
+        ring.addJumpBack(0);
+        EXPECT_EQ(readDrawing(ring.file()).problems.lostCount(), 1u);
+        EarlyFileMaker outside(release);
+        outside.addJump(0x7fffffff, 0);
+        EXPECT_EQ(readDrawing(outside.file()).problems.lostCount(), 1u);
+    }
+}
+
+TEST(EarlyDwg, TheHeaderHasWhatItsReleaseHas)
+{
+    EarlyFileMaker maker = makerWithTables(r12);
+    maker.setHeader(0x4ec, "w1 h0000000000001A2B");
+    maker.setHeader(0x510, "w0");
+    maker.setHeader(0x52c, "w0 w1 w2 w3");
+    maker.setHeader(0x31d, "w0");
+    const TextTree tree = readTree(readDrawing(maker.file()).text);
+    const std::string header = recordsOf(tree, "HEADER");
+    for (const char *line : {"$HANDLING 70 1\n", "$HANDSEED 5 1A2B\n", "$UCSNAME 2 SIDE\n", "$DIMSTYLE 2 MADE\n",
+                             "$DIMCLRT 70 3\n", "$CELTYPE 6 CONTINUOUS\n", "$INSBASE 10 0.0 20 0.0 30 0.0\n"})
+        EXPECT_NE(header.find(line), std::string::npos) << line;
+    const std::string early = recordsOf(readTree(readDrawing(makerWithTables(r10).file()).text), "HEADER");
+    EXPECT_NE(early.find("$SPLINETYPE"), std::string::npos);
+    EXPECT_EQ(early.find("$TILEMODE"), std::string::npos);
+}
+
+TEST(EarlyDwg, ChecksumsThatDoNotFitAreTold)
+{
+    EarlyFileMaker maker = makerWithTables(r12);
+    maker.addEntity(3, 0, 0, "1.0 2.0 3.0");
+    const auto problemsWith = [&maker](std::size_t changed) {
+        EarlyFileMaker::File file = maker.file();
+        file[changed] ^= 1;
+        return problemsOf(readDrawing(file));
+    };
+    EXPECT_EQ(problemsWith(0x70), "The checksum of the header does not fit.\n");
+    EXPECT_EQ(problemsWith(maker.entitiesBegin() + 9), "CIRCLE 0: The checksum does not fit.\n");
+    EXPECT_EQ(problemsWith(maker.entitiesBegin() + 34 + 8), "A checksum of the table BLOCK does not fit.\n");
+}
+
+TEST(EarlyDwg, DamagedFilesAreReadAsFarAsTheyGo)
+{
+    for (const Release release : {r9, r10, r12}) {
+        EarlyFileMaker maker = makerWithTables(release);
+        for (const EarlyEntityRow &row : earlyEntityRows) {
+            if (row.release == release)
+                maker.addEntity(row.type, row.flags, row.options, row.values);
+        }
+        maker.addFurther(3, 0, 0, "2.0 0.0 1.0");
+        maker.addJump(0, EarlyFileMaker::furtherBit);
+        const EarlyFileMaker::File file = maker.file();
+        constexpr std::size_t variables = 0x5e;
+        // Each place behind the name of the release, but those of variables.
+        for (std::size_t at = 6; at < file.size(); at = at == variables ? maker.entitiesBegin() : at + 1) {
+            const DrawingText cut = readDrawing(Bytes(file).first(at));
+            EXPECT_LE(cut.text.size(), 20 * file.size()) << at;
+            EarlyFileMaker::File changed = file;
+            constexpr std::uint8_t changes[] = {0x01, 0x80, 0xff, 0x10};
+            changed[at] ^= changes[at % 4];
+            EXPECT_LE(readDrawing(changed).text.size(), 20 * file.size()) << at;
+        }
+    }
+}
+
+TEST(EarlyDwg, CountsMayBeAnything)
+{
+    const EarlyFileMaker::File whole = makerWithTables(r12).file();
+    constexpr std::uint8_t heads[][10] = {
+        {0, 0, 255, 255},                        // records without a size
+        {1, 0, 255, 255},                        // records without room for a name
+        {255, 255, 255, 255},                    // more than the file has
+        {41, 0, 1, 0, 0, 0, 255, 255, 255, 255}, // behind the file
+    };
+    for (const std::size_t at : {0x2c, 0x36, 0x40, 0x4a, 0x54, 0x3ef, 0x500, 0x512, 0x522}) {
+        for (const auto &head : heads) {
+            EarlyFileMaker::File file = whole;
+            std::copy_n(head, sizeof head, file.begin() + static_cast<std::ptrdiff_t>(at));
+            const std::string problems = problemsOf(readDrawing(file));
+            EXPECT_NE(problems.find("A table has more records than"), std::string::npos) << at << ' ' << problems;
+        }
+    }
+}
+
+} // namespace host::dwg::test
