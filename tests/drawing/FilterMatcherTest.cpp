@@ -202,7 +202,7 @@ private:
 };
 
 /// In the order of the file, those in blocks and the parts of others as well, at most so many.
-std::vector<RecordId> someEntities(const Drawing &drawing, std::size_t most)
+std::vector<RecordId> firstEntities(const Drawing &drawing, std::size_t most)
 {
     std::vector<RecordId> all;
     for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id))
@@ -217,7 +217,7 @@ std::vector<RecordId> someEntities(const Drawing &drawing, std::size_t most)
 /// The number of answers that were yes; a difference is told.
 std::size_t expectSameAnswers(const Drawing &drawing, int filters, std::size_t mostEntities)
 {
-    const std::vector<RecordId> entities = someEntities(drawing, mostEntities);
+    const std::vector<RecordId> entities = firstEntities(drawing, mostEntities);
     std::size_t found = 0;
     if (entities.empty())
         return found;

@@ -1,0 +1,171 @@
+// DWG files as drawings: what a made file holds is there, and nothing is written over it. That each value of each type
+// comes out right is looked at beside the reader itself.
+
+#include "host/drawing/dwg/DwgText.h"
+#include "host/drawing/file/Recovery.h"
+#include "host/drawing/file/Save.h"
+#include "host/drawing/file/XrecordInFile.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Journal.h"
+#include "tests/drawing/DrawingSample.h"
+#include "tests/dwg/making/MadeDrawing.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using dwg::Release;
+using dwg::test::MadeDrawing;
+using dwg::test::ObjectWriter;
+
+constexpr int circleType = 0x12;
+constexpr int lineType = 0x13;
+constexpr int xrecordType = 0x4f;
+constexpr quint64 firstCircle = dwg::test::MadeHandles::First;
+constexpr int circleCount = 3;
+
+void writeMadeCircle(ObjectWriter &o)
+{
+    o.point({1.0, 2.0, 0.0});
+    o.real(5.0);
+    o.thickness(0.0);
+    o.extrusion();
+}
+
+MadeDrawing madeCircles(Release release)
+{
+    MadeDrawing made(release);
+    for (int i = 0; i < circleCount; ++i)
+        made.addEntity(circleType, writeMadeCircle);
+    return made;
+}
+
+QByteArray fileOf(const MadeDrawing &made)
+{
+    const dwg::test::FileBytes bytes = made.file();
+    return {reinterpret_cast<const char *>(bytes.data()), qsizetype(bytes.size())};
+}
+
+/// A file whose second circle ends before its values do.
+QByteArray fileWithALoss()
+{
+    MadeDrawing made = madeCircles(Release::R2000);
+    made.addEntity(circleType, [](ObjectWriter &o) { o.point({1.0, 2.0, 0.0}); });
+    return fileOf(made);
+}
+
+class DwgReleases : public testing::TestWithParam<Release>
+{
+};
+
+TEST_P(DwgReleases, OpenAsDrawingsThatAreSavedAsDxf)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"made.dwg"_s);
+    const QByteArray file = fileOf(madeCircles(GetParam()));
+    write(path, file);
+    ReadResult read = Drawing::open(path);
+    ASSERT_TRUE(read) << read.error.message().toStdString();
+    Drawing &drawing = *read.drawing;
+    EXPECT_TRUE(drawing.isFromDwg());
+    EXPECT_EQ(int(drawing.version()), int(GetParam()));
+    EXPECT_FALSE(drawing.readingNotes().hasFaults());
+    EXPECT_FALSE(drawing.journal().isModified());
+    EXPECT_EQ(drawing.entities().all().size(), std::size_t(circleCount));
+    EXPECT_EQ(drawing.fields(drawing.find(Handle{firstCircle})),
+              drawing.fields(readGood(drawing.toBytes())->find(Handle{firstCircle})));
+    EXPECT_AUDIT_CLEAN(drawing);
+
+    const QByteArray before = drawing.toBytes();
+    drawing.setErased(drawing.find(Handle{firstCircle}), true);
+    EXPECT_FALSE(save(drawing, path));
+    EXPECT_EQ(contents(path), file) << "a DWG file is never written";
+    drawing.journal().undo();
+    EXPECT_EQ(drawing.toBytes(), before);
+    const QString saved = folder.filePath(u"made.dxf"_s);
+    ASSERT_TRUE(save(drawing, saved));
+    EXPECT_EQ(contents(saved), before);
+    EXPECT_FALSE(isDwgFile(saved));
+    EXPECT_TRUE(isDwgFile(path));
+}
+
+INSTANTIATE_TEST_SUITE_P(Drawing, DwgReleases,
+                         testing::Values(Release::R13, Release::R14, Release::R2000, Release::R2004, Release::R2007,
+                                         Release::R2010, Release::R2013, Release::R2018),
+                         [](const auto &row) { return "AC" + std::to_string(int(row.param)); });
+
+TEST(DwgFiles, TellWhatCouldNotBeRead)
+{
+    const ReadResult read = Drawing::fromBytes(fileWithALoss());
+    ASSERT_TRUE(read);
+    const ReadingNotes &notes = read.drawing->readingNotes();
+    EXPECT_EQ(notes.summary(), u"1 object could not be read"_s);
+    EXPECT_EQ(notes.faults(10), QStringList{u"CIRCLE 43: The object ends before its values do."_s});
+    EXPECT_EQ(notes.faults(0), QStringList{u"and 1 more"_s});
+    EXPECT_EQ(read.drawing->entities().all().size(), std::size_t(circleCount));
+
+    const Recovered recovered = recoverDrawing(fileWithALoss());
+    ASSERT_TRUE(recovered);
+    EXPECT_EQ(recovered.report.dropped(), (QMap<QString, qint64>{{u"CIRCLE"_s, 1}}));
+    EXPECT_EQ(recovered.drawing->entities().all().size(), std::size_t(circleCount));
+}
+
+TEST(DwgFiles, ThatCannotBeReadAtAllAreRefused)
+{
+    for (const QByteArray &bytes : {QByteArray("AC1015......"), QByteArray("AC9999") + QByteArray(500, '\1'),
+                                    fileWithALoss().first(90), QByteArray("AC1032") + QByteArray(4096, '\0')}) {
+        const ReadResult read = Drawing::fromBytes(bytes);
+        EXPECT_FALSE(read);
+        EXPECT_TRUE(read.error.message().startsWith(u"this DWG file cannot be read: "_s))
+            << read.error.message().toStdString();
+        EXPECT_EQ(recoverDrawing(bytes).error.message(), read.error.message());
+    }
+}
+
+TEST(DwgFiles, GiveTheirRecordsAndTakeNone)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"timed.dwg"_s);
+    MadeDrawing made(Release::R2000);
+    made.addObject(xrecordType, "TIMES", [](ObjectWriter &o) {
+        o.int32(2 + 4); // bytes of one number of 32 bits under its code
+        o.values().raw16(90);
+        o.values().raw32(4711);
+        o.int16(1); // how records of other drawings are treated
+    });
+    const QByteArray file = fileOf(made);
+    write(path, file);
+    QString error;
+    const std::optional<FieldList> data = xrecordInFile(path, u"TIMES", &error);
+    ASSERT_TRUE(data) << error.toStdString();
+    EXPECT_EQ(*data, fieldsOf("90 4711"));
+    EXPECT_TRUE(setXrecordInFile(path, u"TIMES"_s, fieldsOf("90 1")).error.contains(u"cannot write DWG files"_s));
+    EXPECT_EQ(contents(path), file);
+}
+
+TEST(DwgFiles, OfOtherProgramsAreWhole)
+{
+    const QString corpus = qEnvironmentVariable("ORTAKIT_CORPUS");
+    SKIP_WITHOUT_CORPUS(!corpus.isEmpty());
+    for (const QString &folder : {corpus, corpus + u"/../dwg"_s}) {
+        for (const QString &name : QDir(folder).entryList({u"*.dwg"_s})) {
+            const ReadResult read = Drawing::open(QDir(folder).filePath(name));
+            ASSERT_TRUE(read) << name.toStdString() << ": " << read.error.message().toStdString();
+            EXPECT_EQ(read.drawing->readingNotes().faults(10), QStringList()) << name.toStdString();
+            // The same text as DXF has nothing that recovering would mend.
+            const Recovered recovered = recoverDrawing(read.drawing->toBytes());
+            EXPECT_TRUE(recovered && recovered.report.isEmpty()) << name.toStdString();
+            // The independent reader does not know what is older.
+            if (read.drawing->version() >= Version::R12)
+                EXPECT_AUDIT_CLEAN(*read.drawing);
+        }
+    }
+}
+
+} // namespace
+} // namespace host::drawing
