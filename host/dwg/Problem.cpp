@@ -8,6 +8,8 @@ std::string Problem::message() const
 {
     if (type.empty() && handle == 0)
         return text;
+    if (handle == 0)
+        return type + ": " + text;
     char digits[20];
     std::snprintf(digits, sizeof digits, "%llX", static_cast<unsigned long long>(handle));
     return (type.empty() ? "object" : type) + " " + digits + ": " + text;

@@ -22,7 +22,7 @@ struct Problem
     std::string type;         ///< of the object, as its DXF name; empty when it concerns no object
     std::uint64_t handle = 0; ///< of the object; 0 when it concerns none, or one whose handle was not read
 
-    /// "LINE 2A: text", or the text alone.
+    /// "LINE 2A: text", with what of it there is.
     std::string message() const;
 };
 

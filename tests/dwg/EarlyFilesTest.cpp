@@ -156,7 +156,7 @@ const EarlyEntityRow earlyEntityRows[] = {
     {"VIEWPORT on the ground", r12, 24, 0, 0, "1.0 2.0 4.0 5.0 w2",
      "VIEWPORT 8 0 10 1.0 20 2.0 30 0.0 40 4.0 41 5.0 68 2"},
     {"deleted", r12, 129, 0, 0, "1.0 2.0 3.0 4.0 5.0 6.0", ""},
-    {"of no type", r12, 99, 0, 0, "1.0", "", "type 99 0: Entities of this type are not read."},
+    {"of no type", r12, 99, 0, 0, "1.0", "", "type 99: Entities of this type are not read."},
 };
 
 /// A file with one record of each table.
@@ -227,13 +227,15 @@ TEST(EarlyDwg, DeletedRecordsOfTablesAreCountedAlone)
     maker.addRecord(EarlyTableKind::Layers, 1, "FROZEN", "w-3 w255");
     maker.addRecord(EarlyTableKind::Linetypes, 0, "DASHED", "\"- z47 b65 b2 1.5 1.0 -0.5 z80");
     maker.addRecord(EarlyTableKind::Linetypes, 0, "WRONG", "\"- z47 b65 b13 1.5 1.0 -0.5 z80");
+    maker.addRecord(EarlyTableKind::Styles, 0, "LONG", "0.0 1.0 0.0 b0 0.2 \"txt z126");
     const DrawingText drawing = readDrawing(maker.file());
     const TextTree tree = readTree(drawing.text);
     EXPECT_EQ(recordsOf(tree, "LAYER"), "LAYER 2 0 70 0 62 7 6 CONTINUOUS\nLAYER 2 FROZEN 70 1 62 -3 6 BYBLOCK\n");
     EXPECT_EQ(recordsOf(tree, "LTYPE"), "LTYPE 2 CONTINUOUS 70 64 3 Solid line 72 65 73 0 40 0.0\n"
                                         "LTYPE 2 DASHED 70 0 3 - 72 65 73 2 40 1.5 49 1.0 49 -0.5\n");
     EXPECT_NE(drawing.text.find("TABLE\n  2\nLAYER\n 70\n3\n"), std::string::npos);
-    EXPECT_EQ(problemsOf(drawing), "LTYPE 0: The record of a table is too short.\n");
+    EXPECT_EQ(problemsOf(drawing), "LTYPE: Its values do not fill its record.\n"
+                                   "STYLE: Its values do not fill its record.\n");
 }
 
 TEST(EarlyDwg, BlocksHaveWhatTheirTableSays)
@@ -254,7 +256,7 @@ TEST(EarlyDwg, BlocksHaveWhatTheirTableSays)
     EXPECT_EQ(recordsOf(tree, "BLOCKS"),
               "BLOCK 8 0 2 PLAN 70 4 10 1.0 20 2.0 30 3.0 3 PLAN 1 C:\\PLAN.DWG\nENDBLK 8 0\n"
               "BLOCK 8 0 2 *U1 70 1 10 0.0 20 0.0 30 0.0 3 *U\nPOINT 8 0 10 1.0 20 2.0 30 3.0\nENDBLK\n");
-    EXPECT_EQ(problemsOf(drawing), "BLOCK 0: There is no block at its place: BROKEN.\n");
+    EXPECT_EQ(problemsOf(drawing), "BLOCK: There is no block at its place: BROKEN.\n");
 }
 
 TEST(EarlyDwg, JumpsAreFollowedAndRingsEnd)
@@ -279,6 +281,25 @@ TEST(EarlyDwg, JumpsAreFollowedAndRingsEnd)
         outside.addJump(0x7fffffff, 0);
         EXPECT_EQ(readDrawing(outside.file()).problems.lostCount(), 1u);
     }
+}
+
+TEST(EarlyDwg, EntitiesMayStandBehindEverything)
+{
+    EarlyFileMaker maker = makerWithTables(r9);
+    maker.addEntity(3, 0, 0, "1.0 0.0 1.0");
+    EarlyFileMaker::File file = maker.file();
+    const DrawingText there = readDrawing(file);
+    const std::size_t end = file.size();
+    const EarlyFileMaker::File entity(file.begin() + static_cast<std::ptrdiff_t>(maker.entitiesBegin()),
+                                      file.begin() + static_cast<std::ptrdiff_t>(maker.entitiesBegin()) + 32);
+    file.insert(file.end(), entity.begin(), entity.end());
+    for (int i = 0; i < 4; ++i) {
+        file[std::size_t(0x14 + i)] = static_cast<std::uint8_t>(end >> 8 * i);
+        file[std::size_t(0x18 + i)] = static_cast<std::uint8_t>(file.size() >> 8 * i);
+    }
+    const DrawingText behind = readDrawing(file);
+    EXPECT_EQ(behind.text, there.text);
+    EXPECT_EQ(problemsOf(behind), "");
 }
 
 TEST(EarlyDwg, TheHeaderHasWhatItsReleaseHas)
@@ -308,7 +329,7 @@ TEST(EarlyDwg, ChecksumsThatDoNotFitAreTold)
         return problemsOf(readDrawing(file));
     };
     EXPECT_EQ(problemsWith(0x70), "The checksum of the header does not fit.\n");
-    EXPECT_EQ(problemsWith(maker.entitiesBegin() + 9), "CIRCLE 0: The checksum does not fit.\n");
+    EXPECT_EQ(problemsWith(maker.entitiesBegin() + 9), "CIRCLE: The checksum does not fit.\n");
     EXPECT_EQ(problemsWith(maker.entitiesBegin() + 34 + 8), "A checksum of the table BLOCK does not fit.\n");
 }
 

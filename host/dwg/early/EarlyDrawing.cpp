@@ -48,6 +48,8 @@ public:
 
     void run()
     {
+        if (m_file.release < Release::R9)
+            m_problems.warn("The file is of a release before R9, and read by the layout of R9.");
         writeEarlyHeader(m_file, m_names, m_text);
         writeEarlyTables(m_file, m_names, m_text, m_problems);
         beginSection("BLOCKS");

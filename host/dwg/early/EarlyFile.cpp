@@ -11,10 +11,21 @@ namespace {
 constexpr std::size_t checksumSize = 2;
 /// Sections of R11 and R12 stand between two rows of bytes that are the same in every file, and no part of them.
 constexpr std::size_t earlyMarkSize = 16;
-constexpr std::size_t firstTableHead = 0x2c;
 constexpr std::size_t tableHeadSize = 10;
 /// Flags and a name.
 constexpr std::size_t leastTableRecord = 33;
+
+struct EarlyTableHead
+{
+    std::size_t at;
+    Release first;
+};
+
+/// In the order of EarlyTableKind.
+constexpr EarlyTableHead earlyTableHeads[static_cast<std::size_t>(EarlyTableKind::Count)] = {
+    {0x2c, Release::R25},  {0x36, Release::R25},  {0x40, Release::R25},  {0x4a, Release::R25},  {0x54, Release::R25},
+    {0x3ef, Release::R10}, {0x500, Release::R10}, {0x512, Release::R12}, {0x522, Release::R12},
+};
 
 std::uint32_t earlyNumber(Bytes bytes, std::size_t at)
 {
@@ -83,19 +94,10 @@ EarlyFile openEarlyFile(Bytes bytes, Release release, Problems &problems)
             problems.warn("The checksum of the header does not fit.");
         file.variablesEnd -= std::min(file.variablesEnd, checksumSize);
     }
-    constexpr std::array<std::size_t, static_cast<std::size_t>(EarlyTableKind::Count)> heads = {
-        firstTableHead,
-        firstTableHead + tableHeadSize,
-        firstTableHead + 2 * tableHeadSize,
-        firstTableHead + 3 * tableHeadSize,
-        firstTableHead + 4 * tableHeadSize,
-        0x3ef,
-        0x500,
-        0x512,
-        0x522};
-    for (std::size_t i = 0; i < heads.size(); ++i) {
-        if (heads[i] + tableHeadSize <= file.variablesEnd)
-            file.tables[i] = earlyTableAt(bytes, heads[i], problems);
+    for (std::size_t i = 0; i < file.tables.size(); ++i) {
+        const EarlyTableHead &head = earlyTableHeads[i];
+        if (release >= head.first && head.at + tableHeadSize <= file.variablesEnd)
+            file.tables[i] = earlyTableAt(bytes, head.at, problems);
     }
     return file;
 }

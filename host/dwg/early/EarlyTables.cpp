@@ -232,8 +232,8 @@ private:
         EarlyTableFields fields{m_fields, m_names};
         if (row.read)
             row.read(fields);
-        if (m_fields.hasFailed())
-            m_problems.add({Problem::Kind::Lost, "The record of a table is too short.", row.name, 0});
+        if (m_fields.hasFailed() || m_fields.values().left() != 0)
+            m_problems.add({Problem::Kind::Lost, "Its values do not fill its record.", row.name, 0});
         else
             m_fields.write(m_text);
     }
