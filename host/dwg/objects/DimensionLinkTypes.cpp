@@ -7,7 +7,7 @@ namespace {
 /// Names of objects in other drawings, which lead through them to the one that is meant.
 void readPath(Fields &f, int code)
 {
-    const std::size_t count = f.count(2);
+    const std::size_t count = f.textCount();
     for (std::size_t i = 0; i < count && !f.hasFailed(); ++i)
         f.text(code);
 }

@@ -358,6 +358,13 @@ void Fields::moveRange(std::size_t from, std::size_t end, std::size_t to)
     std::rotate(at(to), at(from), at(end));
 }
 
+void Fields::repeat(std::size_t from, std::size_t end)
+{
+    m_notes.reserve(m_notes.size() + (end - from));
+    for (std::size_t i = from; i < end; ++i)
+        m_notes.push_back(m_notes[i]);
+}
+
 void Fields::write(std::string &lines, std::size_t from, std::size_t end) const
 {
     for (std::size_t i = from; i < end; ++i) {

@@ -91,6 +91,11 @@ public:
     /// many.
     std::size_t count(std::size_t bits = 1) { return checkedCount(m_values.longInteger(), bits, m_values); }
     std::size_t smallCount(std::size_t bits = 1) { return checkedCount(m_values.shortInteger(), bits, m_values); }
+    /// The same for texts, which stand among the values or apart.
+    std::size_t textCount()
+    {
+        return checkedCount(m_values.longInteger(), 2, since(Release::R2007) ? m_texts : m_values);
+    }
     std::size_t checkedCount(std::int64_t count, std::size_t bits, BitReader &reader);
 
     // The same, noted under a group code; each returns the value.
@@ -181,6 +186,8 @@ public:
     void moveForward(std::size_t from, std::size_t to);
     /// Moves the tags from `from` to before `end` in front of the one at `to`, which stands in front of them.
     void moveRange(std::size_t from, std::size_t end, std::size_t to);
+    /// Notes the tags from `from` to before `end` once more.
+    void repeat(std::size_t from, std::size_t end);
     /// Takes back what was noted from there on.
     void drop(std::size_t from) { m_notes.resize(from); }
     /// Gives all tags, in order, to `take`: code and value.

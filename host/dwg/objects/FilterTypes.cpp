@@ -34,7 +34,7 @@ void readLayerFilter(Fields &f)
 {
     f.subclass("AcDbFilter");
     f.subclass("AcDbLayerFilter");
-    const std::size_t count = f.count(2);
+    const std::size_t count = f.textCount();
     for (std::size_t i = 0; i < count && !f.hasFailed(); ++i)
         f.text(8);
 }
@@ -52,7 +52,7 @@ void readLayerIndex(Fields &f)
 {
     readIndex(f);
     f.subclass("AcDbLayerIndex");
-    const std::size_t count = f.count(4);
+    const std::size_t count = f.count(2);
     for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
         const int entries = f.int32();
         f.text(8);

@@ -1,5 +1,4 @@
 #include "host/dwg/objects/TableContent.h"
-#include "host/dwg/objects/TableFormat.h"
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
@@ -23,15 +22,16 @@ void readCustomData(Fields &f)
 }
 
 /// The format between the lines around it that name what has it.
-void readNamedFormat(Fields &f, const char *name, const char *begin, const char *end)
+TableFormat readNamedFormat(Fields &f, const char *name, const char *begin, const char *end)
 {
     f.note(1, begin);
     f.note(300, name);
-    readTableFormat(f);
+    TableFormat format = readTableFormat(f);
     f.note(309, end);
+    return format;
 }
 
-void readColumn(Fields &f)
+double readColumn(Fields &f)
 {
     f.note(300, "COLUMN");
     f.note(1, "LINKEDTABLEDATACOLUMN_BEGIN");
@@ -41,13 +41,14 @@ void readColumn(Fields &f)
     readNamedFormat(f, "COLUMNTABLEFORMAT", "FORMATTEDTABLEDATACOLUMN_BEGIN", "FORMATTEDTABLEDATACOLUMN_END");
     f.note(1, "TABLECOLUMN_BEGIN");
     f.int32(90);
-    f.real(40);
+    const double width = f.real(40);
     f.note(309, "TABLECOLUMN_END");
+    return width;
 }
 
 void readContentAttributes(Fields &f)
 {
-    const std::size_t count = f.count(4);
+    const std::size_t count = f.count(2);
     f.note(91, count);
     for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
         f.reference(330);
@@ -56,22 +57,19 @@ void readContentAttributes(Fields &f)
     }
 }
 
-void readContent(Fields &f)
+TableCell readContent(Fields &f)
 {
-    enum Kind
-    {
-        Value = 1,
-        FieldKind = 2,
-        Block = 4
-    };
+    TableCell cell;
     f.note(302, "CONTENT");
     f.note(1, "CELLCONTENT_BEGIN");
-    const int kind = f.int32(90);
-    if (kind == Value) {
+    cell.kind = f.int32(90);
+    if (cell.kind == TableCell::Value) {
         f.note(300, "VALUE");
+        cell.value = f.mark();
         readCellValue(f);
-    } else if (kind == FieldKind || kind == Block) {
-        f.reference(340);
+        cell.valueEnd = f.mark();
+    } else if (cell.kind == TableCell::FieldText || cell.kind == TableCell::Block) {
+        cell.object = f.reference(340);
     }
     readContentAttributes(f);
     f.note(309, "CELLCONTENT_END");
@@ -79,7 +77,9 @@ void readContent(Fields &f)
     TableFormat format;
     if (f.int16(170) != 0)
         readContentFormat(f, format);
+    cell.content = format;
     f.note(309, "FORMATTEDCELLCONTENT_END");
+    return cell;
 }
 
 /// Where the data of a cell comes from.
@@ -104,8 +104,9 @@ void readCellGeometry(Fields &f)
     f.reference(330);
 }
 
-void readCell(Fields &f)
+TableCell readCell(Fields &f)
 {
+    TableCell cell;
     f.note(300, "CELL");
     f.note(1, "LINKEDTABLEDATACELL_BEGIN");
     f.int32(90);
@@ -115,50 +116,52 @@ void readCell(Fields &f)
     const std::size_t contents = f.count(4);
     f.note(95, contents);
     for (std::size_t i = 0; i < contents && !f.hasFailed(); ++i)
-        readContent(f);
+        cell = readContent(f);
     f.note(309, "LINKEDTABLEDATACELL_END");
-    readNamedFormat(f, "CELLTABLEFORMAT", "FORMATTEDTABLEDATACELL_BEGIN", "FORMATTEDTABLEDATACELL_END");
+    cell.format = readNamedFormat(f, "CELLTABLEFORMAT", "FORMATTEDTABLEDATACELL_BEGIN", "FORMATTEDTABLEDATACELL_END");
     f.note(1, "TABLECELL_BEGIN");
     f.int32(90);
     readCellGeometry(f);
     f.note(309, "TABLECELL_END");
+    return cell;
 }
 
-void readRow(Fields &f)
+double readRow(Fields &f, std::vector<TableCell> &row)
 {
     f.note(301, "ROW");
     f.note(1, "LINKEDTABLEDATAROW_BEGIN");
     const std::size_t cells = f.count(8);
     f.note(90, cells);
     for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i)
-        readCell(f);
+        row.push_back(readCell(f));
     readCustomData(f);
     f.note(309, "LINKEDTABLEDATAROW_END");
     readNamedFormat(f, "ROWTABLEFORMAT", "FORMATTEDTABLEDATAROW_BEGIN", "FORMATTEDTABLEDATAROW_END");
     f.note(1, "TABLEROW_BEGIN");
     f.int32(90);
-    f.real(40);
+    const double height = f.real(40);
     f.note(309, "TABLEROW_END");
+    return height;
 }
 
-void readLinkedTable(Fields &f)
+void readLinkedTable(Fields &f, TableContent &table)
 {
     f.subclass("AcDbLinkedTableData");
     const std::size_t columns = f.count(8);
     f.note(90, columns);
     for (std::size_t i = 0; i < columns && !f.hasFailed(); ++i)
-        readColumn(f);
+        table.widths.push_back(readColumn(f));
     const std::size_t rows = f.count(8);
     f.note(91, rows);
     for (std::size_t i = 0; i < rows && !f.hasFailed(); ++i)
-        readRow(f);
+        table.heights.push_back(readRow(f, table.rows.emplace_back()));
     const std::size_t fields = f.checkedCount(f.int32(), 8, f.references());
     f.note(92, fields);
     for (std::size_t i = 0; i < fields; ++i)
         f.reference(340);
 }
 
-void readFormattedTable(Fields &f)
+void readFormattedTable(Fields &f, TableContent &table)
 {
     f.subclass("AcDbFormattedTableData");
     f.note(300, "TABLEFORMAT");
@@ -166,8 +169,10 @@ void readFormattedTable(Fields &f)
     const std::size_t merged = f.count(8);
     f.note(90, merged);
     for (std::size_t i = 0; i < merged; ++i) {
-        for (int code = 91; code <= 94; ++code)
-            f.int32(code);
+        const int top = f.int32(91);
+        const int left = f.int32(92);
+        const int bottom = f.int32(93);
+        table.merged.push_back({top, left, bottom, f.int32(94)});
     }
 }
 
@@ -199,23 +204,30 @@ void readTableGeometry(Fields &f)
     }
 }
 
+void readContentObject(Fields &f)
+{
+    readTableContent(f);
+}
+
 } // namespace
 
-void readTableContent(Fields &f)
+TableContent readTableContent(Fields &f)
 {
+    TableContent table;
     f.subclass("AcDbLinkedData");
     f.text(1);
     f.text(300);
-    readLinkedTable(f);
-    readFormattedTable(f);
+    readLinkedTable(f, table);
+    readFormattedTable(f, table);
     f.subclass("AcDbTableContent");
-    f.reference(340);
+    table.style = f.reference(340);
+    return table;
 }
 
 std::span<const ObjectType> tableContentTypes()
 {
     static constexpr ObjectType rows[] = {
-        {0, "TABLECONTENT", readTableContent},
+        {0, "TABLECONTENT", readContentObject},
         {0, "TABLEGEOMETRY", readTableGeometry},
     };
     return rows;

@@ -1,6 +1,8 @@
 #include "host/dwg/objects/InsertTypes.h"
-#include "host/dwg/objects/TableFormat.h"
+#include "host/dwg/objects/TableContent.h"
 #include "host/dwg/objects/TypeTable.h"
+
+#include <cmath>
 
 namespace host::dwg {
 
@@ -106,7 +108,7 @@ void readBlockInCell(Fields &f)
     f.real(144);
     if (!f.flag())
         return;
-    const std::size_t count = f.smallCount(4);
+    const std::size_t count = f.smallCount(2);
     f.note(179, count);
     for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
         f.reference(331);
@@ -115,7 +117,7 @@ void readBlockInCell(Fields &f)
     }
 }
 
-void readEntityCell(Fields &f)
+void readEarlyCell(Fields &f)
 {
     constexpr int textCell = 1;
     const int kind = f.int16(171);
@@ -153,7 +155,7 @@ void readCells(Fields &f, std::size_t columns, std::size_t rows)
     constexpr std::size_t leastOfACell = 16;
     const std::size_t cells = f.checkedCount(static_cast<std::int64_t>(columns * rows), leastOfACell, f.values());
     for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i)
-        readEntityCell(f);
+        readEarlyCell(f);
 }
 
 /// Up to R2007, where the table has its cells itself.
@@ -182,6 +184,156 @@ void readEarlyTable(Fields &f, std::uint64_t block)
     f.moveForward(overrides, sizes);
 }
 
+// From R2010 on the table has its content in the new form; the text form has the old one still.
+
+/// Whether the cell is part of merged cells, and if it is the first of them how many they are.
+struct Merging
+{
+    bool isHidden = false;
+    int columns = 1;
+    int rows = 1;
+};
+
+using MergingRows = std::vector<std::vector<Merging>>;
+
+/// Hides the cells behind the first one; ends at one that is merged already, so that each is looked at once.
+void mergeCells(MergingRows &rows, const MergedCells &cells)
+{
+    const auto at = [](int number) { return static_cast<std::size_t>(number); };
+    if (cells.top < 0 || cells.left < 0 || cells.bottom < cells.top || cells.right < cells.left ||
+        at(cells.bottom) >= rows.size())
+        return;
+    for (int row = cells.top; row <= cells.bottom; ++row) {
+        for (int column = cells.left; column <= cells.right; ++column) {
+            if (at(column) >= rows[at(row)].size() || rows[at(row)][at(column)].isHidden)
+                return;
+            rows[at(row)][at(column)].isHidden = true;
+        }
+    }
+    rows[at(cells.top)][at(cells.left)] = {false, cells.right - cells.left + 1, cells.bottom - cells.top + 1};
+}
+
+MergingRows mergingOf(const TableContent &table)
+{
+    MergingRows rows;
+    for (const std::vector<TableCell> &row : table.rows)
+        rows.emplace_back(row.size());
+    for (const MergedCells &cells : table.merged)
+        mergeCells(rows, cells);
+    return rows;
+}
+
+void noteNoValue(Fields &f)
+{
+    f.note(93, 3);
+    f.note(90, 0);
+    f.note(91, 0);
+    f.note(94, 0);
+    f.note(300, "");
+    f.note(302, "");
+    f.note(304, "ACVALUE_END");
+}
+
+void noteCell(Fields &f, const TableCell &cell, const Merging &merging)
+{
+    const bool isBlock = cell.kind == TableCell::Block;
+    const int automatic = cell.content.flags & cell.content.properties & ContentFormat::automaticScaleBit;
+    const bool isAligned = (cell.format.flags & ContentFormat::alignmentBit) != 0;
+    f.note(171, isBlock ? 2 : 1);
+    f.note(172, 0);
+    f.note(173, merging.isHidden);
+    f.note(174, isBlock && automatic != 0);
+    f.note(175, merging.columns);
+    f.note(176, merging.rows);
+    f.note(91, isAligned ? 1 : 0);
+    f.note(178, 0);
+    f.note(145, cell.content.rotation);
+    if (isBlock) {
+        f.noteHandle(340, cell.object);
+        f.note(144, cell.content.scale);
+    } else if (cell.object != 0) {
+        f.noteHandle(344, cell.object);
+    }
+    if (isAligned)
+        f.note(170, cell.format.alignment);
+    f.note(92, 0);
+    f.note(301, "CELL_VALUE");
+    if (cell.valueEnd > cell.value)
+        f.repeat(cell.value, cell.valueEnd);
+    else
+        noteNoValue(f);
+}
+
+void noteTable(Fields &f, const TableContent &table, std::uint64_t block, Point direction)
+{
+    f.noteHandle(342, table.style);
+    f.noteHandle(343, block);
+    f.note(11, direction);
+    f.note(90, 22);
+    f.note(91, table.heights.size());
+    f.note(92, table.widths.size());
+    for (int code = 93; code <= 96; ++code)
+        f.note(code, 0);
+    for (const double height : table.heights)
+        f.note(141, height);
+    for (const double width : table.widths)
+        f.note(142, width);
+    const MergingRows merging = mergingOf(table);
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+        for (std::size_t column = 0; column < table.rows[row].size(); ++column)
+            noteCell(f, table.rows[row][column], merging[row][column]);
+    }
+}
+
+/// Where a long table is cut into parts that stand side by side.
+void skipBreaks(Fields &f)
+{
+    constexpr int isBroken = 1;
+    if (f.int32() == isBroken) {
+        f.int32();
+        f.int32();
+        f.real();
+        f.int32();
+        f.int32();
+        const std::size_t places = f.count(10);
+        for (std::size_t i = 0; i < places; ++i) {
+            f.point();
+            f.real();
+            f.int32();
+        }
+    }
+    const std::size_t parts = f.count(10);
+    for (std::size_t i = 0; i < parts; ++i) {
+        f.point();
+        f.int32();
+        f.int32();
+    }
+}
+
+void readLateTable(Fields &f, std::uint64_t block)
+{
+    f.small();
+    f.reference();
+    f.int32();
+    if (f.since(Release::R2013))
+        f.int32();
+    else
+        f.flag();
+    const std::size_t begin = f.mark();
+    const TableContent table = readTableContent(f);
+    const std::size_t end = f.mark();
+    f.int16();
+    const Point direction = f.point();
+    skipBreaks(f);
+    const bool isDirection = std::abs(std::hypot(direction.x, direction.y, direction.z) - 1.0) < 1e-6;
+    if (f.hasFailed() || !isDirection)
+        return f.fail();
+    noteTable(f, table, block, direction);
+    const std::size_t count = f.mark() - end;
+    f.moveForward(end, begin);
+    f.drop(begin + count);
+}
+
 void readTable(Fields &f)
 {
     BitReader next = f.references();
@@ -191,7 +343,7 @@ void readTable(Fields &f)
     if (f.until(Release::R2007))
         readEarlyTable(f, block);
     else
-        f.fail();
+        readLateTable(f, block);
 }
 
 } // namespace

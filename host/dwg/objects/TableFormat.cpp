@@ -48,13 +48,13 @@ void readContentFormat(Fields &f, TableFormat &format)
 {
     f.note(300, "CONTENTFORMAT");
     f.note(1, "CONTENTFORMAT_BEGIN");
-    f.int32(90);
-    f.int32(91);
+    format.flags = f.int32(90);
+    format.properties = f.int32(91);
     format.dataKind = f.int32(92);
     format.unit = f.int32(93);
     format.format = f.text(300);
-    f.real(40);
-    f.real(140);
+    format.rotation = f.real(40);
+    format.scale = f.real(140);
     format.alignment = f.int32(94);
     format.colour = readFormatColour(f);
     format.textStyle = f.reference(340);

@@ -6,8 +6,22 @@
 
 namespace host::dwg {
 
+/// What the older form of a table has of the format of a cell's content.
+struct ContentFormat
+{
+    /// Bits of `flags`, which says what differs from the style, and of `properties`.
+    static constexpr int alignmentBit = 0x10;
+    static constexpr int automaticScaleBit = 0x100;
+
+    int flags = 0;
+    int properties = 0;
+    double rotation = 0.0;
+    double scale = 1.0;
+    int alignment = 0;
+};
+
 /// What the older form of a table style has of a cell's format; the usual values where the file says nothing.
-struct TableFormat
+struct TableFormat : ContentFormat
 {
     struct Border
     {
@@ -21,7 +35,6 @@ struct TableFormat
 
     std::uint64_t textStyle = 0;
     double height = 0.0;
-    int alignment = 0;
     NotedColour colour;
     NotedColour fill;
     int dataKind = 0;

@@ -16,7 +16,7 @@ struct AllTypes
               imageTypes(),        multiLineTypes(),   tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
               layoutTypes(),       materialTypes(),    visualStyleTypes(), styleTypes(),          tableStyleTypes(),
               tableContentTypes(), tableEntityTypes(), fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
-              filterTypes()}) {
+              filterTypes(),       evaluationTypes(),  associativeTypes()}) {
             for (const ObjectType &row : rows) {
                 if (row.number != 0)
                     byNumber.emplace(row.number, &row);

@@ -46,6 +46,8 @@ std::span<const ObjectType> tableEntityTypes();
 std::span<const ObjectType> fieldTypes();
 std::span<const ObjectType> dimensionLinkTypes(); ///< what dimensions follow
 std::span<const ObjectType> lightTypes();
-std::span<const ObjectType> filterTypes(); ///< clips of inserts, filters and indexes
+std::span<const ObjectType> filterTypes();      ///< clips of inserts, filters and indexes
+std::span<const ObjectType> evaluationTypes();  ///< what blocks and solids are worked out from
+std::span<const ObjectType> associativeTypes(); ///< what follows other objects
 
 } // namespace host::dwg
