@@ -1,5 +1,6 @@
 #include "host/dwg/drawing/RecordWriter.h"
 
+#include "host/dwg/objects/ParagraphTypes.h"
 #include "host/dwg/objects/ProxyTypes.h"
 
 namespace host::dwg {
@@ -30,6 +31,19 @@ std::string tagLines(int code, std::string_view value)
 RecordWriter::RecordWriter(DrawingObjects &objects, std::string &text)
     : m_objects(objects), m_text(text), m_fields(objects.release(), m_names), m_head({})
 {
+    m_fields.setAskSize([this](std::uint64_t handle) { return sizeOfText(handle); });
+}
+
+std::optional<TextSize> RecordWriter::sizeOfText(std::uint64_t handle) const
+{
+    constexpr int paragraphsType = 0x2c;
+    const auto frame = m_objects.peek(handle);
+    if (!frame || frame->type != paragraphsType)
+        return std::nullopt;
+    Fields fields(m_objects.release(), m_names);
+    ObjectHead({}).read(*frame, true, fields);
+    const TextSize size = readParagraphSize(fields);
+    return fields.hasFailed() ? std::nullopt : std::optional(size);
 }
 
 void RecordWriter::setSpaces(const ObjectHead::Spaces &spaces)

@@ -56,6 +56,7 @@ private:
     bool writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type);
     bool writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity);
     bool writeUnlessFailed();
+    std::optional<TextSize> sizeOfText(std::uint64_t handle) const;
 
     DrawingObjects &m_objects;
     std::string &m_text;

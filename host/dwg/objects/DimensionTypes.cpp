@@ -301,6 +301,11 @@ void readLeader(Fields &f)
     }
     const std::uint64_t annotation = f.reference();
     f.name(3);
+    // Later files have the size of its text with the text alone.
+    if (const auto size = f.since(Release::R2010) ? f.sizeOf(annotation) : std::nullopt) {
+        f.note(40, size->height);
+        f.note(41, size->width);
+    }
     f.arrange(begin, {3, 71, 72, 73, 74, 40, 41, 76});
     for (const Point &point : points)
         f.note(10, point);

@@ -3,6 +3,7 @@
 #include "host/dwg/bits/BitReader.h"
 
 #include <algorithm>
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
@@ -32,6 +33,13 @@ struct Relations
     bool hasList = false; ///< attributes or vertices follow
 };
 
+/// What a text takes up when it is drawn.
+struct TextSize
+{
+    double height = 0.0;
+    double width = 0.0;
+};
+
 /// A colour of R2004 and later.
 struct NotedColour
 {
@@ -58,6 +66,12 @@ public:
     };
 
     Fields(Release release, const Names &names) : m_release(release), m_names(names) {}
+
+    /// Asks another object for its size; nothing where it is no text of paragraphs.
+    using AskSize = std::function<std::optional<TextSize>(std::uint64_t)>;
+    /// Where sizeOf() asks. Without it no object has a size.
+    void setAskSize(AskSize ask) { m_askSize = std::move(ask); }
+    std::optional<TextSize> sizeOf(std::uint64_t text) const { return m_askSize ? m_askSize(text) : std::nullopt; }
 
     /// Begins another object; keeps the room that the last one took.
     void start(BitReader values, BitReader texts, BitReader references);
@@ -219,6 +233,7 @@ private:
 
     Release m_release;
     const Names &m_names;
+    AskSize m_askSize;
     BitReader m_values;
     BitReader m_texts;
     BitReader m_references;

@@ -62,7 +62,7 @@ void readColumns(Fields &f)
         readColumnSizes(f, columns);
 }
 
-void readParagraphs(Fields &f)
+TextSize readParagraphs(Fields &f)
 {
     const std::size_t begin = f.mark();
     f.point(10);
@@ -74,8 +74,9 @@ void readParagraphs(Fields &f)
     f.real(40);
     f.int16(71);
     f.int16(72);
-    f.real(); // its extents, which are worked out again
-    f.real();
+    TextSize size; // which the text form has for leaders alone
+    size.height = f.real();
+    size.width = f.real();
     const std::string text = f.text();
     f.noteLong(1, 3, text);
     if (f.since(Release::R2000)) {
@@ -96,6 +97,7 @@ void readParagraphs(Fields &f)
               {10, 20, 30, 40, 41, 46, 71, 72, 3, 1, 7, 210, 220, 230, 11, 21, 31, 73, 44, 90, 63, 421, 431, 45, 441});
     if (f.since(Release::R2018))
         readColumns(f);
+    return size;
 }
 
 void readMText(Fields &f)
@@ -147,6 +149,11 @@ void readEmbeddedParagraphs(Fields &f)
     f.values().rawBytes(size);
     f.reference();
     f.int16();
+}
+
+TextSize readParagraphSize(Fields &f)
+{
+    return readParagraphs(f);
 }
 
 std::span<const ObjectType> paragraphTypes()

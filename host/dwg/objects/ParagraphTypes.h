@@ -8,4 +8,7 @@ namespace host::dwg {
 /// the attribute's own tags: group 101 and the groups of MTEXT without those of entities.
 void readEmbeddedParagraphs(Fields &fields);
 
+/// Reads a text of paragraphs, whose head was read, for its size alone.
+TextSize readParagraphSize(Fields &fields);
+
 } // namespace host::dwg
