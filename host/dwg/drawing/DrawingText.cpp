@@ -22,6 +22,7 @@ void writeDrawing(const Container &container, DrawingText &result)
     writeBlocksSection(parts);
     writeEntitiesSection(parts);
     writeObjectsSection(parts);
+    writeDataSection(parts);
     parts.records.beginRecord("EOF");
 }
 

@@ -38,5 +38,7 @@ void writeBlocksSection(DrawingParts &parts);
 void writeEntitiesSection(DrawingParts &parts);
 /// What no other section has: from the dictionary of named objects on, then what nobody refers to.
 void writeObjectsSection(DrawingParts &parts);
+/// What objects keep outside themselves, from R2013 on; nothing where the file has none of it.
+void writeDataSection(DrawingParts &parts);
 
 } // namespace host::dwg
