@@ -3,6 +3,7 @@
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Interpreter.h"
 #include "tests/app/SampleBox.h"
+#include "tests/dwg/making/Circles.h"
 #include "tests/support/Texts.h"
 
 #include <QDir>
@@ -14,6 +15,12 @@
 using namespace Qt::StringLiterals;
 
 namespace host::app::test {
+
+QByteArray dwgFile(int whole, int damaged)
+{
+    const dwg::test::FileBytes file = dwg::test::circlesFile(dwg::Release::R2010, whole, damaged);
+    return {reinterpret_cast<const char *>(file.data()), qsizetype(file.size())};
+}
 
 QByteArray smallDrawing()
 {

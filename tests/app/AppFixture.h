@@ -12,6 +12,9 @@ namespace host::app::test {
 /// The text of a small drawing: a LINE (handle 2A) from 0,0 to 10,0, a CIRCLE (2B) and a LINE (2C).
 QByteArray smallDrawing();
 
+/// A DWG file with circles, some of which cannot be read.
+QByteArray dwgFile(int whole, int damaged = 0);
+
 /// A folder of the test's own. Names are relative to it; files are made with the folders they lie in.
 struct TestFolder
 {

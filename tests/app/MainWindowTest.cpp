@@ -19,6 +19,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -915,6 +916,39 @@ TEST_F(MainWindowTest, RecordsASessionThatPlays)
     EXPECT_TRUE(played.ok) << played.message.toStdString();
     EXPECT_EQ(lisp(everything), drawn);
     EXPECT_TRUE(drawn.contains(u"(40 . 5.0)"_s)) << drawn.toStdString();
+}
+
+TEST_F(MainWindowTest, DwgFilesOpenWithWhatCouldNotBeReadAboveThem)
+{
+    auto *bar = window->findChild<QWidget *>(u"lossBar"_s);
+    ASSERT_TRUE(bar && !bar->isVisible());
+    const QByteArray file = dwgFile(2, 1);
+    window->start({write(u"hurt.dwg"_s, file)});
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(bar->findChild<QLabel *>(u"lossText"_s)->text(), u"hurt.dwg: 1 object could not be read."_s);
+    auto *list = bar->findChild<QListWidget *>(u"lossList"_s);
+    EXPECT_FALSE(list->isVisible());
+    bar->findChild<QAbstractButton *>(u"lossDetails"_s)->click();
+    ASSERT_TRUE(list->isVisible() && list->count() == 1);
+    EXPECT_EQ(list->item(0)->text(), u"CIRCLE 42: The object ends before its values do."_s);
+    window->workbench().documents().create();
+    EXPECT_FALSE(bar->isVisible());
+
+    window->tabs().setCurrentIndex(window->tabs().count() - 2);
+    lisp(u"(command \"_.LINE\" \"0,0\" \"1,1\" \"\")"_s);
+    ortakit::test::ModalAnswers answers;
+    answers.drive([](QWidget *box) {
+        const auto buttons = box->findChildren<QAbstractButton *>();
+        const auto isOtherName = [](const QAbstractButton *button) { return button->text().contains(u"another"_s); };
+        (*std::ranges::find_if(buttons, isOtherName))->click();
+    });
+    answers.choose(path(u"saved.dxf"_s));
+    window->findChild<QAction *>(u"save"_s)->trigger();
+    EXPECT_TRUE(answers.isDone());
+    EXPECT_EQ(read(u"hurt.dwg"_s), file);
+    EXPECT_EQ(read(u"saved.dxf"_s).count("\nCIRCLE\n"), 2);
+    EXPECT_EQ(window->document()->title(), u"saved.dxf"_s);
+    EXPECT_FALSE(window->document()->isModified());
 }
 
 TEST_F(MainWindowTest, WhatWasKeptBackStandsAboveTheDrawingAndCanBeAllowed)

@@ -109,6 +109,8 @@ struct ProgramTest : testing::Test, TestFolder
         write(u"solid.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n3DSOLID\n"));
         write(u"broken.dxf"_s, "0\nSECTION\n2\nENT");
         write(u"damaged.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nCIRCLE\nrubbish\n"));
+        write(u"made.dwg"_s, dwgFile(2));
+        write(u"hurt.dwg"_s, dwgFile(2, 1));
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
         write(u"sub/remote.dxf"_s,
               QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));

@@ -8,6 +8,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
+#include "tests/dwg/making/Circles.h"
 #include "tests/dwg/making/MadeDrawing.h"
 
 #include <QDir>
@@ -23,40 +24,18 @@ using dwg::Release;
 using dwg::test::MadeDrawing;
 using dwg::test::ObjectWriter;
 
-constexpr int circleType = 0x12;
-constexpr int lineType = 0x13;
 constexpr int xrecordType = 0x4f;
 constexpr quint64 firstCircle = dwg::test::MadeHandles::First;
 constexpr int circleCount = 3;
 
-void writeMadeCircle(ObjectWriter &o)
+QByteArray bytesOf(const dwg::test::FileBytes &file)
 {
-    o.point({1.0, 2.0, 0.0});
-    o.real(5.0);
-    o.thickness(0.0);
-    o.extrusion();
+    return {reinterpret_cast<const char *>(file.data()), qsizetype(file.size())};
 }
 
-MadeDrawing madeCircles(Release release)
-{
-    MadeDrawing made(release);
-    for (int i = 0; i < circleCount; ++i)
-        made.addEntity(circleType, writeMadeCircle);
-    return made;
-}
-
-QByteArray fileOf(const MadeDrawing &made)
-{
-    const dwg::test::FileBytes bytes = made.file();
-    return {reinterpret_cast<const char *>(bytes.data()), qsizetype(bytes.size())};
-}
-
-/// A file whose second circle ends before its values do.
 QByteArray fileWithALoss()
 {
-    MadeDrawing made = madeCircles(Release::R2000);
-    made.addEntity(circleType, [](ObjectWriter &o) { o.point({1.0, 2.0, 0.0}); });
-    return fileOf(made);
+    return bytesOf(dwg::test::circlesFile(Release::R2000, circleCount, 1));
 }
 
 class DwgReleases : public testing::TestWithParam<Release>
@@ -67,7 +46,7 @@ TEST_P(DwgReleases, OpenAsDrawingsThatAreSavedAsDxf)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"made.dwg"_s);
-    const QByteArray file = fileOf(madeCircles(GetParam()));
+    const QByteArray file = bytesOf(dwg::test::circlesFile(GetParam(), circleCount));
     write(path, file);
     ReadResult read = Drawing::open(path);
     ASSERT_TRUE(read) << read.error.message().toStdString();
@@ -138,7 +117,7 @@ TEST(DwgFiles, GiveTheirRecordsAndTakeNone)
         o.values().raw32(4711);
         o.int16(1); // how records of other drawings are treated
     });
-    const QByteArray file = fileOf(made);
+    const QByteArray file = bytesOf(made.file());
     write(path, file);
     QString error;
     const std::optional<FieldList> data = xrecordInFile(path, u"TIMES", &error);

@@ -1,0 +1,23 @@
+#include "tests/dwg/making/Circles.h"
+
+#include "tests/dwg/making/MadeDrawing.h"
+
+namespace host::dwg::test {
+
+FileBytes circlesFile(Release release, int whole, int damaged)
+{
+    constexpr int circle = 0x12;
+    MadeDrawing drawing(release);
+    for (int i = 0; i < whole + damaged; ++i)
+        drawing.addEntity(circle, [isWhole = i < whole](ObjectWriter &o) {
+            o.point({1.0, 2.0, 0.0});
+            if (!isWhole)
+                return;
+            o.real(5.0);
+            o.thickness(0.0);
+            o.extrusion();
+        });
+    return drawing.file();
+}
+
+} // namespace host::dwg::test
