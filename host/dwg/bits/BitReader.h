@@ -50,6 +50,8 @@ struct HandleReference
     int kind = 0;
     std::uint64_t value = 0;
 
+    /// Whether what it goes to belongs to the object that has it.
+    bool isOwner() const { return kind == SoftOwner || kind == HardOwner; }
     /// The handle that is meant in an object with the handle `from`; 0 names nothing.
     std::uint64_t from(std::uint64_t from) const;
 };

@@ -48,12 +48,18 @@ std::optional<ObjectFrame> DrawingObjects::take(std::uint64_t handle)
     return frame;
 }
 
+void DrawingObjects::leaveOut(std::uint64_t handle)
+{
+    if (const std::size_t index = indexOf(handle); index != m_map.size())
+        m_isTaken[index] = true;
+}
+
 const ObjectType *DrawingObjects::typeOf(int number) const
 {
     if (number < firstClassNumber)
         return typeByNumber(number);
     const ObjectClass *one = classOf(number);
-    return one ? typeByClass(one->name) : nullptr;
+    return one ? typeByClass(one->name, m_container.release) : nullptr;
 }
 
 const ObjectClass *DrawingObjects::classOf(int number) const

@@ -24,6 +24,8 @@ public:
     std::optional<ObjectFrame> peek(std::uint64_t handle) const;
     /// Takes the object, unless it was taken before: each is written once, whoever refers to it.
     std::optional<ObjectFrame> take(std::uint64_t handle);
+    /// Counts the object as taken.
+    void leaveOut(std::uint64_t handle);
     /// Whether the object with this place in the map was taken.
     bool isTaken(std::size_t index) const { return m_isTaken[index]; }
 

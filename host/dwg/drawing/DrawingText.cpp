@@ -1,5 +1,6 @@
 #include "host/dwg/drawing/DrawingText.h"
 
+#include "host/dwg/drawing/LaterRecords.h"
 #include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
 #include "host/dwg/early/EarlyDrawing.h"
@@ -9,6 +10,15 @@ namespace host::dwg {
 
 namespace {
 
+void leaveOutLaterRecords(DrawingParts &parts)
+{
+    Fields &fields = parts.records.fields();
+    auto later = findLaterRecords(parts.objects, fields);
+    for (const std::uint64_t handle : later)
+        parts.objects.leaveOut(handle);
+    fields.leftOut() = std::move(later);
+}
+
 /// From the header to the tables, from there to the blocks and what they have, and from the dictionary of named objects
 /// to everything else.
 void writeDrawing(const Container &container, DrawingText &result)
@@ -16,6 +26,8 @@ void writeDrawing(const Container &container, DrawingText &result)
     DrawingParts parts(container, result.problems, result.text);
     result.objectCount = parts.objects.map().size();
     readNames(parts.objects, parts.records.fields(), parts.records.names());
+    if (container.release <= Release::R14)
+        leaveOutLaterRecords(parts);
     writeHeaderSection(parts);
     writeClassesSection(parts);
     writeTablesSection(parts);

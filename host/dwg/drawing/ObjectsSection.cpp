@@ -4,19 +4,20 @@ namespace host::dwg {
 
 namespace {
 
-/// What can be reached from the dictionary of named objects and from the extension dictionaries of what was written.
+/// The dictionary of named objects, then what the records own that were written, in the order of their references, as
+/// the program that made the format writes them.
 void writeReachable(DrawingParts &parts)
 {
     RecordWriter &records = parts.records;
-    std::vector<std::uint64_t> row = records.takeDictionaries();
-    row.insert(row.begin(), parts.header.namedObjects);
+    std::vector<std::uint64_t> row = {parts.header.namedObjects};
+    const auto addOwned = [&] {
+        const std::vector<std::uint64_t> owned = records.takeOwned();
+        row.insert(row.end(), owned.begin(), owned.end());
+    };
+    addOwned();
     for (std::size_t i = 0; i < row.size(); ++i) {
-        if (!records.writeObject(row[i]))
-            continue;
-        const Relations &relations = records.fields().relations();
-        row.insert(row.end(), relations.entries.begin(), relations.entries.end());
-        if (relations.dictionary != 0)
-            row.push_back(relations.dictionary);
+        records.writeObject(row[i]);
+        addOwned();
     }
 }
 

@@ -16,6 +16,18 @@ bool isProxy(int type)
     return type == proxyEntityType || type == proxyObjectType;
 }
 
+/// Whether it is an extension record of R13 with values that its text form has no groups for: it is a proxy there.
+bool hasLaterGroups(const Fields &fields)
+{
+    bool hasLater = false;
+    if (fields.until(Release::R13) && fields.typeName() == "XRECORD") {
+        fields.forEachTag([&hasLater](int code, std::string_view) {
+            hasLater |= (code >= 290 && code <= 299) || (code >= 400 && code <= 489);
+        });
+    }
+    return hasLater;
+}
+
 } // namespace
 
 std::string tagLines(int code, std::string_view value)
@@ -100,8 +112,17 @@ void RecordWriter::writeNoted(std::string_view recordType, std::string_view line
     m_text += lines;
     m_fields.write(m_text, 0, end);
     m_companions.make(m_fields, end);
-    if (m_fields.relations().dictionary != 0)
-        m_dictionaries.push_back(m_fields.relations().dictionary);
+    noteOwned();
+}
+
+void RecordWriter::noteOwned()
+{
+    const Relations &relations = m_fields.relations();
+    if (relations.dictionary != 0)
+        m_owned.push_back(relations.dictionary);
+    m_owned.insert(m_owned.end(), relations.entries.begin(), relations.entries.end());
+    if (!relations.hasList)
+        m_owned.insert(m_owned.end(), relations.parts.begin(), relations.parts.end());
 }
 
 bool RecordWriter::writeObject(std::uint64_t handle)
@@ -110,6 +131,7 @@ bool RecordWriter::writeObject(std::uint64_t handle)
         m_text += companion->lines;
         m_fields.start({}, {}, {});
         m_fields.relations().entries = companion->entries;
+        noteOwned();
         return true;
     }
     const auto frame = m_objects.take(handle);
@@ -137,7 +159,7 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
     if (type.read)
         type.read(m_fields);
     // Classes have other forms in other releases and programs; what a reader leaves over tells that it is another one.
-    if (m_objects.classOf(frame.type) && !m_fields.isUsedUp())
+    if (m_objects.classOf(frame.type) && (!m_fields.isUsedUp() || hasLaterGroups(m_fields)))
         return false;
     const bool isWhole = m_fields.isUsedUp();
     m_companions.complete(m_fields);
@@ -153,10 +175,13 @@ bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bo
     readHead(frame, isEntity ? "ACAD_PROXY_ENTITY" : "ACAD_PROXY_OBJECT", isEntity);
     if (!checkHandle(handle, frame.type))
         return false;
+    ProxyParts parts{isEntity, m_head.graphicsMark(), {}};
     if (isProxy(frame.type)) {
-        readProxy(m_fields, isEntity);
+        readProxy(m_fields, parts);
     } else {
-        noteProxy(m_fields, frame.type, isEntity);
+        if (m_objects.release() <= Release::R14)
+            parts.texts = readTextPlaces(frame, isEntity);
+        noteProxy(m_fields, frame.type, parts);
         m_objects.keep(handle, frame.type,
                        m_objects.typeOf(frame.type)
                            ? "The object has another form than is known; it is kept as its bytes."
@@ -166,6 +191,24 @@ bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bo
         return true;
     m_objects.lose(handle, frame.type, "The object ends before its values do.");
     return false;
+}
+
+/// Where texts begin in an object of a class that later releases have; nothing where the class has another form. The
+/// object's head has been read again then.
+std::vector<std::size_t> RecordWriter::readTextPlaces(const ObjectFrame &frame, bool isEntity)
+{
+    std::vector<std::size_t> places;
+    const ObjectClass *one = m_objects.classOf(frame.type);
+    const ObjectType *type = one ? typeByClass(one->name, Release::R2000) : nullptr;
+    if (!type || !type->read)
+        return places;
+    m_fields.keepTextPlaces(&places);
+    type->read(m_fields);
+    m_fields.keepTextPlaces(nullptr);
+    if (m_fields.hasFailed())
+        places.clear();
+    readHead(frame, isEntity ? "ACAD_PROXY_ENTITY" : "ACAD_PROXY_OBJECT", isEntity);
+    return places;
 }
 
 /// Writes what was noted of an object, unless it was damaged.

@@ -49,12 +49,15 @@ public:
     /// Writes the tags that were noted for a record that is no object.
     void writeFields(std::string_view recordType, std::string_view lines = {});
 
-    /// The extension dictionaries of what was written since the last call.
-    std::vector<std::uint64_t> takeDictionaries() { return std::exchange(m_dictionaries, {}); }
+    /// What the records own that were written since the last call: extension dictionaries, entries of dictionaries and
+    /// others, in their order. What stands in lists of entities is not among them.
+    std::vector<std::uint64_t> takeOwned() { return std::exchange(m_owned, {}); }
 
 private:
     bool writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type);
     bool writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity);
+    std::vector<std::size_t> readTextPlaces(const ObjectFrame &frame, bool isEntity);
+    void noteOwned();
     bool writeUnlessFailed();
     std::optional<TextSize> sizeOfText(std::uint64_t handle) const;
 
@@ -65,7 +68,7 @@ private:
     ObjectHead::Spaces m_spaces;
     ObjectHead m_head;
     Companions m_companions;
-    std::vector<std::uint64_t> m_dictionaries;
+    std::vector<std::uint64_t> m_owned;
 };
 
 /// A tag as two lines of a file.

@@ -1,9 +1,48 @@
 #include "host/dwg/objects/ExtendedData.h"
 #include "host/dwg/objects/TypeTable.h"
 
+#include <algorithm>
+
 namespace host::dwg {
 
 namespace {
+
+struct DictionaryEntry
+{
+    std::string name;
+    std::uint64_t handle = 0;
+    bool isOwned = false; ///< as a part
+};
+
+/// R13 and R14 put new entries behind the others and leave gaps where one was; the text form has them sorted.
+void sortEntries(std::vector<DictionaryEntry> &entries)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    std::ranges::stable_sort(entries, [lower](const DictionaryEntry &one, const DictionaryEntry &other) {
+        return std::ranges::lexicographical_compare(one.name, other.name, {}, lower, lower);
+    });
+}
+
+void noteEntries(Fields &f, std::size_t count, bool isOwner)
+{
+    std::vector<DictionaryEntry> entries;
+    for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
+        std::string name = f.text();
+        const HandleReference reference = f.references().handle();
+        const std::uint64_t handle = reference.from(f.relations().handle);
+        // Some programs leave the place of an entry that was taken out.
+        if (handle != 0 && !f.leftOut().contains(handle))
+            entries.push_back({std::move(name), handle, isOwner || reference.kind == HandleReference::HardOwner});
+    }
+    if (f.until(Release::R14))
+        sortEntries(entries);
+    for (const DictionaryEntry &entry : entries) {
+        f.note(3, entry.name);
+        f.noteHandle(entry.isOwned ? 360 : 350, entry.handle);
+        f.relations().entries.push_back(entry.handle);
+        f.relations().entryNames.push_back(entry.name);
+    }
+}
 
 /// `isClass`: it is of a class, as dictionaries with a default are, which have the fields of R2000 in earlier files
 /// too.
@@ -11,29 +50,16 @@ void readDictionaryBody(Fields &f, bool isClass)
 {
     f.subclass("AcDbDictionary");
     const std::size_t count = f.checkedCount(f.int32(), 8, f.references());
-    if (f.release() == Release::R14 && !isClass)
-        f.small();
-    int cloning = 1;
-    bool isOwner = false;
-    if (f.since(Release::R2000) || isClass) {
-        cloning = f.int16();
+    bool isOwner = f.extensionDictionaries().contains(f.relations().handle);
+    const bool isLater = f.since(Release::R2000);
+    const int cloning = isLater || isClass ? f.int16() : 0;
+    if (f.since(Release::R14) || isClass) {
         isOwner = f.small() != 0;
-    }
-    if (f.since(Release::R2000)) {
         f.noteUnless(280, isOwner, {0});
+    }
+    if (isLater)
         f.note(281, cloning);
-    }
-    for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
-        const std::string name = f.text();
-        const HandleReference reference = f.references().handle();
-        const std::uint64_t entry = reference.from(f.relations().handle);
-        if (entry == 0)
-            continue; // what some programs leave of an entry that was taken out
-        f.note(3, name);
-        f.noteHandle(isOwner || reference.kind == HandleReference::HardOwner ? 360 : 350, entry);
-        f.relations().entries.push_back(entry);
-        f.relations().entryNames.push_back(name);
-    }
+    noteEntries(f, count, isOwner);
 }
 
 void readDictionary(Fields &f)

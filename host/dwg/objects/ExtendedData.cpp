@@ -165,12 +165,38 @@ bool noteRecordValue(int code, BitReader &data, Fields &fields)
     return false;
 }
 
+std::string aheadText(BitReader reader, Release release)
+{
+    return reader.left() >= 8 && reader.byte() == 0 ? extensionText(reader, release) : std::string();
+}
+
+/// In R13 and R14 later programs leave line weights, materials and line spacing behind texts that say so. They take
+/// them in, and do not write them to the text form.
+bool skipLaterValues(BitReader &reader, Fields &fields)
+{
+    const std::string name = aheadText(reader, fields.release());
+    const bool isOne = name == "RTLwPs" || name == "RTMaterial";
+    if (!isOne && name != "MTEXTBEGIN")
+        return false;
+    const std::size_t before = fields.mark();
+    bool isLast = false;
+    for (int count = 0; !isLast && reader.left() >= 8; ++count) {
+        isLast = isOne ? count == 1 : aheadText(reader, fields.release()) == "MTEXTEND";
+        if (!noteExtensionValue(reader, fields))
+            break;
+    }
+    fields.drop(before);
+    return true;
+}
+
 } // namespace
 
 void noteExtension(Bytes bytes, Fields &fields)
 {
     BitReader reader(bytes);
     while (reader.left() >= 8) {
+        if (fields.until(Release::R14) && skipLaterValues(reader, fields))
+            continue;
         const std::size_t before = fields.mark();
         if (!noteExtensionValue(reader, fields) || reader.hasFailed()) {
             fields.drop(before);

@@ -51,12 +51,17 @@ bool Fields::isUsedUp() const
 
 std::string Fields::text()
 {
+    if (m_textPlaces)
+        m_textPlaces->push_back(m_values.position());
     return since(Release::R2007) ? m_texts.text16() : m_values.text8();
 }
 
-std::uint64_t Fields::reference()
+std::uint64_t Fields::reference(const HandleReference &reference)
 {
-    return m_references.handle().from(m_relations.handle);
+    const std::uint64_t handle = reference.from(m_relations.handle);
+    if (reference.isOwner() && handle != 0)
+        m_relations.parts.push_back(handle);
+    return handle;
 }
 
 std::size_t Fields::checkedCount(std::int64_t count, std::size_t bits, BitReader &reader)

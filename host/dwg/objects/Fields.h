@@ -8,6 +8,7 @@
 #include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace host::dwg {
@@ -29,6 +30,7 @@ struct Relations
     std::vector<std::uint64_t> owned;
     std::vector<std::uint64_t> entries;  ///< of a dictionary
     std::vector<std::string> entryNames; ///< theirs
+    std::vector<std::uint64_t> parts;    ///< what it owns by other references, in their order
     bool isEntity = false;
     bool hasList = false; ///< attributes or vertices follow
 };
@@ -88,6 +90,10 @@ public:
     bool until(Release release) const { return m_release <= release; }
     BitReader &values() { return m_values; }
     BitReader &references() { return m_references; }
+    /// What is not written, so that nothing refers to it as its extension dictionary or entry.
+    std::unordered_set<std::uint64_t> &leftOut() { return m_leftOut; }
+    /// The extension dictionaries of what was read before: those of R13 do not tell what they are.
+    std::unordered_set<std::uint64_t> &extensionDictionaries() { return m_extensionDictionaries; }
     Relations &relations() { return m_relations; }
     const Relations &relations() const { return m_relations; }
 
@@ -100,7 +106,11 @@ public:
     double rawReal() { return m_values.rawReal(); }
     Point point() { return m_values.point(); }
     std::string text();
-    std::uint64_t reference();
+    /// From here on the bits where texts begin are added to `places`; null ends it. Before R2007.
+    void keepTextPlaces(std::vector<std::size_t> *places) { m_textPlaces = places; }
+    std::uint64_t reference() { return reference(m_references.handle()); }
+    /// What a reference goes to. Where it owns that, it is noted among the parts of relations().
+    std::uint64_t reference(const HandleReference &reference);
     /// A number of things that follow, each of at least `bits` bits in the file: 0, and failed, where no room is for as
     /// many.
     std::size_t count(std::size_t bits = 1) { return checkedCount(m_values.longInteger(), bits, m_values); }
@@ -238,6 +248,9 @@ private:
     BitReader m_texts;
     BitReader m_references;
     Relations m_relations;
+    std::unordered_set<std::uint64_t> m_leftOut;
+    std::unordered_set<std::uint64_t> m_extensionDictionaries;
+    std::vector<std::size_t> *m_textPlaces = nullptr;
     std::string_view m_typeName;
     std::string m_buffer; ///< the tags' values, one behind the other
     std::vector<Note> m_notes;

@@ -229,6 +229,7 @@ void ObjectHead::readEntityHead(Fields &fields)
         if (hasVisualStyle[i])
             fields.reference(348);
     }
+    m_graphicsMark = fields.mark();
     if (!m_graphics.empty()) {
         fields.note(fields.since(Release::R2010) ? 160 : 92, m_graphics.size());
         fields.noteBinary(310, m_graphics);
@@ -246,6 +247,7 @@ void ObjectHead::readObjectHead(Fields &fields)
         values.bit();
     readRelations(fields, reactorCount, hasNoDictionary);
     noteRelations(fields);
+    m_graphicsMark = fields.mark();
 }
 
 void ObjectHead::readRelations(Fields &fields, std::int32_t reactorCount, bool hasNoDictionary)
@@ -257,22 +259,30 @@ void ObjectHead::readRelations(Fields &fields, std::int32_t reactorCount, bool h
         m_reactors.push_back(fields.reference());
     if (!hasNoDictionary)
         relations.dictionary = fields.reference();
+    if (fields.leftOut().contains(relations.dictionary))
+        relations.dictionary = 0;
+    if (relations.dictionary != 0 && fields.until(Release::R13))
+        fields.extensionDictionaries().insert(relations.dictionary);
 }
 
 void ObjectHead::noteRelations(Fields &fields) const
 {
     const Relations &relations = fields.relations();
     fields.noteHandle(fields.typeName() == "DIMSTYLE" ? 105 : 5, relations.handle);
+    const std::size_t groups = fields.mark();
     if (relations.dictionary != 0) {
         fields.note(102, "{ACAD_XDICTIONARY");
         fields.noteHandle(360, relations.dictionary);
         fields.note(102, "}");
     }
+    const std::size_t reactors = fields.mark();
     if (!m_reactors.empty()) {
         fields.note(102, "{ACAD_REACTORS");
         for (const std::uint64_t reactor : m_reactors)
             fields.noteHandle(330, reactor);
         fields.note(102, "}");
+        if (fields.until(Release::R14))
+            fields.moveForward(reactors, groups);
     }
     fields.noteHandle(330, relations.owner);
 }
@@ -281,8 +291,12 @@ void ObjectHead::noteExtendedData(Fields &fields) const
 {
     for (const Extension &extension : m_extensions) {
         const Bytes bytes(reinterpret_cast<const std::uint8_t *>(extension.bytes.data()), extension.bytes.size());
+        const std::size_t begin = fields.mark();
         fields.note(1001, fields.nameOf(extension.application));
+        const std::size_t empty = fields.mark();
         noteExtension(bytes, fields);
+        if (fields.until(Release::R14) && fields.mark() == empty && !bytes.empty())
+            fields.drop(begin);
     }
 }
 

@@ -39,6 +39,8 @@ public:
 
     /// Starts `fields` with the object.
     void read(const ObjectFrame &frame, bool isEntity, Fields &fields);
+    /// Where the entity's graphics are among the tags: in front of the first subclass of its type.
+    std::size_t graphicsMark() const { return m_graphicsMark; }
     /// Notes the extended data behind everything else.
     void noteExtendedData(Fields &fields) const;
 
@@ -59,6 +61,7 @@ private:
     std::vector<Extension> m_extensions;
     std::vector<std::uint64_t> m_reactors;
     std::string m_graphics;
+    std::size_t m_graphicsMark = 0;
     std::size_t m_objectEnd = 0;
     int m_space = 0; ///< 1 and 2: those of paper and model space, which do not tell their owner
 };

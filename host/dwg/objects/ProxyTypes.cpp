@@ -4,15 +4,76 @@ namespace host::dwg {
 
 namespace {
 
-/// What is left of the values, filled up with zeros to whole bytes.
-std::string restOfValues(BitReader &values)
+/// Bits in a row, the first one the highest of its byte.
+class BitRow
 {
-    std::string bytes;
-    while (values.left() >= 8 && !values.hasFailed())
-        bytes += static_cast<char>(values.byte());
-    if (const int left = static_cast<int>(values.left()); left > 0 && !values.hasFailed())
-        bytes += static_cast<char>(values.bits(left) << (8 - left));
-    return bytes;
+public:
+    void add(std::uint32_t value, int count)
+    {
+        for (int i = count - 1; i >= 0; --i) {
+            if (m_count % 8 == 0)
+                m_bytes += '\0';
+            if ((value >> i & 1) != 0)
+                m_bytes.back() = static_cast<char>(m_bytes.back() | 0x80 >> m_count % 8);
+            ++m_count;
+        }
+    }
+
+    /// Adds whole bytes at once where the row is at the begin of one.
+    void addBytes(std::string_view bytes)
+    {
+        if (m_count % 8 == 0) {
+            m_bytes += bytes;
+            m_count += bytes.size() * 8;
+            return;
+        }
+        for (const char byte : bytes)
+            add(static_cast<unsigned char>(byte), 8);
+    }
+
+    /// A short integer as files code it.
+    void addShort(std::size_t value)
+    {
+        if (value == 0)
+            return add(0b10, 2);
+        if (value == 256)
+            return add(0b11, 2);
+        add(value < 256 ? 0b01 : 0b00, 2);
+        add(static_cast<std::uint32_t>(value & 0xff), 8);
+        if (value > 256)
+            add(static_cast<std::uint32_t>(value >> 8), 8);
+    }
+
+    std::size_t count() const { return m_count; }
+    const std::string &bytes() const { return m_bytes; } ///< filled up with zeros
+
+private:
+    std::string m_bytes;
+    std::size_t m_count = 0;
+};
+
+void copyBits(BitReader &values, std::size_t count, BitRow &row)
+{
+    row.addBytes(values.rawBytes(count / 8));
+    row.add(values.bits(static_cast<int>(count % 8)), static_cast<int>(count % 8));
+}
+
+/// What is left of the values, the texts at these places without the zero at their end.
+BitRow restOfValues(BitReader &values, const std::vector<std::size_t> &texts)
+{
+    BitRow row;
+    for (const std::size_t place : texts) {
+        if (place < values.position() || place - values.position() > values.left())
+            break;
+        copyBits(values, place - values.position(), row);
+        std::string text = values.rawBytes(static_cast<std::uint16_t>(values.shortInteger()));
+        if (text.ends_with('\0'))
+            text.pop_back();
+        row.addShort(text.size());
+        row.addBytes(text);
+    }
+    copyBits(values, values.left(), row);
+    return row;
 }
 
 /// The group code of a reference by its kind.
@@ -30,48 +91,52 @@ int referenceCode(int kind)
     }
 }
 
-void noteRest(Fields &f)
+void noteRest(Fields &f, const ProxyParts &parts)
 {
-    const std::size_t bits = f.values().left();
-    f.note(93, bits);
-    f.noteBinary(310, restOfValues(f.values()));
+    const BitRow row = restOfValues(f.values(), parts.texts);
+    f.note(93, row.count());
+    f.noteBinary(310, row.bytes());
+    bool hasReferences = false;
     while (f.references().left() >= 8 && !f.references().hasFailed()) {
         const HandleReference reference = f.references().handle();
         // The bits behind the last one look like references to nothing.
         if (reference.kind < HandleReference::SoftOwner)
             break;
-        f.noteHandle(referenceCode(reference.kind), reference.from(f.relations().handle));
+        hasReferences = true;
+        f.noteHandle(referenceCode(reference.kind), f.reference(reference));
     }
+    if (hasReferences)
+        f.note(94, 0);
 }
 
-void noteHead(Fields &f, int classNumber, bool isEntity)
+void noteHead(Fields &f, int classNumber, const ProxyParts &parts)
 {
     const bool isOld = f.release() == Release::R13;
-    f.subclass(isEntity ? (isOld ? "AcDbZombieEntity" : "AcDbProxyEntity")
-                        : (isOld ? "AcDbZombieObject" : "AcDbProxyObject"));
-    f.note(90, isEntity ? 498 : 499);
+    const std::size_t mark = f.mark();
+    f.subclass(parts.isEntity ? (isOld ? "AcDbZombieEntity" : "AcDbProxyEntity")
+                              : (isOld ? "AcDbZombieObject" : "AcDbProxyObject"));
+    f.note(90, parts.isEntity ? 498 : 499);
     f.note(91, classNumber);
+    f.moveForward(mark, parts.graphics);
 }
 
 } // namespace
 
-void noteProxy(Fields &f, int classNumber, bool isEntity)
+void noteProxy(Fields &f, int classNumber, const ProxyParts &parts)
 {
-    noteHead(f, classNumber, isEntity);
+    noteHead(f, classNumber, parts);
     if (f.since(Release::R2000)) {
         f.note(95, static_cast<int>(f.release()) - 990);
         f.note(70, 0);
     }
-    noteRest(f);
-    if (f.since(Release::R2000))
-        f.note(94, 0);
+    noteRest(f, parts);
 }
 
-void readProxy(Fields &f, bool isEntity)
+void readProxy(Fields &f, const ProxyParts &parts)
 {
     if (f.until(Release::R14))
         f.int32(); // the type again
-    noteHead(f, f.int32(), isEntity);
+    noteHead(f, f.int32(), parts);
     if (f.since(Release::R2018)) {
         f.int32(71);
         f.int32(97);
@@ -80,7 +145,7 @@ void readProxy(Fields &f, bool isEntity)
     }
     if (f.since(Release::R2000))
         f.flag(70);
-    noteRest(f);
+    noteRest(f, parts);
 }
 
 } // namespace host::dwg

@@ -42,7 +42,7 @@ void readLayer(Fields &f)
         isOff = (bits & LayerBits::off) != 0;
     } else {
         bits |= f.flag() ? LayerBits::frozen : 0;
-        isOff = !f.flag();
+        isOff = f.flag();
         bits |= f.flag() ? LayerBits::frozenInNew : 0;
         bits |= f.flag() ? LayerBits::locked : 0;
     }
@@ -365,8 +365,6 @@ std::vector<std::uint64_t> readTableEntries(Fields &f, int type, std::vector<std
         further.push_back(f.reference());
     if (hasTwoMore && entries.size() >= 2)
         std::rotate(entries.begin(), entries.end() - 2, entries.end());
-    if (type == linetypeTableType && entries.size() >= 2)
-        std::swap(entries[0], entries[1]);
     return entries;
 }
 
@@ -374,6 +372,7 @@ BlockHead readBlockHead(Fields &f)
 {
     BlockHead block;
     Relations &relations = f.relations();
+    const std::size_t ownedByHead = relations.parts.size();
     block.entry = readEntryHead(f);
     block.isAnonymous = f.flag();
     block.hasAttributes = f.flag();
@@ -413,6 +412,7 @@ BlockHead readBlockHead(Fields &f)
             block.inserts.push_back(f.reference());
         block.layout = f.reference();
     }
+    relations.parts.resize(ownedByHead); // without its entities, which have lists of their own
     return block;
 }
 

@@ -42,6 +42,16 @@ const ObjectType *rowIn(const Map &map, const Key &key)
     return found != map.end() ? found->second : nullptr;
 }
 
+/// Classes that programs of R13 and R14 write as what they are.
+bool isOldClass(std::string_view name)
+{
+    constexpr std::string_view names[] = {
+        "ACDBDICTIONARYWDFLT", "DICTIONARYVAR", "IMAGE",   "IMAGEDEF",         "IMAGEDEF_REACTOR", "MATERIAL",
+        "RASTERVARIABLES",     "SORTENTSTABLE", "WIPEOUT", "WIPEOUTVARIABLES",
+    };
+    return std::ranges::find(names, name) != std::end(names);
+}
+
 } // namespace
 
 const ObjectType *typeByNumber(int number)
@@ -49,9 +59,11 @@ const ObjectType *typeByNumber(int number)
     return rowIn(allTypes().byNumber, number);
 }
 
-const ObjectType *typeByClass(std::string_view name)
+const ObjectType *typeByClass(std::string_view name, Release release)
 {
-    return rowIn(allTypes().byName, name);
+    const ObjectType *type = rowIn(allTypes().byName, name);
+    const bool isKnown = type && (type->number != 0 || release >= Release::R2000 || isOldClass(name));
+    return isKnown ? type : nullptr;
 }
 
 } // namespace host::dwg

@@ -17,8 +17,9 @@ struct ObjectType
 
 /// The row of a type with a number of its own; null for what is none, and for types that are not read.
 const ObjectType *typeByNumber(int number);
-/// The row of a class by the name that it has in the text form; null when there is none.
-const ObjectType *typeByClass(std::string_view name);
+/// The row of a class by the name that it has in the text form of a release; null when there is none. The text form of
+/// R13 and R14 has no records for most classes: they came later, and their objects stand there as proxies.
+const ObjectType *typeByClass(std::string_view name, Release release);
 
 // The rows, by subject; typeByNumber() and typeByClass() look through all.
 std::span<const ObjectType> curveTypes();     ///< lines, arcs, splines, points, faces
