@@ -50,7 +50,10 @@ void addFileValues(const Container &container, HeaderValues &values)
     values["$ACADVER"] = tagLines(1, "AC" + std::to_string(static_cast<int>(release)));
     if (release >= Release::R14)
         values["$ACADMAINTVER"] = tagLines(release >= Release::R2018 ? 90 : 70, std::to_string(container.maintenance));
-    values["$DWGCODEPAGE"] = tagLines(3, codePageName(container.codePage));
+    std::string codePage(codePageName(container.codePage));
+    if (release == Release::R13)
+        std::ranges::transform(codePage, codePage.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? c | 0x20 : c; });
+    values["$DWGCODEPAGE"] = tagLines(3, codePage);
 }
 
 std::uint64_t entryOf(const DictionaryEntries &entries, std::string_view name)

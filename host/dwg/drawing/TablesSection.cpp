@@ -67,7 +67,10 @@ void writeTable(DrawingParts &parts, const char *name, std::uint64_t handle)
         return parts.objects.problems().lose(std::string("The table ") + name + " is missing.");
     records.readHead(*frame, "TABLE", false);
     std::vector<std::uint64_t> further;
-    const std::vector<std::uint64_t> entries = readTableEntries(records.fields(), frame->type, further);
+    std::vector<std::uint64_t> entries = readTableEntries(records.fields(), frame->type, further);
+    // Later releases count what was erased as well.
+    if (records.fields().until(Release::R14))
+        std::erase_if(entries, [&parts](std::uint64_t entry) { return !parts.objects.peek(entry); });
     noteTable(records.fields(), frame->type, entries.size(), further);
     records.writeNoted("TABLE", tagLines(2, name));
     for (const std::uint64_t entry : entries) {

@@ -285,13 +285,14 @@ void readLeader(Fields &f)
     }
     f.flag(74);
     f.flag(71, {1});
+    int colour = 0; // for a dimension style that leaves it to the block
     if (f.until(Release::R14)) {
         f.int16();
         f.real();
         f.flag();
         f.flag();
         f.int16();
-        f.int16();
+        colour = f.int16();
         f.flag();
         f.flag();
     } else {
@@ -309,6 +310,8 @@ void readLeader(Fields &f)
     f.arrange(begin, {3, 71, 72, 73, 74, 40, 41, 76});
     for (const Point &point : points)
         f.note(10, point);
+    if (f.until(Release::R14))
+        f.note(77, colour);
     if (annotation != 0)
         f.noteHandle(340, annotation);
     noteUnlessPoint(f, 210, extrusion, {0.0, 0.0, 1.0});

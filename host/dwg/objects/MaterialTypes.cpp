@@ -33,7 +33,10 @@ void readMaterialMap(Fields &f, const MapCodes &codes)
 {
     const std::size_t mark = f.mark();
     f.real(codes.blend, {1.0});
-    f.small(codes.projection, {2});
+    // Projections of a plane are not written, from R2000 on those of a box neither.
+    const int projection = f.small();
+    if (projection != 1 && (projection != 2 || f.until(Release::R14)))
+        f.note(codes.projection, projection);
     f.small(codes.tiling, {1});
     f.small(codes.placing, {1});
     readMatrix(f, codes.matrix);
@@ -61,9 +64,12 @@ void readMaterial(Fields &f)
     readMaterialColour(f, 70, 40, 90);
     readMaterialColour(f, 71, 41, 91);
     readMaterialMap(f, {42, 72, 3, 73, 74, 75, 43});
+    const std::size_t specular = f.mark();
     readMaterialColour(f, 76, 45, 92);
     readMaterialMap(f, {46, 77, 4, 78, 79, 170, 47});
+    const std::size_t gloss = f.mark();
     f.real(44, {0.5});
+    f.moveForward(gloss, specular);
     readMaterialMap(f, {48, 171, 6, 172, 173, 174, 49});
     f.real(140, {1.0});
     readMaterialMap(f, {141, 175, 7, 176, 177, 178, 142});

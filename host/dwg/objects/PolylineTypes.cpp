@@ -125,8 +125,9 @@ void readPolyfaceFace(Fields &f)
     f.subclass("AcDbFaceRecord");
     f.note(10, Point());
     f.note(70, 128);
-    for (int code = 71; code <= 74; ++code)
-        f.int16(code, {0});
+    for (int code = 71; code <= 73; ++code)
+        f.int16(code);
+    f.int16(74, {0});
 }
 
 /// What a light polyline has, by the bits of its first number.

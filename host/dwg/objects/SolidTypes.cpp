@@ -15,7 +15,8 @@ void readModelText(Fields &f)
         const std::size_t end = rest.find('\n');
         std::string_view line = rest.substr(0, end);
         rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-        while (!line.empty() && line.back() == '\r')
+        // Blanks at the end of a line mean nothing in text files.
+        while (!line.empty() && (line.back() == '\r' || line.back() == ' '))
             line.remove_suffix(1);
         constexpr std::size_t mostOfATag = 255;
         f.note(1, line.substr(0, mostOfATag));

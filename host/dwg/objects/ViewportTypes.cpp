@@ -7,6 +7,8 @@ namespace {
 void readViewportEntity(Fields &f)
 {
     f.subclass("AcDbViewport");
+    if (f.until(Release::R14))
+        f.note(68, 1); // and once more where it belongs
     const std::size_t begin = f.mark();
     f.point(10);
     f.real(40);
