@@ -34,6 +34,7 @@ std::span<const Explanation> explanations()
         {"*", Kind::Different, "$TDINDWG", {40}, savedAgain},
         {"*", Kind::Different, "$TDUSRTIMER", {40}, savedAgain},
         {"*", Kind::Different, "$HANDSEED", {5}, savedAgain},
+        {"*", Kind::Extra, "SECTION THUMBNAILIMAGE", {}, "the program was not to write previews to text files"},
         {"r9_entities", Kind::Different, "$TDUPDATE", {40}, savedAgain},
         {"r11_entities", Kind::Different, "$TDUPDATE", {40}, savedAgain},
         {"r9_entities", Kind::Different, "SHAPE *", {2}, shapeNames},

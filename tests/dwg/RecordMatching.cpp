@@ -135,10 +135,12 @@ private:
         }
         matchByKeys(ones, others,
                     [](const TextNode &node) { return node.name.empty() ? "" : node.type() + node.name; });
-        matchByKeys(ones, others, [](const TextNode &node) { return isBlock(node) ? std::string() : node.type(); });
+        matchByKeys(ones, others, [](const TextNode &node) {
+            return isBlock(node) || node.type() == "SECTION" ? std::string() : node.type();
+        });
     }
 
-    /// Blocks that nothing else brought together go by order.
+    /// Blocks without a name of their own that nothing else brought together go by order, each kind for itself.
     void matchRest(std::string_view section)
     {
         const auto place = [section](const TextTree &tree) {
@@ -149,8 +151,9 @@ private:
                 at = tree.nodes[table].name == "BLOCK_RECORD" ? table : at;
             return at;
         };
-        matchByKeys(readNode(place(m_read)).children, expectedNode(place(m_expected)).children,
-                    [](const TextNode &node) { return node.type(); });
+        matchByKeys(
+            readNode(place(m_read)).children, expectedNode(place(m_expected)).children,
+            [](const TextNode &node) { return node.name.starts_with('*') ? node.name.substr(0, 2) : std::string(); });
         followAll();
     }
 
@@ -198,7 +201,7 @@ private:
         }
         for (std::size_t i = 1; i < m_expected.nodes.size(); ++i) {
             const std::size_t owner = m_partners.ofExpected[m_expected.find(ownerOf(expectedNode(i)))];
-            if (m_partners.ofExpected[i] != 0 || owner == 0)
+            if (m_partners.ofExpected[i] != 0 || owner == 0 || isBlock(expectedNode(i)))
                 continue;
             for (const std::size_t one : owned[readNode(owner).handle]) {
                 if (match(one, i))

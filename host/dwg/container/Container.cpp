@@ -33,6 +33,26 @@ Release releaseOf(Bytes file)
     return Release::None;
 }
 
+namespace {
+
+/// The preview, which all releases have at a place that the file's first bytes tell. The places of its pictures count
+/// from the begin of the file, as they do in text files.
+Bytes previewOf(Bytes file)
+{
+    constexpr std::size_t placeOfPlace = 0x0d;
+    const std::size_t place = BitReader(file, placeOfPlace * 8, file.size() * 8).raw32();
+    if (place >= file.size())
+        return {};
+    const Bytes section = betweenMarks(file.subspan(place));
+    BitReader reader(section);
+    const std::size_t size = reader.raw32();
+    constexpr std::size_t sizeLength = 4;
+    const bool hasPictures = reader.byte() != 0 && section.data() != file.data() + place;
+    return hasPictures && size <= section.size() - sizeLength ? section.first(sizeLength + size) : Bytes();
+}
+
+} // namespace
+
 Container openContainer(Bytes file, Problems &problems)
 {
     Container container;
@@ -49,6 +69,7 @@ Container openContainer(Bytes file, Problems &problems)
         openCorrectedContainer(file, container, problems);
     else
         openPagedContainer(file, container, problems);
+    container.preview = previewOf(file);
     const bool hasPages = container.release > Release::R2000;
     if (hasPages && (container.objectMap.empty() || container.objects.empty()))
         problems.lose("The file has no map of its objects.");
@@ -78,8 +99,6 @@ void assignSection(Container &container, std::string_view name, Bytes bytes)
         container.summary = bytes;
     else if (name == "AcDb:Template")
         container.measurement = bytes;
-    else if (name == "AcDb:Preview")
-        container.preview = betweenMarks(bytes);
     else if (name == "AcDb:AcDsPrototype_1b")
         container.dataStore = bytes;
 }

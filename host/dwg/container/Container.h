@@ -24,8 +24,8 @@ struct Container
     Bytes objects;
     Bytes summary;
     Bytes measurement; ///< a text and which units patterns are in
-    Bytes preview;
-    Bytes dataStore; ///< what objects from R2013 on keep in a section of its own
+    Bytes preview;     ///< the list of pictures with their data; empty where there is none
+    Bytes dataStore;   ///< what objects from R2013 on keep in a section of its own
 
     std::deque<std::vector<std::uint8_t>> storage; ///< what had to be unpacked
 };

@@ -35,6 +35,7 @@ void writeDrawing(const Container &container, DrawingText &result)
     writeEntitiesSection(parts);
     writeObjectsSection(parts);
     writeDataSection(parts);
+    writePreviewSection(parts);
     parts.records.beginRecord("EOF");
 }
 

@@ -34,8 +34,8 @@ constexpr std::string_view viewStyleBeginning = "DISPLAYNAME";
 
 bool isLaterBeginning(std::string_view text)
 {
-    constexpr std::string_view beginnings[] = {"ACADR14ROUNDTRIP", viewStyleBeginning, "EXTNAMES", "PLOTSTYLENAMESTR",
-                                               "RTVSPost2010"};
+    constexpr std::string_view beginnings[] = {"ACADR14ROUNDTRIP", viewStyleBeginning, "EXTNAMES",
+                                               "PLOTSTYLENAMESTR", "RTVSPost2010",     "ACAD_ROUNDTRIP_2008_TABLE"};
     return std::ranges::any_of(beginnings, [text](std::string_view one) { return text.starts_with(one); });
 }
 

@@ -40,5 +40,7 @@ void writeEntitiesSection(DrawingParts &parts);
 void writeObjectsSection(DrawingParts &parts);
 /// What objects keep outside themselves, from R2013 on; nothing where the file has none of it.
 void writeDataSection(DrawingParts &parts);
+/// The pictures of the drawing that the file has, as it has them; nothing where it has none.
+void writePreviewSection(DrawingParts &parts);
 
 } // namespace host::dwg

@@ -153,9 +153,14 @@ bool noteRecordValue(int code, BitReader &data, Fields &fields)
     case RecordValue::Int64:
         fields.note(code, static_cast<std::int64_t>(data.raw64()));
         return true;
-    case RecordValue::Handle:
-        fields.noteHandle(code, recordHandle(data));
+    case RecordValue::Handle: {
+        const std::uint64_t handle = recordHandle(data);
+        fields.noteHandle(code, handle);
+        const bool isOwner = code >= 350 && code <= 369;
+        if (isOwner && handle != 0)
+            fields.relations().parts.push_back(handle);
         return true;
+    }
     case RecordValue::Binary:
         fields.noteBinary(code, data.rawBytes(data.byte()));
         return true;

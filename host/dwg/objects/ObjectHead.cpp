@@ -230,7 +230,8 @@ void ObjectHead::readEntityHead(Fields &fields)
             fields.reference(348);
     }
     m_graphicsMark = fields.mark();
-    if (!m_graphics.empty()) {
+    // Tables that stand as inserts are drawn by their blocks.
+    if (!m_graphics.empty() && fields.typeName() != "INSERT") {
         fields.note(fields.since(Release::R2010) ? 160 : 92, m_graphics.size());
         fields.noteBinary(310, m_graphics);
     }

@@ -346,7 +346,24 @@ void readTable(Fields &f)
         readLateTable(f, block);
 }
 
+/// The table is read whole, so that another form is noticed.
+void readTableInsert(Fields &f)
+{
+    BitReader next = f.references();
+    const std::uint64_t block = next.handle().from(f.relations().handle);
+    readInsertBody(f, false);
+    const std::size_t end = f.mark();
+    readEarlyTable(f, block);
+    f.drop(end);
+}
+
 } // namespace
+
+const ObjectType &tableAsInsert()
+{
+    static constexpr ObjectType row = {0, "INSERT", readTableInsert, true};
+    return row;
+}
 
 std::span<const ObjectType> tableEntityTypes()
 {

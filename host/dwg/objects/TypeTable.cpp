@@ -63,7 +63,7 @@ const ObjectType *typeByClass(std::string_view name, Release release)
 {
     const ObjectType *type = rowIn(allTypes().byName, name);
     const bool isKnown = type && (type->number != 0 || release >= Release::R2000 || isOldClass(name));
-    return isKnown ? type : nullptr;
+    return isKnown ? type : name == "ACAD_TABLE" ? &tableAsInsert() : nullptr;
 }
 
 } // namespace host::dwg

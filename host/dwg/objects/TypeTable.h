@@ -18,8 +18,12 @@ struct ObjectType
 /// The row of a type with a number of its own; null for what is none, and for types that are not read.
 const ObjectType *typeByNumber(int number);
 /// The row of a class by the name that it has in the text form of a release; null when there is none. The text form of
-/// R13 and R14 has no records for most classes: they came later, and their objects stand there as proxies.
+/// R13 and R14 has no records for most classes: they came later, and their objects stand there as proxies, tables as
+/// inserts of their blocks.
 const ObjectType *typeByClass(std::string_view name, Release release);
+
+/// The row for tables with cells where the text form has none.
+const ObjectType &tableAsInsert();
 
 // The rows, by subject; typeByNumber() and typeByClass() look through all.
 std::span<const ObjectType> curveTypes();     ///< lines, arcs, splines, points, faces
