@@ -14,8 +14,8 @@ struct DataStore
     {
         std::string name;
         int type = 0;
-        int size = 0;               ///< bytes; 0 where the type has none of its own
-        std::optional<int> usual;   ///< what it is where nothing is said
+        int size = 0;                        ///< bytes; 0 where the type has none of its own
+        std::optional<int> usual;            ///< what it is where nothing is said
         std::vector<std::size_t> attributes; ///< by their place in those of the store
     };
 
