@@ -199,8 +199,8 @@ private:
         BitReader content = at(place, place.data - segmentHeadSize + std::uint64_t(data));
         const std::uint32_t length = content.raw32();
         constexpr std::uint32_t inPages = 0xbb106bb1;
-        const bool isRead = length == inPages ? readPages(content, record.data)
-                                              : takeBytes(content, length, record.data);
+        const bool isRead =
+            length == inPages ? readPages(content, record.data) : takeBytes(content, length, record.data);
         if (isRead)
             store.records.push_back(std::move(record));
         return isRead;
