@@ -2,8 +2,8 @@
 // have, tables, blocks, jumps, and records that are not as they should be.
 
 #include "host/dwg/drawing/DrawingText.h"
-#include "tests/dwg/EarlyFileMaker.h"
 #include "tests/dwg/TextTree.h"
+#include "tests/dwg/making/EarlyFileMaker.h"
 
 #include <gtest/gtest.h>
 
@@ -172,7 +172,7 @@ EarlyFileMaker makerWithTables(Release release)
                     "1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0 9.0 10.0 11.0 12.0 13.0 14.0 15.0 b1 b2 b3 b4 b5 b6 b7 b8 b9 b10 "
                     "b11 b12 b13 b14 \"<>mm z12 z16 \"DOT z30 z33 z33 w1 w2 w3 16.0 17.0");
     maker.addRecord(EarlyTableKind::Views, 0, "FRONT",
-                    release >= r10 ? "1.0 2.0 3.0 4.0 0.0 -1.0 0.0 w0 5.0 6.0 7.0 50.0 8.0 9.0 0.0 w1"
+                    release >= r10 ? "1.0 2.0 3.0 4.0 0.0 -1.0 0.0 w0 5.0 6.0 7.0 50.0 0.0 0.0 0.0 w1"
                                    : "1.0 2.0 3.0 4.0 0.0 -1.0 0.0 w0");
     maker.addRecord(EarlyTableKind::Systems, 0, "SIDE", "1.0 2.0 3.0 0.0 1.0 0.0 0.0 0.0 1.0");
     return maker;
@@ -207,7 +207,7 @@ TEST(EarlyDwg, TablesAreThoseOfTheRelease)
     EXPECT_EQ(problemsOf(drawing), "");
     EXPECT_EQ(recordsOf(tree, "VIEW"),
               "VIEW 2 FRONT 70 0 40 1.0 10 2.0 20 3.0 41 4.0 11 0.0 21 -1.0 31 0.0 12 5.0 22 6.0 "
-              "32 7.0 42 50.0 43 8.0 44 9.0 50 0.0 71 1\n");
+              "32 7.0 42 50.0 43 0.0 44 0.0 50 0.0 71 1\n");
     EXPECT_EQ(recordsOf(tree, "UCS"),
               "UCS 2 SIDE 70 0 10 1.0 20 2.0 30 3.0 11 0.0 21 1.0 31 0.0 12 0.0 22 0.0 32 1.0\n");
     EXPECT_EQ(
@@ -218,6 +218,18 @@ TEST(EarlyDwg, TablesAreThoseOfTheRelease)
     const TextTree early = readTree(readDrawing(makerWithTables(r9).file()).text);
     EXPECT_EQ(recordsOf(early, "VIEW"), "VIEW 2 FRONT 70 0 40 1.0 10 2.0 20 3.0 41 4.0 11 0.0 21 -1.0 31 0.0\n");
     EXPECT_EQ(recordsOf(early, "APPID"), "");
+}
+
+TEST(EarlyDwg, WhatIsNotKnownOfAViewIsLeftOut)
+{
+    EarlyFileMaker maker(r12);
+    maker.addRecord(EarlyTableKind::Views, 0, "TURNED",
+                    "1.0 2.0 3.0 4.0 0.0 -1.0 0.0 w0 5.0 6.0 7.0 50.0 0.0 1.0 0.0 w1");
+    const DrawingText drawing = readDrawing(maker.file());
+    EXPECT_EQ(
+        recordsOf(readTree(drawing.text), "VIEW"),
+        "VIEW 2 TURNED 70 0 40 1.0 10 2.0 20 3.0 41 4.0 11 0.0 21 -1.0 31 0.0 12 5.0 22 6.0 32 7.0 42 50.0 71 1\n");
+    EXPECT_EQ(problemsOf(drawing), "VIEW: Clipping planes and turn of the view are left out.\n");
 }
 
 TEST(EarlyDwg, DeletedRecordsOfTablesAreCountedAlone)

@@ -38,6 +38,7 @@ struct EarlyTableFields
 {
     Fields &f;
     const EarlyNames &names;
+    const char *doubt = nullptr; ///< what is left out because no known file tells what it is
 
     void byte(int code) { f.note(code, static_cast<int>(f.values().byte())); }
     void number(int code) { f.note(code, static_cast<std::int16_t>(f.values().raw16())); }
@@ -115,9 +116,15 @@ void readEarlyView(EarlyTableFields &r)
     if (f.release() < Release::R10)
         return;
     f.rawPoint(12);
-    for (const int code : {42, 43, 44})
-        f.rawReal(code);
-    r.angle(50);
+    f.rawReal(42);
+    // The two clipping planes and the turn, of which no known file tells which is which.
+    const std::size_t begin = f.mark();
+    for (const int code : {43, 44, 50}) {
+        if (f.rawReal(code) != 0.0)
+            r.doubt = "Clipping planes and turn of the view are left out.";
+    }
+    if (r.doubt)
+        f.drop(begin);
     r.number(71);
 }
 
@@ -229,13 +236,14 @@ private:
         begin(row.name, record.body);
         m_fields.note(2, record.name);
         m_fields.note(70, record.flags);
-        EarlyTableFields fields{m_fields, m_names};
+        EarlyTableFields fields{.f = m_fields, .names = m_names};
         if (row.read)
             row.read(fields);
         if (m_fields.hasFailed() || m_fields.values().left() != 0)
-            m_problems.add({Problem::Kind::Lost, "Its values do not fill its record.", row.name, 0});
-        else
-            m_fields.write(m_text);
+            return m_problems.add({Problem::Kind::Lost, "Its values do not fill its record.", row.name, 0});
+        if (fields.doubt)
+            m_problems.add({Problem::Kind::Warning, fields.doubt, row.name, 0});
+        m_fields.write(m_text);
     }
 
     const EarlyFile &m_file;

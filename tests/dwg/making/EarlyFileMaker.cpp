@@ -1,4 +1,4 @@
-#include "tests/dwg/EarlyFileMaker.h"
+#include "tests/dwg/making/EarlyFileMaker.h"
 
 #include "host/dwg/bits/Checksums.h"
 
