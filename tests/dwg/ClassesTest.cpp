@@ -191,6 +191,37 @@ const ClassRow classRows[] = {
      "90 1|330 52|90 1|330 52|"},
     {"ACDBASSOCDEPENDENCY", "l2 l0 b1 b0 b1 b0 l0 h50 b1 tName h0 h51 h0 l1",
      "100 AcDbAssocDependency|90 2|90 0|290 1|290 0|290 1|290 0|90 0|330 50|290 1|1 Name|330 0|330 51|360 0|90 1|"},
+    {"RAPIDRTRENDERSETTINGS", "l2 tMedium b1 b0 b1 b1 t tLevels l0 l3 s0 l5 l1 s1 s2 d3 d2 b1",
+     "100 AcDbRenderSettings|90 2|1 Medium|290 1|290 0|290 1|290 1|1 |1 Levels|90 0|100 AcDbRapidRTRenderSettings|90 3|"
+     "70 0|90 5|90 1|70 1|70 2|40 3.0|40 2.0|290 1|"},
+    {"MESH", "s2 b0 l1 l3 p0,0,0 p1,0,0 p1,1,0 l4 l3 l0 l1 l2 l1 l0 l1 l1 d0.5 l0",
+     "100 AcDbSubDMesh|71 2|72 0|91 1|92 3|10 0.0|20 0.0|30 0.0|10 1.0|20 0.0|30 0.0|10 1.0|20 1.0|30 0.0|93 4|90 3|"
+     "90 0|90 1|90 2|94 1|90 0|90 1|95 1|140 0.5|90 0|",
+     true},
+    {"PDFUNDERLAY", "p0,0,1 p1,2,0 d0 d1 d1 d1 c26 c100 c20 h50 l2 f0,0 f2,1 l2 f3,3 f4,4",
+     "100 AcDbUnderlayReference|340 50|10 1.0|20 2.0|30 0.0|41 1.0|42 1.0|43 1.0|50 0.0|210 0.0|220 0.0|230 1.0|280 26|"
+     "281 100|282 20|11 0.0|21 0.0|11 2.0|21 1.0|12 3.0|22 3.0|12 4.0|22 4.0|",
+     true},
+    {"PDFDEFINITION", "tplan.pdf t1", "100 AcDbUnderlayDefinition|1 plan.pdf|2 1|"},
+    {"ACDB_TEXTOBJECTCONTEXTDATA_CLASS", "s4 b1 h50 s1 d0 f1,2 f3,4",
+     "100 AcDbObjectContextData|70 4|290 1|100 AcDbAnnotScaleObjectContextData|340 50|70 1|50 0.0|10 1.0|20 2.0|11 3.0|"
+     "21 4.0|"},
+    {"ACDB_MTEXTOBJECTCONTEXTDATA_CLASS", "s4 b1 h50 l1 p1,0,0 p5,6,0 d40 d0 d38 d4 l2 l2 d18 d2 b0 b0 d4 d3",
+     "100 AcDbObjectContextData|70 4|290 1|100 AcDbAnnotScaleObjectContextData|340 50|70 1|10 1.0|20 0.0|30 0.0|11 5.0|"
+     "21 6.0|31 0.0|40 40.0|41 0.0|42 38.0|43 4.0|71 2|72 2|44 18.0|45 2.0|73 0|74 0|46 4.0|46 3.0|"},
+    {"ACDB_BLKREFOBJECTCONTEXTDATA_CLASS", "s4 b0 h50 d0 p1,2,3 d2 d3 d4",
+     "100 AcDbObjectContextData|70 4|290 0|100 AcDbAnnotScaleObjectContextData|340 50|50 0.0|10 1.0|20 2.0|30 3.0|"
+     "41 2.0|42 3.0|43 4.0|"},
+    {"GEODATA",
+     "l2 h50 s1 p1,2,0 p9,51,0 d1 l6 d1 l6 p0,0,1 f0,1 l1 d1 b0 d0 d0 tSystem t t t t l1 f1,2 f9,51 l1 l0 l1 l2",
+     "100 AcDbGeoData|90 2|330 50|70 1|10 1.0|20 2.0|30 0.0|11 9.0|21 51.0|31 0.0|40 1.0|91 6|41 1.0|92 6|210 0.0|"
+     "220 0.0|230 1.0|12 0.0|22 1.0|95 1|141 1.0|294 0|142 0.0|143 0.0|301 System|302 |305 |306 |307 |93 1|13 1.0|"
+     "23 2.0|14 9.0|24 51.0|96 1|97 0|98 1|99 2|",
+     false, Release::R2010},
+    {"HELIX", "l2 l0 l0 l3 d1e-10 p0,0,0 p0,0,0 l0 l29 l1 p0,0,0 p1,0,0 p0,0,1 d1 d3 d2 b1 c1",
+     "100 AcDbSpline|70 1032|71 3|72 0|73 0|74 0|44 1e-10|12 0.0|22 0.0|32 0.0|13 0.0|23 0.0|33 0.0|100 AcDbHelix|90 "
+     "29|91 1|10 0.0|20 0.0|30 0.0|11 1.0|21 0.0|31 0.0|12 0.0|22 0.0|32 1.0|40 1.0|41 3.0|42 2.0|290 1|280 1|",
+     true, Release::R2013},
     {"TABLEGEOMETRY", "l1 l1 l1 l3 d25 d9 h0 l1 p1,2,0 p3,4,0 d5 d6 d7 d8 l0",
      "100 AcDbTableGeometry|90 1|91 1|92 1|93 3|40 25.0|41 9.0|330 0|94 1|10 1.0|20 2.0|30 0.0|11 3.0|21 4.0|31 0.0|"
      "43 5.0|44 6.0|45 7.0|46 8.0|95 0|"},
@@ -249,6 +280,28 @@ TEST(DwgClasses, WhatLeavesBitsOverIsKeptAsItIs)
             EXPECT_EQ(read.drawing.problems.lostCount(), 0u) << row.name << more;
         }
     }
+}
+
+TEST(DwgClasses, EmbeddedObjectsStandWhereTheirDataSays)
+{
+    MadeDrawing drawing(Release::R2000);
+    const std::uint64_t handle = drawing.addEntity(0x4a, [](ObjectWriter &o) {
+        BitWriter data;
+        data.raw16(0x5580);
+        for (const double ordinate : {1.0, 9.0, 0.0, 8.0, 9.0, 0.0, 8.0, 2.0, 0.0, 1.0, 2.0, 0.0})
+            data.rawReal(ordinate);
+        data.rawBytes(std::string(128 - data.position() / 8, '\x7f'));
+        o.int16(2);
+        o.int16(1);
+        o.int32(128);
+        o.values().append(data);
+        o.small(3);
+    });
+    const ReadBack read = readBack(drawing);
+    const std::string tags = read.lastPart(handle);
+    EXPECT_EQ(tags.substr(0, tags.find("310")), "70 2|10 1.0|20 9.0|30 0.0|11 8.0|21 2.0|31 0.0|72 1|90 128|");
+    EXPECT_EQ(tags.substr(tags.size() - 6), "1 OLE|");
+    EXPECT_EQ(read.problems(), "");
 }
 
 } // namespace host::dwg::test

@@ -204,6 +204,21 @@ void readSpline(Fields &f)
         readControlSpline(f, degree);
 }
 
+void readHelix(Fields &f)
+{
+    readSpline(f);
+    f.subclass("AcDbHelix");
+    f.int32(90);
+    f.int32(91);
+    f.point(10);
+    f.point(11);
+    f.point(12);
+    for (int code = 40; code <= 42; ++code)
+        f.real(code);
+    f.flag(290);
+    f.small(280);
+}
+
 } // namespace
 
 std::span<const ObjectType> curveTypes()
@@ -212,7 +227,7 @@ std::span<const ObjectType> curveTypes()
         {0x11, "ARC", readArc, true},     {0x12, "CIRCLE", readCircle, true},   {0x13, "LINE", readLine, true},
         {0x1b, "POINT", readPoint, true}, {0x1c, "3DFACE", readFace, true},     {0x1f, "SOLID", readTrace, true},
         {0x20, "TRACE", readTrace, true}, {0x23, "ELLIPSE", readEllipse, true}, {0x24, "SPLINE", readSpline, true},
-        {0x28, "RAY", readRay, true},     {0x29, "XLINE", readXline, true},
+        {0x28, "RAY", readRay, true},     {0x29, "XLINE", readXline, true},     {0, "HELIX", readHelix, true},
     };
     return rows;
 }

@@ -192,23 +192,6 @@ void readSectionViewStyle(Fields &f)
     f.moveRange(further + 1, hatch + 1, identifiers);
 }
 
-void readLeaderContext(Fields &f)
-{
-    f.subclass("AcDbObjectContextData");
-    f.int16(70);
-    f.flag(290);
-    f.subclass("AcDbAnnotScaleObjectContextData");
-    f.reference(340);
-    const std::size_t points = f.count(6);
-    f.note(70, points);
-    for (std::size_t i = 0; i < points; ++i)
-        f.point(10);
-    f.point(11);
-    f.flag(290);
-    f.point(12);
-    f.point(13);
-}
-
 } // namespace
 
 std::span<const ObjectType> styleTypes()
@@ -218,7 +201,6 @@ std::span<const ObjectType> styleTypes()
         {0, "MLEADERSTYLE", readLeaderStyle},
         {0, "ACDBDETAILVIEWSTYLE", readDetailViewStyle},
         {0, "ACDBSECTIONVIEWSTYLE", readSectionViewStyle},
-        {0, "ACDB_LEADEROBJECTCONTEXTDATA_CLASS", readLeaderContext},
     };
     return rows;
 }

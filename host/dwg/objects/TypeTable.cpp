@@ -11,12 +11,13 @@ struct AllTypes
     AllTypes()
     {
         for (const auto rows :
-             {curveTypes(),        polylineTypes(),    textTypes(),        paragraphTypes(),      insertTypes(),
-              dimensionTypes(),    multiLeaderTypes(), hatchTypes(),       solidTypes(),          viewportTypes(),
-              imageTypes(),        multiLineTypes(),   tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
-              layoutTypes(),       materialTypes(),    visualStyleTypes(), styleTypes(),          tableStyleTypes(),
-              tableContentTypes(), tableEntityTypes(), fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
-              filterTypes(),       evaluationTypes(),  associativeTypes()}) {
+             {curveTypes(),        polylineTypes(),     textTypes(),        paragraphTypes(),      insertTypes(),
+              dimensionTypes(),    multiLeaderTypes(),  hatchTypes(),       solidTypes(),          viewportTypes(),
+              imageTypes(),        multiLineTypes(),    tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
+              layoutTypes(),       materialTypes(),     visualStyleTypes(), styleTypes(),          tableStyleTypes(),
+              tableContentTypes(), tableEntityTypes(),  fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
+              filterTypes(),       evaluationTypes(),   associativeTypes(), renderTypes(),         meshTypes(),
+              underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes()}) {
             for (const ObjectType &row : rows) {
                 if (row.number != 0)
                     byNumber.emplace(row.number, &row);

@@ -54,5 +54,11 @@ std::span<const ObjectType> lightTypes();
 std::span<const ObjectType> filterTypes();      ///< clips of inserts, filters and indexes
 std::span<const ObjectType> evaluationTypes();  ///< what blocks and solids are worked out from
 std::span<const ObjectType> associativeTypes(); ///< what follows other objects
+std::span<const ObjectType> renderTypes();
+std::span<const ObjectType> meshTypes();
+std::span<const ObjectType> underlayTypes();     ///< sheets of other files, and what defines them
+std::span<const ObjectType> scaleContextTypes(); ///< what entities look like at one scale
+std::span<const ObjectType> geographicTypes();
+std::span<const ObjectType> embeddedTypes(); ///< what other programs embedded
 
 } // namespace host::dwg
