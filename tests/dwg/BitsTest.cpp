@@ -139,18 +139,24 @@ TEST(DwgBits, ChecksumsAreThoseOfKnownBytes)
     EXPECT_EQ(pageChecksum(bytes, 0), 0x091501ddu);
 }
 
-TEST(DwgBits, PagesUnpackToTheirSizeOrNotAtAll)
+TEST(DwgBits, PagesUnpackAsFarAsTheyAreWhole)
 {
+    const auto unpacked = [](const std::vector<std::uint8_t> &packed, std::size_t size, bool isWhole) {
+        std::string page(size, '.');
+        const std::span<std::uint8_t> bytes(reinterpret_cast<std::uint8_t *>(page.data()), page.size());
+        EXPECT_EQ(unpackPage(packed, bytes), isWhole) << packed.size();
+        return page;
+    };
     // Four bytes as they are, then the last one twelve times, then the end.
     const std::vector<std::uint8_t> packed = {0x01, 'a', 'b', 'c', 'd', 0xd0, 0x00, 0x11};
-    const auto unpacked = unpackPage(packed, 16);
-    ASSERT_TRUE(unpacked);
-    EXPECT_EQ(std::string(unpacked->begin(), unpacked->end()), "abc" + std::string(13, 'd'));
-    EXPECT_FALSE(unpackPage(packed, 3));
-    const std::vector<std::uint8_t> before = {0x01, 'a', 'b', 'c', 'd', 0x40, 0xff, 0x11};
-    EXPECT_FALSE(unpackPage(before, 16)) << "copies from in front of the page";
+    EXPECT_EQ(unpacked(packed, 16, true), "abcddddddddddddd");
+    EXPECT_EQ(unpacked(packed, 20, true), "abcddddddddddddd....");
+    EXPECT_EQ(unpacked(packed, 10, false), "abcd......") << "a run goes beyond the page";
+    EXPECT_EQ(unpacked(packed, 3, false), "...");
+    EXPECT_EQ(unpacked({0x01, 'a', 'b', 'c', 'd', 0x40, 0xff, 0x11}, 8, false), "abcd....")
+        << "from in front of the page";
     for (std::size_t length = 0; length + 1 < packed.size(); ++length)
-        EXPECT_FALSE(unpackPage(Bytes(packed).first(length), 16)) << length;
+        unpacked({packed.begin(), packed.begin() + static_cast<std::ptrdiff_t>(length)}, 16, false);
 }
 
 TEST(DwgBits, ColoursHaveTheIndexThatIsNearest)

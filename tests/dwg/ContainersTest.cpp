@@ -2,6 +2,7 @@
 // everything that is not hit comes out.
 
 #include "host/dwg/bits/ErrorCorrection.h"
+#include "host/dwg/container/Pages.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <algorithm>
@@ -73,6 +74,66 @@ const DamageRow correctedRows[] = {
      "4 damaged bytes were put right.\n"},
 };
 
+/// Where the pages of a paged file are: those of the sections in their order, the map of sections, the map of pages.
+std::vector<std::size_t> pagePlaces(const FileBytes &file)
+{
+    std::vector<std::size_t> places;
+    for (std::size_t at = pagesStart; at < file.size(); at += pageUnit) {
+        if (dataPageAt(file, at) || mapPageAt(file, at, MapType::Sections) || mapPageAt(file, at, MapType::Pages))
+            places.push_back(at);
+    }
+    return places;
+}
+
+void damagePage(FileBytes &file, std::size_t fromEnd, std::size_t offset)
+{
+    const std::vector<std::size_t> places = pagePlaces(file);
+    file[places[places.size() - 1 - fromEnd] + offset] ^= 0xff;
+}
+
+constexpr std::size_t pageMap = 0;
+constexpr std::size_t sectionMap = 1;
+constexpr std::size_t lastObjects = 2; ///< the page with the last objects, of three
+
+const DamageRow pagedRows[] = {
+    {"the header", Release::R2004, [](FileBytes &file) { file[0x90] ^= 1; },
+     "The header of the file is damaged; its copy was read.\n"},
+    {"the header, with other bytes behind its copy", Release::R2018,
+     [](FileBytes &file) {
+         invert(file, 0x80, 0x6c);
+         file.resize(file.size() + 100);
+     },
+     "The header of the file is damaged; its copy was read.\n"},
+    {"the checksum of the header and its copy", Release::R2010,
+     [](FileBytes &file) {
+         file[0x80 + 0x68] ^= 1;
+         file.resize(file.size() - 0x6c);
+     },
+     "The checksum of the file's header does not fit.\n"},
+    {"the checksum of the map of pages", Release::R2004, [](FileBytes &file) { damagePage(file, pageMap, 0x10); },
+     "The checksum of the map of pages does not fit.\n"},
+    {"the map of pages", Release::R2013, [](FileBytes &file) { damagePage(file, pageMap, 0); },
+     "The map of the file's pages cannot be read; pages were looked for.\n"},
+    {"sizes in the map of pages", Release::R2010,
+     [](FileBytes &file) {
+         // Behind the head and the length of the plain bytes: the size of the first page, so all others stand
+         // elsewhere.
+         damagePage(file, pageMap, 0x14 + 2 + 4);
+     },
+     "The checksum of the map of pages does not fit.\n"},
+    {"the checksum of the map of sections", Release::R2004, [](FileBytes &file) { damagePage(file, sectionMap, 0x10); },
+     "The checksum of the map of sections does not fit.\n"},
+    {"the map of sections", Release::R2004, [](FileBytes &file) { damagePage(file, sectionMap, 0); },
+     "The map of the file's sections cannot be read.\nThe file has no map of its objects.\n", false},
+    {"the head of a page", Release::R2004, [](FileBytes &file) { damagePage(file, lastObjects, 0x18); },
+     "The head of a page of the section AcDb:AcDbObjects is damaged.\n"},
+    {"the kind of a page", Release::R2018, [](FileBytes &file) { damagePage(file, lastObjects, 0); },
+     "The head of a page of the section AcDb:AcDbObjects is damaged.\n"},
+    {"the last byte of a page, which is filled up", Release::R2010,
+     [](FileBytes &file) { damagePage(file, lastObjects, dataPageHead + 0x400); },
+     "The checksum of a page of the section AcDb:AcDbObjects does not fit.\n"},
+};
+
 } // namespace
 
 TEST(DwgContainers, BlocksArePutRight)
@@ -109,6 +170,26 @@ TEST(DwgContainers, DamageOfCorrectedPages)
 {
     for (const DamageRow &row : correctedRows)
         expectDamage(row);
+}
+
+TEST(DwgContainers, DamageOfPages)
+{
+    for (const DamageRow &row : pagedRows)
+        expectDamage(row);
+}
+
+TEST(DwgContainers, WhatIsInFrontOfDamageInAPageIsThere)
+{
+    FileBytes file = circles(Release::R2010);
+    const ReadBack whole = readBack(file);
+    // The number that says how many plain bytes stand in the page: too many.
+    damagePage(file, lastObjects, dataPageHead);
+    const ReadBack read = readBack(file);
+    EXPECT_TRUE(read.problems().starts_with("The checksum of a page of the section AcDb:AcDbObjects does not fit.\n"
+                                            "A page of the section AcDb:AcDbObjects cannot be read.\n"))
+        << read.problems();
+    EXPECT_EQ(read.record(0x40), whole.record(0x40));
+    EXPECT_EQ(read.record(0x40 + 39), "");
 }
 
 } // namespace host::dwg::test

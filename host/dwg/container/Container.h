@@ -34,8 +34,8 @@ struct Container
 Release releaseOf(Bytes file);
 
 /// Takes a file apart. `file` must outlive the container. Each part that cannot be had is empty and told among the
-/// problems; checksums that do not fit are warnings. Memory: what the pages say they unpack to, refused where that is
-/// more than 300 times the file.
+/// problems; checksums that do not fit are warnings. Memory: what the pages say they unpack to, refused beyond the
+/// limit of Growth.h.
 Container openContainer(Bytes file, Problems &problems);
 
 // The kinds of containers, for openContainer().

@@ -1,6 +1,7 @@
 #include "host/dwg/bits/Checksums.h"
 #include "host/dwg/bits/ErrorCorrection.h"
 #include "host/dwg/container/Container.h"
+#include "host/dwg/container/Growth.h"
 #include "host/dwg/container/PageCompression2007.h"
 
 #include <algorithm>
@@ -13,8 +14,6 @@ using PageBytes = std::vector<std::uint8_t>;
 
 constexpr std::size_t headerPlace = 0x80;
 constexpr std::size_t pagesPlace = 0x480;
-
-constexpr std::uint64_t mostGrowth2007 = 300;
 
 /// The bytes that were put right in a page, and whether there were more.
 struct Correction
@@ -60,13 +59,22 @@ std::size_t blocksFor(std::uint64_t size, ErrorCode code)
     return (size + ownBytes(code) - 1) / ownBytes(code);
 }
 
-std::optional<PageBytes> unpacked(Bytes packed, std::uint64_t packedSize, std::uint64_t size)
+/// The bytes of a page: unpacked where they take less room than they say to be. False where they are damaged; what is
+/// in front of the damage is in `page` then.
+bool unpackInto(std::span<std::uint8_t> page, Bytes packed, std::uint64_t packedSize)
 {
     if (packedSize > packed.size())
-        return std::nullopt;
-    if (packedSize < size)
-        return unpackPage2007(packed.first(packedSize), size);
-    return PageBytes(packed.begin(), packed.begin() + static_cast<std::ptrdiff_t>(std::min(size, packedSize)));
+        return false;
+    if (packedSize < page.size())
+        return unpackPage2007(packed.first(packedSize), page);
+    std::copy_n(packed.begin(), page.size(), page.begin());
+    return true;
+}
+
+std::optional<PageBytes> unpacked(Bytes packed, std::uint64_t packedSize, std::uint64_t size)
+{
+    PageBytes page(size);
+    return unpackInto(page, packed, packedSize) ? std::optional(std::move(page)) : std::nullopt;
 }
 
 /// Where one of the two maps is. Each has a copy.
@@ -96,7 +104,10 @@ struct Section2007
 class File2007
 {
 public:
-    File2007(Bytes file, Problems &problems) : m_file(file), m_problems(problems) {}
+    File2007(Bytes file, Problems &problems)
+        : m_file(file), m_problems(problems), m_room(file.size()), m_work(file.size())
+    {
+    }
 
     void read(Container &container)
     {
@@ -176,7 +187,7 @@ private:
 
     std::optional<PageBytes> mapAt(std::uint64_t place, const MapPlace &map)
     {
-        if (map.packedSize > m_file.size() || map.size > m_file.size() * mostGrowth2007 || map.repeat > 1000)
+        if (map.packedSize > m_file.size() || map.size > largestMap(m_file.size()) || map.repeat > 1000)
             return std::nullopt;
         const Bytes bytes =
             pageAt(place, blocksFor((map.packedSize + 7) / 8 * 8 * map.repeat, ErrorCode::Maps) * correctedBlock);
@@ -215,7 +226,7 @@ private:
     {
         Section2007 section;
         section.size = reader.raw64();
-        reader.raw64(); // the size of its pages
+        const std::uint64_t pageSize = reader.raw64();
         reader.raw64(); // encryption
         reader.raw64(); // a number made of the name
         const std::uint64_t nameLength = reader.raw64();
@@ -223,21 +234,22 @@ private:
         section.encoding = reader.raw64();
         section.pageCount = reader.raw64();
         section.name = reader.utf16(nameLength / 2);
-        m_sectionSize += std::min(section.size, m_file.size() * mostGrowth2007 + 1);
-        if (m_sectionSize > m_file.size() * mostGrowth2007 || reader.hasFailed()) {
+        // The last page may go beyond the end of the section.
+        if (reader.hasFailed() || !m_room.take(section.size) || !m_room.take(pageSize)) {
             m_problems.lose("The sections are larger than the file can hold.");
             return reader.fail();
         }
-        std::vector<std::uint8_t> &bytes = container.storage.emplace_back(section.size);
+        std::vector<std::uint8_t> &bytes = container.storage.emplace_back(section.size + pageSize);
         for (std::uint64_t i = 0; i < section.pageCount && !reader.hasFailed(); ++i) {
             if (!readPage(reader, section, bytes))
                 m_problems.lose("A page of the section " + section.name + " cannot be read.");
         }
-        assignSection(container, section.name, bytes);
+        assignSection(container, section.name, Bytes(bytes).first(section.size));
     }
 
-    bool readPage(BitReader &reader, const Section2007 &section, std::vector<std::uint8_t> &bytes)
+    bool readPage(BitReader &reader, const Section2007 &section, std::span<std::uint8_t> bytes)
     {
+        constexpr std::uint64_t withCorrection = 4;
         const std::uint64_t start = reader.raw64();
         reader.raw64(); // its size in the file
         const auto number = static_cast<std::int64_t>(reader.raw64());
@@ -246,56 +258,34 @@ private:
         const auto checksum = static_cast<std::uint32_t>(reader.raw64());
         reader.raw64(); // another one, of 64 bits
         const auto found = m_pages.find(number);
-        if (found == m_pages.end() || start > bytes.size() || packedSize > m_file.size())
+        if (found == m_pages.end() || start > bytes.size() || size > bytes.size() - start ||
+            packedSize > m_file.size() || !m_work.take(size + packedSize))
             return false;
-        m_unpackedSize += size;
-        if (size > m_file.size() * mostGrowth2007 || m_unpackedSize > m_file.size() * mostGrowth2007)
-            return false;
-        constexpr std::uint64_t withCorrection = 4;
-        const auto content = section.encoding == withCorrection
-                                 ? pageContent(found->second, packedSize, size, checksum)
-                                 : plainContent(found->second, packedSize, size, checksum);
-        if (content)
-            std::copy_n(content->begin(), std::min<std::size_t>(content->size(), bytes.size() - start),
-                        bytes.begin() + static_cast<std::ptrdiff_t>(start));
-        return content.has_value();
+        const auto page = bytes.subspan(start, size);
+        const bool isUnpacked = section.encoding == withCorrection
+                                    ? readBlocks(found->second, packedSize, page, checksum)
+                                    : unpackInto(page, pageAt(found->second, packedSize), packedSize);
+        if (isUnpacked && pageChecksum2007(page) != checksum)
+            m_problems.warn("The checksum of a page of the section " + section.name + " does not fit.");
+        return isUnpacked;
     }
 
     /// Blocks are looked at for damaged bytes only where the checksum tells that there are any.
-    std::optional<PageBytes> pageContent(std::uint64_t place, std::uint64_t packedSize, std::uint64_t size,
-                                         std::uint32_t checksum)
+    bool readBlocks(std::uint64_t place, std::uint64_t packedSize, std::span<std::uint8_t> page, std::uint32_t checksum)
     {
         const Bytes bytes = pageAt(place, blocksFor((packedSize + 7) / 8 * 8, ErrorCode::Data) * correctedBlock);
-        if (bytes.empty() && packedSize > 0)
-            return std::nullopt;
-        auto content = unpacked(ownBytesOf(bytes, ErrorCode::Data), packedSize, size);
-        if (content && pageChecksum2007(*content) == checksum)
-            return content;
-        PageBytes page(bytes.begin(), bytes.end());
-        const Correction correction = correctPage(page, ErrorCode::Data);
-        auto corrected = unpacked(ownBytesOf(page, ErrorCode::Data), packedSize, size);
-        if (corrected && pageChecksum2007(*corrected) == checksum) {
-            m_corrected += correction.count;
-            return corrected;
-        }
-        m_problems.warn("The checksum of a page does not fit.");
-        return corrected ? std::move(corrected) : std::move(content);
-    }
-
-    std::optional<PageBytes> plainContent(std::uint64_t place, std::uint64_t packedSize, std::uint64_t size,
-                                          std::uint32_t checksum)
-    {
-        auto content = unpacked(pageAt(place, packedSize), packedSize, size);
-        if (content && pageChecksum2007(*content) != checksum)
-            m_problems.warn("The checksum of a page does not fit.");
-        return content;
+        if (unpackInto(page, ownBytesOf(bytes, ErrorCode::Data), packedSize) && pageChecksum2007(page) == checksum)
+            return true;
+        PageBytes blocks(bytes.begin(), bytes.end());
+        m_corrected += correctPage(blocks, ErrorCode::Data).count;
+        return unpackInto(page, ownBytesOf(blocks, ErrorCode::Data), packedSize);
     }
 
     Bytes m_file;
     Problems &m_problems;
     std::map<std::int64_t, std::uint64_t> m_pages;
-    std::uint64_t m_sectionSize = 0; ///< of all sections so far
-    std::uint64_t m_unpackedSize = 0;
+    Growth m_room;               ///< for sections
+    Growth m_work;               ///< for pages, which a hostile file has again and again
     std::size_t m_corrected = 0; ///< bytes
 };
 

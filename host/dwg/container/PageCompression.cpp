@@ -11,22 +11,19 @@ namespace {
 class PageUnpacker
 {
 public:
-    PageUnpacker(Bytes packed, std::size_t size) : m_packed(packed), m_size(size) { m_unpacked.reserve(size); }
+    PageUnpacker(Bytes packed, std::span<std::uint8_t> page) : m_packed(packed), m_page(page) {}
 
-    std::optional<std::vector<std::uint8_t>> run()
+    bool run()
     {
         copyPlain(plainLength());
-        while (!m_hasFailed && m_unpacked.size() < m_size) {
+        while (!m_hasFailed && left() > 0) {
             const std::uint8_t code = m_code != 0 ? m_code : next();
             m_code = 0;
             if (code == endCode)
                 break;
             copyRun(code);
         }
-        if (m_hasFailed || m_unpacked.size() > m_size)
-            return std::nullopt;
-        m_unpacked.resize(m_size);
-        return std::move(m_unpacked);
+        return !m_hasFailed;
     }
 
 private:
@@ -93,42 +90,48 @@ private:
         copyPlain(plain != 0 || m_hasFailed ? plain : plainLengthBehindRun());
     }
 
-    std::size_t plainLengthBehindRun() { return m_unpacked.size() < m_size ? plainLength() : 0; }
+    std::size_t plainLengthBehindRun() { return left() > 0 ? plainLength() : 0; }
+
+    std::size_t left() const { return m_page.size() - m_size; }
 
     void copyBack(std::size_t length, std::size_t back)
     {
-        if (m_hasFailed || back > m_unpacked.size() || length > m_size - m_unpacked.size()) {
+        if (m_hasFailed || back > m_size || length > left()) {
             m_hasFailed = true;
             return;
         }
-        for (std::size_t from = m_unpacked.size() - back; length > 0; --length)
-            m_unpacked.push_back(m_unpacked[from++]);
+        // Byte by byte: a run may go on with what it has just copied.
+        std::uint8_t *to = m_page.data() + m_size;
+        for (std::size_t i = 0; i < length; ++i, ++to)
+            *to = *(to - back);
+        m_size += length;
     }
 
     void copyPlain(std::size_t length)
     {
-        if (m_hasFailed || length > m_packed.size() - m_at || length > m_size - m_unpacked.size()) {
+        if (m_hasFailed || length > m_packed.size() - m_at || length > left()) {
             m_hasFailed = true;
             return;
         }
-        const Bytes plain = m_packed.subspan(m_at, length);
-        m_unpacked.insert(m_unpacked.end(), plain.begin(), plain.end());
+        std::copy_n(m_packed.begin() + static_cast<std::ptrdiff_t>(m_at), length,
+                    m_page.begin() + static_cast<std::ptrdiff_t>(m_size));
+        m_size += length;
         m_at += length;
     }
 
     Bytes m_packed;
-    std::size_t m_size;
-    std::size_t m_at = 0;
+    std::span<std::uint8_t> m_page;
+    std::size_t m_at = 0;    ///< in the packed bytes
+    std::size_t m_size = 0;  ///< of what is unpacked
     std::uint8_t m_code = 0; ///< read where plain bytes could have been
     bool m_hasFailed = false;
-    std::vector<std::uint8_t> m_unpacked;
 };
 
 } // namespace
 
-std::optional<std::vector<std::uint8_t>> unpackPage(Bytes packed, std::size_t size)
+bool unpackPage(Bytes packed, std::span<std::uint8_t> page)
 {
-    return PageUnpacker(packed, size).run();
+    return PageUnpacker(packed, page).run();
 }
 
 } // namespace host::dwg

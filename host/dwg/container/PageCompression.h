@@ -2,13 +2,14 @@
 
 #include "host/dwg/bits/BitReader.h"
 
-#include <optional>
-#include <vector>
-
 namespace host::dwg {
 
-/// Unpacks a page of R2004, R2010 and later: runs of bytes that stand there, and runs that were there before. Exactly
-/// `size` bytes come back; nothing where the page is damaged. Not trusted: never reads or writes beyond both.
-std::optional<std::vector<std::uint8_t>> unpackPage(Bytes packed, std::size_t size);
+/// Unpacks a page of R2004, R2010 and later into `page`: runs of bytes that stand there, and runs that were there
+/// before. False where the page is damaged or has no end within `packed`; what is in front of the damage is in `page`
+/// then. What the packed bytes do not reach stays as it is. Not trusted: never reads or writes beyond both.
+bool unpackPage(Bytes packed, std::span<std::uint8_t> page);
+
+/// The most that a packed byte can become: zeros in a number of a length stand for 255 each.
+constexpr std::size_t mostOfPackedByte = 255;
 
 } // namespace host::dwg

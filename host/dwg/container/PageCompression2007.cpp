@@ -16,9 +16,9 @@ constexpr std::array<std::string_view, 32> pieceOrders = {
 class PageUnpacker2007
 {
 public:
-    PageUnpacker2007(Bytes packed, std::size_t size) : m_packed(packed), m_size(size) { m_unpacked.reserve(size); }
+    PageUnpacker2007(Bytes packed, std::span<std::uint8_t> page) : m_packed(packed), m_page(page) {}
 
-    std::optional<std::vector<std::uint8_t>> run()
+    bool run()
     {
         m_code = next();
         std::size_t plain = 0;
@@ -31,13 +31,12 @@ public:
             copyPlain(plain != 0 ? plain : plainLength());
             plain = hasMore() ? copyRuns() : 0;
         }
-        if (m_hasFailed || m_unpacked.size() != m_size)
-            return std::nullopt;
-        return std::move(m_unpacked);
+        return !m_hasFailed && left() == 0;
     }
 
 private:
-    bool hasMore() const { return !m_hasFailed && m_at < m_packed.size() && m_unpacked.size() < m_size; }
+    std::size_t left() const { return m_page.size() - m_size; }
+    bool hasMore() const { return !m_hasFailed && m_at < m_packed.size() && left() > 0; }
 
     std::uint8_t next()
     {
@@ -133,17 +132,17 @@ private:
 
     void copyBack()
     {
-        if (m_hasFailed || m_back == 0 || m_back > m_unpacked.size() || m_length > m_size - m_unpacked.size()) {
+        if (m_hasFailed || m_back == 0 || m_back > m_size || m_length > left()) {
             m_hasFailed = true;
             return;
         }
-        for (std::size_t from = m_unpacked.size() - m_back; m_length > 0; --m_length)
-            m_unpacked.push_back(m_unpacked[from++]);
+        for (; m_length > 0; --m_length, ++m_size)
+            m_page[m_size] = m_page[m_size - m_back];
     }
 
     void copyPlain(std::size_t length)
     {
-        if (m_hasFailed || length > m_packed.size() - m_at || length > m_size - m_unpacked.size()) {
+        if (m_hasFailed || length > m_packed.size() - m_at || length > left()) {
             m_hasFailed = true;
             return;
         }
@@ -165,7 +164,7 @@ private:
     {
         const auto copy = [this](std::size_t begin, std::size_t count) {
             for (std::size_t i = 0; i < count; ++i)
-                m_unpacked.push_back(m_packed[begin + i]);
+                m_page[m_size++] = m_packed[begin + i];
         };
         if (size == 16) {
             copy(from + 8, 8);
@@ -179,20 +178,20 @@ private:
     }
 
     Bytes m_packed;
-    std::size_t m_size;
-    std::size_t m_at = 0;
+    std::span<std::uint8_t> m_page;
+    std::size_t m_at = 0;   ///< in the packed bytes
+    std::size_t m_size = 0; ///< of what is unpacked
     std::uint8_t m_code = 0;
     std::size_t m_length = 0; ///< of the run that is copied
     std::size_t m_back = 0;   ///< from how far back
     bool m_hasFailed = false;
-    std::vector<std::uint8_t> m_unpacked;
 };
 
 } // namespace
 
-std::optional<std::vector<std::uint8_t>> unpackPage2007(Bytes packed, std::size_t size)
+bool unpackPage2007(Bytes packed, std::span<std::uint8_t> page)
 {
-    return PageUnpacker2007(packed, size).run();
+    return PageUnpacker2007(packed, page).run();
 }
 
 } // namespace host::dwg

@@ -2,14 +2,11 @@
 
 #include "host/dwg/bits/BitReader.h"
 
-#include <optional>
-#include <vector>
-
 namespace host::dwg {
 
-/// Unpacks a page of R2007, which packs in another way than other releases: bytes that stand there as they are are in
-/// an order of their own. Exactly `size` bytes come back; nothing where the page is damaged. Not trusted: never reads
-/// or writes beyond both.
-std::optional<std::vector<std::uint8_t>> unpackPage2007(Bytes packed, std::size_t size);
+/// Unpacks a page of R2007 into `page`, which it fills. R2007 packs in another way than other releases: bytes that
+/// stand there as they are are in an order of their own. False where the page is damaged; what is in front of the
+/// damage is in `page` then. Not trusted: never reads or writes beyond both.
+bool unpackPage2007(Bytes packed, std::span<std::uint8_t> page);
 
 } // namespace host::dwg

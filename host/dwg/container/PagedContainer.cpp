@@ -1,6 +1,8 @@
 #include "host/dwg/bits/Checksums.h"
 #include "host/dwg/container/Container.h"
+#include "host/dwg/container/Growth.h"
 #include "host/dwg/container/PageCompression.h"
+#include "host/dwg/container/Pages.h"
 
 #include <algorithm>
 
@@ -8,35 +10,38 @@ namespace host::dwg {
 
 namespace {
 
-constexpr std::uint32_t pageMapType = 0x41630e3b;
-constexpr std::uint32_t sectionMapType = 0x4163003b;
-constexpr std::uint32_t dataPageType = 0x4163043b;
-constexpr std::size_t pagesStart = 0x100; ///< what the places of pages are counted from
+constexpr std::size_t headerPlace = 0x80;
+constexpr std::size_t headerSize = 0x6c;
+using PlainHeader = std::array<std::uint8_t, headerSize>;
 
-/// Unpacked sizes are taken at their word up to this multiple of the file.
-constexpr std::uint64_t mostGrowth = 300;
+constexpr std::string_view signature("AcFssFcAJMB\0", 12);
 
-/// The header at 0x80, which is mixed with a row of numbers.
-std::array<std::uint8_t, 0x6c> plainHeader(Bytes file)
+/// The header without the row of numbers that it is mixed with; mixes one that is plain as well.
+PlainHeader mixedHeader(Bytes bytes)
 {
-    std::array<std::uint8_t, 0x6c> header{};
+    PlainHeader header{};
     std::uint32_t number = 1;
-    for (std::size_t i = 0; i < header.size(); ++i) {
+    for (std::size_t i = 0; i < header.size() && i < bytes.size(); ++i) {
         number = number * 0x343fd + 0x269ec3;
-        header[i] = file[0x80 + i] ^ static_cast<std::uint8_t>(number >> 16);
+        header[i] = bytes[i] ^ static_cast<std::uint8_t>(number >> 16);
     }
     return header;
 }
 
-struct PagePlace
+bool isWhole(PlainHeader header)
 {
-    std::size_t at = 0;
-    std::size_t size = 0;
-};
+    constexpr std::size_t checksumPlace = 0x68;
+    BitReader reader(header);
+    reader.seek(checksumPlace * 8);
+    const std::uint32_t told = reader.raw32();
+    std::fill(header.begin() + checksumPlace, header.end(), std::uint8_t(0));
+    return std::equal(signature.begin(), signature.end(), header.begin()) && checksum32(header, 0) == told;
+}
 
 struct SectionPage
 {
     std::int32_t page = 0;
+    std::uint32_t packedSize = 0;
     std::uint64_t start = 0; ///< within the section
 };
 
@@ -44,81 +49,71 @@ struct SectionDescription
 {
     std::string name;
     std::uint64_t size = 0;
+    std::uint32_t number = 0;
     std::uint32_t pageSize = 0; ///< unpacked
     bool isPacked = false;
     std::vector<SectionPage> pages;
 };
 
-/// Reads the maps of one file and the sections that they tell of.
+/// Reads the maps of one file and the sections that they tell of. Where a map, a copy or a page's head is damaged, the
+/// pages are looked for: each tells in its head which part of which section it has.
 class PagedFile
 {
 public:
-    PagedFile(Bytes file, Problems &problems) : m_file(file), m_problems(problems) {}
+    PagedFile(Bytes file, Problems &problems)
+        : m_file(file), m_problems(problems), m_room(file.size()), m_work(file.size())
+    {
+    }
 
     void read(Container &container)
     {
-        if (m_file.size() < 0x80 + 0x6c)
+        if (m_file.size() < headerPlace + headerSize)
             return m_problems.lose("The file ends within its header.");
-        auto header = plainHeader(m_file);
+        const PlainHeader header = findHeader();
         BitReader reader(header);
-        reader.seek(0x50 * 8);
-        reader.raw32();
+        reader.seek(0x54 * 8);
         const std::uint64_t mapPlace = reader.raw64();
         const auto sectionMapPage = static_cast<std::int32_t>(reader.raw32());
-        checkHeader(header);
         readPageMap(mapPlace);
         for (const SectionDescription &section : readSectionMap(sectionMapPage))
             readSection(section, container);
     }
 
 private:
-    void checkHeader(std::array<std::uint8_t, 0x6c> header)
+    /// The header in front, else its copy at the end of the file.
+    PlainHeader findHeader()
     {
-        BitReader reader(header);
-        reader.seek(0x68 * 8);
-        const std::uint32_t told = reader.raw32();
-        std::fill(header.begin() + 0x68, header.end(), std::uint8_t(0));
-        if (checksum32(header, 0) != told)
-            m_problems.warn("The checksum of the file's header does not fit.");
-    }
-
-    /// A page of the two maps, unpacked.
-    std::optional<std::vector<std::uint8_t>> mapPage(std::size_t at, std::uint32_t type)
-    {
-        constexpr std::size_t headSize = 0x14;
-        if (at > m_file.size() || m_file.size() - at < headSize)
-            return std::nullopt;
-        BitReader reader(m_file, at * 8, m_file.size() * 8);
-        const bool isRightType = reader.raw32() == type;
-        const std::uint32_t size = reader.raw32();
-        const std::uint32_t packedSize = reader.raw32();
-        const std::uint32_t packing = reader.raw32();
-        const std::uint32_t told = reader.raw32();
-        if (!isRightType || packedSize > m_file.size() - at - headSize || size > m_file.size() * mostGrowth)
-            return std::nullopt;
-        std::vector<std::uint8_t> head(m_file.begin() + static_cast<std::ptrdiff_t>(at),
-                                       m_file.begin() + static_cast<std::ptrdiff_t>(at + headSize));
-        std::fill(head.end() - 4, head.end(), std::uint8_t(0));
-        const Bytes packed = m_file.subspan(at + headSize, packedSize);
-        if (pageChecksum(packed, pageChecksum(head, 0)) != told)
-            m_problems.warn("The checksum of a map of the file does not fit.");
-        if (packing == 2)
-            return unpackPage(packed, size);
-        return std::vector<std::uint8_t>(packed.begin(), packed.end());
+        const PlainHeader header = mixedHeader(m_file.subspan(headerPlace));
+        if (isWhole(header))
+            return header;
+        PlainHeader begin{};
+        std::copy(signature.begin(), signature.end(), begin.begin());
+        begin = mixedHeader(begin);
+        const auto found =
+            std::find_end(m_file.begin() + pagesStart, m_file.end(), begin.begin(), begin.begin() + signature.size());
+        const PlainHeader copy = mixedHeader(Bytes(found, m_file.end()));
+        if (isWhole(copy)) {
+            m_problems.warn("The header of the file is damaged; its copy was read.");
+            return copy;
+        }
+        m_problems.warn("The checksum of the file's header does not fit.");
+        return header;
     }
 
     void readPageMap(std::uint64_t place)
     {
-        const auto map = place < m_file.size() ? mapPage(place + pagesStart, pageMapType) : std::nullopt;
+        const auto map = place < m_file.size() ? mapPageAt(m_file, place + pagesStart, MapType::Pages) : std::nullopt;
         if (!map)
-            return m_problems.lose("The map of the file's pages cannot be read.");
-        BitReader reader(*map);
-        std::size_t at = pagesStart;
-        while (reader.left() >= 64) {
+            return m_problems.warn("The map of the file's pages cannot be read; pages were looked for.");
+        if (!map->isChecked)
+            m_problems.warn("The checksum of the map of pages does not fit.");
+        BitReader reader(map->bytes);
+        std::uint64_t at = pagesStart;
+        while (reader.left() >= 64 && at < m_file.size() && m_places.size() <= m_file.size() / pageUnit) {
             const auto number = static_cast<std::int32_t>(reader.raw32());
-            const std::size_t size = reader.raw32();
+            const std::uint32_t size = reader.raw32();
             if (number > 0)
-                m_pages[number] = {at, size};
+                m_places[number] = at;
             else
                 reader.skip(std::min<std::size_t>(reader.left(), 16 * 8)); // what a gap has
             at += size;
@@ -127,13 +122,20 @@ private:
 
     std::vector<SectionDescription> readSectionMap(std::int32_t page)
     {
-        const auto found = m_pages.find(page);
-        const auto map = found != m_pages.end() ? mapPage(found->second.at, sectionMapType) : std::nullopt;
+        const auto found = m_places.find(page);
+        auto map = found != m_places.end() ? mapPageAt(m_file, found->second, MapType::Sections) : std::nullopt;
+        if (!map || !map->isChecked) {
+            auto other = findMapPage(m_file, MapType::Sections);
+            if (other)
+                map = std::move(other);
+            else if (map)
+                m_problems.warn("The checksum of the map of sections does not fit.");
+        }
         if (!map) {
             m_problems.lose("The map of the file's sections cannot be read.");
             return {};
         }
-        BitReader reader(*map);
+        BitReader reader(map->bytes);
         const std::uint32_t count = reader.raw32();
         reader.skip(16 * 8);
         std::vector<SectionDescription> sections;
@@ -150,13 +152,16 @@ private:
         section.pageSize = reader.raw32();
         reader.raw32();
         section.isPacked = reader.raw32() == 2;
-        reader.skip(64); // number and encryption
+        section.number = reader.raw32();
+        reader.raw32(); // encryption
         section.name = reader.rawBytes(64);
         section.name.resize(std::min(section.name.size(), section.name.find('\0')));
         for (std::uint32_t i = 0; i < pageCount && !reader.hasFailed(); ++i) {
-            const auto number = static_cast<std::int32_t>(reader.raw32());
-            reader.raw32();
-            section.pages.push_back({number, reader.raw64()});
+            SectionPage page;
+            page.page = static_cast<std::int32_t>(reader.raw32());
+            page.packedSize = reader.raw32();
+            page.start = reader.raw64();
+            section.pages.push_back(page);
         }
         return section;
     }
@@ -165,60 +170,72 @@ private:
     {
         if (section.name.empty() || section.size == 0)
             return;
-        m_sectionSize += std::min(section.size, m_file.size() * mostGrowth + 1);
-        if (m_sectionSize > m_file.size() * mostGrowth || section.pageSize > m_file.size() * mostGrowth)
+        // The last page goes beyond the end of the section.
+        if (!m_room.take(section.size) || !m_room.take(section.pageSize))
             return m_problems.lose("The section " + section.name + " is larger than the file can hold.");
-        std::vector<std::uint8_t> &bytes = container.storage.emplace_back(section.size);
+        std::vector<std::uint8_t> &bytes = container.storage.emplace_back(section.size + section.pageSize);
         for (const SectionPage &page : section.pages) {
-            if (!readPage(section, page, bytes))
+            if (page.start >= section.size || !readPage(section, page, bytes))
                 m_problems.lose("A page of the section " + section.name + " cannot be read.");
         }
-        assignSection(container, section.name, bytes);
+        assignSection(container, section.name, Bytes(bytes).first(section.size));
     }
 
     bool readPage(const SectionDescription &section, const SectionPage &page, std::vector<std::uint8_t> &bytes)
     {
-        constexpr std::size_t headSize = 32;
-        const auto found = m_pages.find(page.page);
-        if (found == m_pages.end() || found->second.at > m_file.size() || m_file.size() - found->second.at < headSize ||
-            page.start > bytes.size())
+        const auto packed = packedPage(section, page);
+        if (!packed || !m_work.take(section.pageSize))
             return false;
-        const std::size_t at = found->second.at;
-        std::array<std::uint32_t, 8> head{};
-        BitReader reader(m_file, at * 8, m_file.size() * 8);
-        for (std::uint32_t &number : head)
-            number = reader.raw32() ^ 0x4164536b ^ static_cast<std::uint32_t>(at);
-        const std::uint32_t packedSize = head[2];
-        if (head[0] != dataPageType || packedSize > m_file.size() - at - headSize)
-            return false;
-        const Bytes packed = m_file.subspan(at + headSize, packedSize);
-        checkPage(head, packed);
-        const std::size_t room = bytes.size() - page.start;
-        const auto place = bytes.begin() + static_cast<std::ptrdiff_t>(page.start);
-        if (!section.isPacked) {
-            std::copy_n(packed.begin(), std::min(room, packed.size()), place);
-            return true;
-        }
-        m_unpackedSize += section.pageSize;
-        if (m_unpackedSize > m_file.size() * mostGrowth)
-            return false;
-        const auto unpacked = unpackPage(packed, section.pageSize);
-        if (unpacked)
-            std::copy_n(unpacked->begin(), std::min(room, unpacked->size()), place);
-        return unpacked.has_value();
+        const auto place = std::span(bytes).subspan(page.start, section.pageSize);
+        if (section.isPacked)
+            return unpackPage(*packed, place);
+        std::copy_n(packed->begin(), std::min(place.size(), packed->size()), place.begin());
+        return true;
     }
 
-    void checkPage(const std::array<std::uint32_t, 8> &head, Bytes packed)
+    /// The page where the map has it; else where its head is found; else where the map has it, whatever its head says.
+    std::optional<Bytes> packedPage(const SectionDescription &section, const SectionPage &page)
     {
-        if (pageChecksum(packed, 0) != head[7])
-            m_problems.warn("The checksum of a page does not fit.");
+        const auto isMeant = [&](const DataPage &one) {
+            return one.isHeadChecked && one.section == section.number && one.start == page.start;
+        };
+        const auto found = m_places.find(page.page);
+        auto data = found != m_places.end() ? dataPageAt(m_file, found->second) : std::nullopt;
+        if (!data || !isMeant(*data)) {
+            const std::vector<DataPage> &pages = foundPages();
+            const auto other = std::find_if(pages.begin(), pages.end(), isMeant);
+            if (other != pages.end()) {
+                data = *other;
+            } else if (found != m_places.end()) {
+                m_problems.warn("The head of a page of the section " + section.name + " is damaged.");
+                return bytesBehindHead(found->second, page.packedSize);
+            }
+        }
+        if (data && !data->isChecked)
+            m_problems.warn("The checksum of a page of the section " + section.name + " does not fit.");
+        return data ? std::optional(data->packed) : std::nullopt;
+    }
+
+    std::optional<Bytes> bytesBehindHead(std::uint64_t at, std::size_t size) const
+    {
+        if (at > m_file.size() || m_file.size() - at < dataPageHead || size > m_file.size() - at - dataPageHead)
+            return std::nullopt;
+        return m_file.subspan(at + dataPageHead, size);
+    }
+
+    const std::vector<DataPage> &foundPages()
+    {
+        if (!m_found)
+            m_found = findDataPages(m_file);
+        return *m_found;
     }
 
     Bytes m_file;
     Problems &m_problems;
-    std::map<std::int32_t, PagePlace> m_pages;
-    std::uint64_t m_sectionSize = 0; ///< of all sections so far
-    std::uint64_t m_unpackedSize = 0;
+    std::map<std::int32_t, std::uint64_t> m_places; ///< of pages, by their numbers
+    std::optional<std::vector<DataPage>> m_found;   ///< once they had to be looked for
+    Growth m_room;                                  ///< for sections
+    Growth m_work;                                  ///< for pages, which a hostile file has again and again
 };
 
 } // namespace

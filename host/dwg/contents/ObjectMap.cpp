@@ -47,8 +47,8 @@ std::vector<MapEntry> readObjectMap(Bytes map, Problems &problems)
         at += size + 2;
     }
     std::ranges::stable_sort(entries, {}, &MapEntry::handle);
-    const auto repeated = std::ranges::unique(entries, {}, &MapEntry::handle);
-    entries.erase(repeated.begin(), repeated.end());
+    const auto isSame = [](const MapEntry &a, const MapEntry &b) { return a.handle == b.handle; };
+    entries.erase(std::unique(entries.begin(), entries.end(), isSame), entries.end());
     return entries;
 }
 

@@ -138,7 +138,6 @@ struct SplineFlags
     static constexpr int periodic = 2;
     static constexpr int rational = 4;
     static constexpr int planar = 8;
-    static constexpr int fitMethod = 1;
     static constexpr int fromFitPoints = 0x400;
 };
 

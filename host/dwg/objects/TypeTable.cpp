@@ -6,23 +6,14 @@ namespace host::dwg {
 
 namespace {
 
-struct AllTypes
+struct TypeIndex
 {
-    AllTypes()
+    TypeIndex()
     {
-        for (const auto rows :
-             {curveTypes(),        polylineTypes(),     textTypes(),        paragraphTypes(),      insertTypes(),
-              dimensionTypes(),    multiLeaderTypes(),  hatchTypes(),       solidTypes(),          viewportTypes(),
-              imageTypes(),        multiLineTypes(),    tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
-              layoutTypes(),       materialTypes(),     visualStyleTypes(), styleTypes(),          tableStyleTypes(),
-              tableContentTypes(), tableEntityTypes(),  fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
-              filterTypes(),       evaluationTypes(),   associativeTypes(), renderTypes(),         meshTypes(),
-              underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes()}) {
-            for (const ObjectType &row : rows) {
-                if (row.number != 0)
-                    byNumber.emplace(row.number, &row);
-                byName.emplace(row.name, &row);
-            }
+        for (const ObjectType *row : allTypes()) {
+            if (row->number != 0)
+                byNumber.emplace(row->number, row);
+            byName.emplace(row->name, row);
         }
     }
 
@@ -30,10 +21,10 @@ struct AllTypes
     std::unordered_map<std::string_view, const ObjectType *> byName;
 };
 
-const AllTypes &allTypes()
+const TypeIndex &typeIndex()
 {
-    static const AllTypes types;
-    return types;
+    static const TypeIndex index;
+    return index;
 }
 
 template <typename Map, typename Key>
@@ -55,14 +46,31 @@ bool isOldClass(std::string_view name)
 
 } // namespace
 
+std::vector<const ObjectType *> allTypes()
+{
+    std::vector<const ObjectType *> types;
+    for (const auto rows :
+         {curveTypes(),        polylineTypes(),     textTypes(),        paragraphTypes(),      insertTypes(),
+          dimensionTypes(),    multiLeaderTypes(),  hatchTypes(),       solidTypes(),          viewportTypes(),
+          imageTypes(),        multiLineTypes(),    tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
+          layoutTypes(),       materialTypes(),     visualStyleTypes(), styleTypes(),          tableStyleTypes(),
+          tableContentTypes(), tableEntityTypes(),  fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
+          filterTypes(),       evaluationTypes(),   associativeTypes(), renderTypes(),         meshTypes(),
+          underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes()}) {
+        for (const ObjectType &row : rows)
+            types.push_back(&row);
+    }
+    return types;
+}
+
 const ObjectType *typeByNumber(int number)
 {
-    return rowIn(allTypes().byNumber, number);
+    return rowIn(typeIndex().byNumber, number);
 }
 
 const ObjectType *typeByClass(std::string_view name, Release release)
 {
-    const ObjectType *type = rowIn(allTypes().byName, name);
+    const ObjectType *type = rowIn(typeIndex().byName, name);
     const bool isKnown = type && (type->number != 0 || release >= Release::R2000 || isOldClass(name));
     return isKnown ? type : name == "ACAD_TABLE" ? &tableAsInsert() : nullptr;
 }

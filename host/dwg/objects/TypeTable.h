@@ -3,6 +3,7 @@
 #include "host/dwg/objects/Fields.h"
 
 #include <span>
+#include <vector>
 
 namespace host::dwg {
 
@@ -24,6 +25,9 @@ const ObjectType *typeByClass(std::string_view name, Release release);
 
 /// The row for tables with cells where the text form has none.
 const ObjectType &tableAsInsert();
+
+/// All rows, by subject.
+std::vector<const ObjectType *> allTypes();
 
 // The rows, by subject; typeByNumber() and typeByClass() look through all.
 std::span<const ObjectType> curveTypes();     ///< lines, arcs, splines, points, faces
