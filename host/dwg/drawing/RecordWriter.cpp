@@ -167,6 +167,8 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
         return false;
     if (!isWhole)
         m_objects.warn(handle, frame.type, "More of the object is in the file than is read of it.");
+    if (m_fields.doubt())
+        m_objects.warn(handle, frame.type, m_fields.doubt());
     return true;
 }
 

@@ -30,6 +30,7 @@ void Fields::start(BitReader values, BitReader texts, BitReader references)
     m_buffer.clear();
     m_notes.clear();
     m_companion = noCompanion;
+    m_doubt = nullptr;
 }
 
 void Fields::splitAt(std::size_t bit)

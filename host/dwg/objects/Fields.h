@@ -32,7 +32,8 @@ struct Relations
     std::vector<std::string> entryNames; ///< theirs
     std::vector<std::uint64_t> parts;    ///< what it owns by other references, in their order
     bool isEntity = false;
-    bool hasList = false; ///< attributes or vertices follow
+    bool hasList = false;       ///< attributes or vertices follow
+    bool hasStoredData = false; ///< a part of it is in the file's data store
 };
 
 /// What a text takes up when it is drawn.
@@ -81,6 +82,9 @@ public:
     void splitAt(std::size_t bit);
     bool hasFailed() const;
     void fail() { m_values.fail(); }
+    /// Something of the object is not among its tags, for the reason that is given, which must outlive this.
+    void doubt(const char *why) { m_doubt = why; }
+    const char *doubt() const { return m_doubt; } ///< null where all is there
     /// Whether nothing is left of the object: of its references no whole one, of its values and texts not a bit. A
     /// reader that knows the form of its object leaves nothing.
     bool isUsedUp() const;
@@ -255,6 +259,7 @@ private:
     std::string m_buffer; ///< the tags' values, one behind the other
     std::vector<Note> m_notes;
     std::size_t m_companion = noCompanion;
+    const char *m_doubt = nullptr;
     std::vector<Note> m_arranged; ///< kept for its room
 };
 

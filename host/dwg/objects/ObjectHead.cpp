@@ -163,7 +163,7 @@ void ObjectHead::readEntityHead(Fields &fields)
     const std::int32_t reactorCount = values.longInteger();
     const bool hasNoDictionary = fields.since(Release::R2004) && values.bit();
     if (fields.since(Release::R2013))
-        values.bit(); // its data is in a section of its own
+        fields.relations().hasStoredData = values.bit();
     const bool isByLayer = fields.until(Release::R14) && values.bit();
     const bool hasNoLinks = fields.until(Release::R2000) && values.bit();
     const EntityColour colour = readEntityColour(fields);

@@ -1,5 +1,7 @@
 #include "host/dwg/objects/TypeTable.h"
 
+#include <cstdio>
+
 namespace host::dwg {
 
 namespace {
@@ -27,22 +29,167 @@ void readModelText(Fields &f)
     }
 }
 
-/// A model. What is drawn of it, which follows, is left: it can be made again.
-void readModel(Fields &f)
+/// The bytes of a model in binary form, which tells its end by its last record alone.
+std::string readBinaryModel(Fields &f)
+{
+    constexpr std::string_view ends[] = {"\x0e\x03"
+                                         "End\x0e\x02of\x0e\x04"
+                                         "ACIS\x0d\x04"
+                                         "data",
+                                         "\x0e\x03"
+                                         "End\x0e\x02of\x0e\x03"
+                                         "ASM\x0d\x04"
+                                         "data"};
+    BitReader ahead = f.values();
+    const std::string rest = ahead.rawBytes(ahead.left() / 8);
+    for (const std::string_view end : ends) {
+        if (const std::size_t at = rest.find(end); at != std::string::npos)
+            return f.values().rawBytes(at + end.size());
+    }
+    f.fail();
+    return {};
+}
+
+/// A line that is drawn of a model.
+void readWire(Fields &f)
+{
+    f.small();
+    f.int32();
+    f.since(Release::R2004) ? f.int32() : f.int16();
+    f.int32();
+    const std::size_t points = f.count(6);
+    for (std::size_t i = 0; i < points; ++i)
+        f.point();
+    const bool isPlaced = f.flag();
+    if (!isPlaced)
+        return;
+    for (int i = 0; i < 4; ++i)
+        f.point();
+    f.real();
+    for (int i = 0; i < 3; ++i)
+        f.flag();
+}
+
+void readWires(Fields &f)
+{
+    const std::size_t wires = f.count(16);
+    for (std::size_t i = 0; i < wires && !f.hasFailed(); ++i)
+        readWire(f);
+}
+
+/// What a model looks like from one viewport.
+void readSilhouette(Fields &f)
+{
+    f.int32();
+    for (int i = 0; i < 3; ++i)
+        f.point();
+    f.flag();
+    const bool hasWires = f.flag();
+    if (hasWires)
+        readWires(f);
+}
+
+/// What is drawn of a model, which the text form does not have: it can be made again.
+void readWireframe(Fields &f)
+{
+    const bool hasPoint = f.flag();
+    if (hasPoint)
+        f.point();
+    f.int32(); // lines on curved faces
+    const bool hasLines = f.flag();
+    if (hasLines)
+        readWires(f);
+    const std::size_t silhouettes = f.count(16);
+    for (std::size_t i = 0; i < silhouettes && !f.hasFailed(); ++i)
+        readSilhouette(f);
+}
+
+/// The name of the model's state, from R2013 on.
+std::string readRevision(Fields &f)
+{
+    const bool hasRevision = f.flag();
+    const auto first = static_cast<std::uint32_t>(f.int32());
+    const int second = f.int16() & 0xffff;
+    const int third = f.int16() & 0xffff;
+    const std::string rest = f.values().rawBytes(8);
+    f.int32();
+    char text[40] = "";
+    if (hasRevision && rest.size() == 8) {
+        const auto byte = [&rest](std::size_t i) { return static_cast<unsigned>(static_cast<unsigned char>(rest[i])); };
+        std::snprintf(text, sizeof text, "{%08x-%04x-%04x-%02x%02x-%02x%02x%02x%02x%02x%02x}", first,
+                      static_cast<unsigned>(second), static_cast<unsigned>(third), byte(0), byte(1), byte(2), byte(3),
+                      byte(4), byte(5), byte(6), byte(7));
+    }
+    return text;
+}
+
+/// The model itself: as text, or in binary form, which stands here up to R2010 and outside the object from R2013 on.
+void readGeometry(Fields &f)
+{
+    f.flag();
+    const int version = f.int16();
+    if (version == 1) {
+        f.note(70, version);
+        readModelText(f);
+    } else if (!f.relations().hasStoredData) {
+        readBinaryModel(f);
+        f.doubt("The model has a binary form, which the text form of this release does not have.");
+    }
+}
+
+/// What follows the model.
+void readBehindModel(Fields &f, bool isSolid)
+{
+    const bool hasWireframe = f.flag();
+    if (hasWireframe)
+        readWireframe(f);
+    f.flag();
+    if (!f.since(Release::R2007))
+        return;
+    const std::size_t materials = f.count(4);
+    for (std::size_t i = 0; i < materials && !f.hasFailed(); ++i) {
+        f.int32();
+        f.int32();
+        f.reference();
+    }
+    if (f.since(Release::R2013)) {
+        f.note(290, f.relations().hasStoredData);
+        const std::string revision = readRevision(f);
+        if (!revision.empty())
+            f.note(2, revision);
+    }
+    if (isSolid) {
+        f.subclass("AcDb3dSolid");
+        f.reference(350); // how it was made
+    }
+}
+
+/// Keeps the model where what follows it has another form than is known.
+void readModel(Fields &f, bool isSolid)
 {
     f.subclass("AcDbModelerGeometry");
     const bool isEmpty = f.flag();
-    if (isEmpty)
+    if (!isEmpty)
+        readGeometry(f);
+    const std::size_t mark = f.mark();
+    const BitReader values = f.values();
+    const BitReader references = f.references();
+    readBehindModel(f, isSolid);
+    if (f.isUsedUp())
         return;
-    f.flag();
-    const int version = f.int16(70);
-    if (version == 1)
-        readModelText(f);
+    f.drop(mark);
+    f.values() = values;
+    f.references() = references;
+}
+
+void readRegion(Fields &f)
+{
+    readModel(f, false);
 }
 
 void readSolid(Fields &f)
 {
-    readModel(f);
+    readModel(f, true);
 }
 
 } // namespace
@@ -50,9 +197,9 @@ void readSolid(Fields &f)
 std::span<const ObjectType> solidTypes()
 {
     static constexpr ObjectType rows[] = {
-        {0x25, "REGION", readModel, true},
+        {0x25, "REGION", readRegion, true},
         {0x26, "3DSOLID", readSolid, true},
-        {0x27, "BODY", readModel, true},
+        {0x27, "BODY", readRegion, true},
     };
     return rows;
 }
