@@ -10,8 +10,8 @@ namespace host::dwg::test {
 
 namespace {
 
-constexpr Release releases[] = {Release::R13,   Release::R14,   Release::R2000, Release::R2004,
-                                Release::R2007, Release::R2010, Release::R2013, Release::R2018};
+constexpr Release releases[] = {Release::R2000, Release::R2004, Release::R2007,
+                                Release::R2010, Release::R2013, Release::R2018};
 
 struct ClassRow
 {
@@ -156,11 +156,11 @@ const ClassRow classRows[] = {
      Release::R2010},
     {"ACAD_TABLE", tableInsert + "c0 h0 l0 l0 " + lateTable, tableHead + lateTags, true, Release::R2013},
     {"SUN", "l1 b0 C7 d1.5 b1 l2455826 l54000000 b0 s2 s256 c1",
-     "100 AcDbSun|90 1|290 0|63 7|40 1.5|291 1|91 2455826|92 54000000|292 0|70 2|71 256|280 1|", false, Release::R2000},
+     "100 AcDbSun|90 1|290 0|63 7|40 1.5|291 1|91 2455826|92 54000000|292 0|70 2|71 256|280 1|"},
     {"LIGHT", "l1 tLamp s3 b1 C5 b0 d2 p1,2,3 p4,5,6 s0 b0 d1 d10 d0 d0 b1 s0 s256 c1",
      "100 AcDbLight|90 1|1 Lamp|70 3|290 1|63 5|291 0|40 2.0|10 1.0|20 2.0|30 3.0|11 4.0|21 5.0|31 6.0|72 0|292 0|"
      "41 1.0|42 10.0|50 0.0|51 0.0|293 1|73 0|91 256|280 1|",
-     true, Release::R2000},
+     true},
     {"FIELDLIST", "l2 b0 h50 h51", "100 AcDbIdSet|90 2|330 50|330 51|100 AcDbFieldList|"},
     {"FIELD", "tAcVar t\\AcVar l1 h50 l0 l63 l0 l59 l2 l0 t l2 l4 t1_m l0 t%fn6 t t1_m l3 l1 tVariable l3 l0 l0 t t",
      "100 AcDbField|1 AcVar|2 \\AcVar|90 1|360 50|97 0|91 63|92 0|94 59|95 2|96 0|300 |93 1|6 Variable|93 3|90 0|94 0|"

@@ -14,7 +14,7 @@ void readMeshNumbers(Fields &f, int countCode, std::size_t each)
 }
 
 /// A mesh of faces that is smoothed: points, faces (how many corners, and which), edges, and how sharp these are.
-void readMesh(Fields &f)
+void readSubdivisionMesh(Fields &f)
 {
     f.subclass("AcDbSubDMesh");
     f.int16(71);
@@ -39,7 +39,7 @@ void readMesh(Fields &f)
 
 std::span<const ObjectType> meshTypes()
 {
-    static constexpr ObjectType rows[] = {{0, "MESH", readMesh, true}};
+    static constexpr ObjectType rows[] = {{0, "MESH", readSubdivisionMesh, true}};
     return rows;
 }
 
