@@ -14,7 +14,7 @@ constexpr std::uint32_t pageMapType = 0x41630e3b;
 constexpr std::uint32_t sectionMapType = 0x4163003b;
 constexpr std::size_t pagesBegin = 0x100;
 constexpr std::size_t headerPlace = 0x80;
-constexpr std::size_t headerSize = 0x6c;
+constexpr std::size_t mixedHeaderSize = 0x6c;
 
 /// The numbers that the header is mixed with.
 FileBytes mixture()
@@ -173,7 +173,7 @@ private:
         for (std::size_t i = 0; i < header.bytes().size(); ++i)
             mixed[i] ^= header.bytes()[i];
         std::copy(mixed.begin(), mixed.end(), m_file.begin() + headerPlace);
-        m_file.insert(m_file.end(), mixed.begin(), mixed.begin() + headerSize);
+        m_file.insert(m_file.end(), mixed.begin(), mixed.begin() + mixedHeaderSize);
     }
 
     const std::vector<MadeSection> &m_sections;
