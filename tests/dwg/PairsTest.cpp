@@ -3,6 +3,7 @@
 
 #include "host/dwg/drawing/DrawingText.h"
 #include "tests/dwg/PairComparison.h"
+#include "tests/dwg/PairExplanations.h"
 
 #include <filesystem>
 #include <fstream>
@@ -76,6 +77,7 @@ TEST_P(Pairs, HaveTheSameRecords)
     EXPECT_GE(outcome.equal, row.leastEqual);
     EXPECT_EQ(outcome.all, row.all);
     EXPECT_LE(outcome.unexplained(), row.mostUnexplained);
+    EXPECT_EQ(idleExplanations(row.name, outcome.differences), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, Pairs,

@@ -192,8 +192,30 @@ private:
             match(m_read.find(expectedNode(expected).handle), expected);
     }
 
+    /// What dictionaries call the records.
+    static std::vector<std::string> dictionaryNames(const TextTree &tree)
+    {
+        std::vector<std::string> names(tree.nodes.size());
+        for (std::size_t i = 1; i < tree.nodes.size(); ++i) {
+            for (auto &[name, handle] : entriesOf(tree.nodes[i]))
+                names[tree.find(handle)] = name;
+        }
+        return names;
+    }
+
+    /// Names that are numbers are addresses in the memory of the program that wrote them.
+    static bool mayBeSame(const std::string &read, const std::string &expected)
+    {
+        const auto isNumber = [](const std::string &name) {
+            return name.find_first_not_of("0123456789") == std::string::npos;
+        };
+        return read == expected || (isNumber(read) && isNumber(expected));
+    }
+
     void matchByOwners()
     {
+        const std::vector<std::string> readNames = dictionaryNames(m_read);
+        const std::vector<std::string> expectedNames = dictionaryNames(m_expected);
         std::map<std::string, std::vector<std::size_t>> owned;
         for (std::size_t i = 1; i < m_read.nodes.size(); ++i) {
             if (m_partners.ofRead[i] == 0)
@@ -204,7 +226,7 @@ private:
             if (m_partners.ofExpected[i] != 0 || owner == 0 || isBlock(expectedNode(i)))
                 continue;
             for (const std::size_t one : owned[readNode(owner).handle]) {
-                if (match(one, i))
+                if (mayBeSame(readNames[one], expectedNames[i]) && match(one, i))
                     break;
             }
             followAll();

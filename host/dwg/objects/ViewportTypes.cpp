@@ -15,8 +15,10 @@ void readViewportEntity(Fields &f)
     f.real(41);
     f.note(68, 1);
     f.note(69, 1);
-    if (!f.since(Release::R2000))
+    if (f.until(Release::R14)) {
+        f.reference(); // its entry in a table that the text form does not have
         return;
+    }
     f.point(17);
     f.point(16);
     f.angle(51);
