@@ -57,9 +57,9 @@ std::string idleExplanations(std::string_view pair, const std::vector<Difference
 {
     std::string idle;
     for (const Explanation &row : allExplanations()) {
-        const bool isNeeded =
-            row.pair == "*" || !matchesPattern(row.pair, pair) ||
-            std::ranges::any_of(differences, [&](const Difference &one) { return concerns(row, pair, one); });
+        const bool isNeeded = row.pair != pair || std::ranges::any_of(differences, [&](const Difference &one) {
+                                  return concerns(row, pair, one);
+                              });
         idle += isNeeded ? std::string() : std::string(row.record) + '\n';
     }
     return idle;

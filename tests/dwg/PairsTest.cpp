@@ -82,9 +82,9 @@ TEST_P(Pairs, HaveTheSameRecords)
 
 INSTANTIATE_TEST_SUITE_P(Dwg, Pairs,
                          testing::Values(PairRow{"r9_entities", 150, 154, 0}, PairRow{"r11_entities", 180, 184, 0},
-                                         PairRow{"r13_example", 5661, 5691, 276}, PairRow{"r14_leader", 363, 400, 66},
-                                         PairRow{"r2000_entities", 263, 275, 11}, PairRow{"r2000_leader", 466, 479, 10},
-                                         PairRow{"r2000_sample", 241, 421, 177}, PairRow{"r2004_leader", 470, 483, 10},
+                                         PairRow{"r13_example", 5661, 5691, 0}, PairRow{"r14_leader", 363, 400, 0},
+                                         PairRow{"r2000_entities", 263, 275, 0}, PairRow{"r2000_leader", 466, 479, 0},
+                                         PairRow{"r2000_sample", 241, 421, 0}, PairRow{"r2004_leader", 470, 483, 0},
                                          PairRow{"r2007_circle", 459, 481, 0}, PairRow{"r2007_line", 464, 486, 0},
                                          PairRow{"r2007_text", 460, 482, 0}, PairRow{"r2010_leader", 508, 523, 0},
                                          PairRow{"r2013_leader", 464, 472, 0}, PairRow{"r2018_leader", 386, 468, 0},
