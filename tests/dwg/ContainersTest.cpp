@@ -46,7 +46,8 @@ void expectDamage(const DamageRow &row)
     row.damage(file);
     const ReadBack read = readBack(file);
     EXPECT_EQ(read.problems(), row.told) << row.name;
-    EXPECT_EQ(read.drawing.text == whole.drawing.text, row.isAllThere) << row.name;
+    EXPECT_EQ(read.drawing.text == whole.drawing.text, row.isAllThere)
+        << row.name << ", " << static_cast<int>(row.release);
 }
 
 void invert(FileBytes &file, std::size_t from, std::size_t count)
@@ -67,7 +68,7 @@ const DamageRow correctedRows[] = {
          invert(file, 0x80, 0x100);
          invert(file, file.size() - 0x400, 0x100);
      },
-     "The header of the file cannot be read.\nThe file has no map of its objects.\n", false},
+     "The header of the file cannot be read.\nThe file has no map of its objects.\nThe file has no objects.\n", false},
     {"the file is cut behind its pages", Release::R2007, [](FileBytes &file) { file.resize(file.size() - 0x400); }, ""},
     // The header's variables are the first page, of two blocks.
     {"two bytes of each block of a page", Release::R2007, [](FileBytes &file) { invert(file, 0x480, 2 * 2); },
@@ -124,7 +125,8 @@ const DamageRow pagedRows[] = {
     {"the checksum of the map of sections", Release::R2004, [](FileBytes &file) { damagePage(file, sectionMap, 0x10); },
      "The checksum of the map of sections does not fit.\n"},
     {"the map of sections", Release::R2004, [](FileBytes &file) { damagePage(file, sectionMap, 0); },
-     "The map of the file's sections cannot be read.\nThe file has no map of its objects.\n", false},
+     "The map of the file's sections cannot be read.\nThe file has no map of its objects.\nThe file has no objects.\n",
+     false},
     {"the head of a page", Release::R2004, [](FileBytes &file) { damagePage(file, lastObjects, 0x18); },
      "The head of a page of the section AcDb:AcDbObjects is damaged.\n"},
     {"the kind of a page", Release::R2018, [](FileBytes &file) { damagePage(file, lastObjects, 0); },
@@ -132,6 +134,55 @@ const DamageRow pagedRows[] = {
     {"the last byte of a page, which is filled up", Release::R2010,
      [](FileBytes &file) { damagePage(file, lastObjects, dataPageHead + 0x400); },
      "The checksum of a page of the section AcDb:AcDbObjects does not fit.\n"},
+};
+
+// In files up to R2000 the records of the table of sections stand from here on: number, place and size of each.
+constexpr std::size_t tableRecords = 0x19;
+
+std::uint32_t placeOf(const FileBytes &file, std::size_t section)
+{
+    BitReader reader(file, (tableRecords + 9 * section + 1) * 8, file.size() * 8);
+    return reader.raw32();
+}
+
+constexpr std::size_t headerSection = 0;
+constexpr std::size_t classesSection = 1;
+constexpr std::size_t mapSection = 2;
+
+/// The drawings have 22 objects that each has, and 40 circles.
+const DamageRow locatorRows[] = {
+    {"the place of the header", Release::R2000, [](FileBytes &file) { file[tableRecords + 1] ^= 1; },
+     "The table of sections is damaged; its copy was read.\n"},
+    {"the count of sections", Release::R13, [](FileBytes &file) { file[tableRecords - 1] = 0xff; },
+     "The table of sections is damaged; its copy was read.\n"},
+    // Which units patterns are in is told there alone.
+    {"the table of sections and its copy", Release::R14,
+     [](FileBytes &file) {
+         invert(file, tableRecords, 5 * 9);
+         file.resize(file.size() - 50);
+     },
+     "The checksum of the table of sections does not fit.\nThe file has no map of its objects.\n"
+     "62 objects were found without the map of objects.\n",
+     false},
+    {"the checksum of the header's variables", Release::R2000,
+     [](FileBytes &file) { file[placeOf(file, classesSection) - 18] ^= 1; },
+     "The checksum of the header's variables does not fit.\n"},
+    {"the mark behind the header's variables", Release::R14,
+     [](FileBytes &file) { file[placeOf(file, classesSection) - 1] ^= 1; },
+     "The mark behind the header's variables is missing.\n"},
+    {"the mark in front of the classes", Release::R2000,
+     [](FileBytes &file) { file[placeOf(file, classesSection)] ^= 1; },
+     "The mark in front of the classes is missing.\nThe classes cannot be read.\n"},
+    {"the checksum of the map of objects", Release::R13,
+     [](FileBytes &file) { file[placeOf(file, mapSection)] ^= 0x10; },
+     "The map of objects ends within a run.\n62 objects were found without the map of objects.\n"},
+    {"a place in the map of objects", Release::R2000,
+     [](FileBytes &file) { file[placeOf(file, mapSection) + 4] ^= 0x10; },
+     "The checksum of a run of the map of objects does not fit.\n62 objects were found without the map of objects.\n"},
+    {"the map of objects", Release::R2018, [](FileBytes &file) { damagePage(file, lastObjects + 3, dataPageHead + 3); },
+     "The checksum of a page of the section AcDb:Handles does not fit.\n"
+     "A page of the section AcDb:Handles cannot be read.\n"
+     "The map of objects ends within a run.\n62 objects were found without the map of objects.\n"},
 };
 
 } // namespace
@@ -175,6 +226,12 @@ TEST(DwgContainers, DamageOfCorrectedPages)
 TEST(DwgContainers, DamageOfPages)
 {
     for (const DamageRow &row : pagedRows)
+        expectDamage(row);
+}
+
+TEST(DwgContainers, DamageOfTheTableOfSectionsAndOfTheMapOfObjects)
+{
+    for (const DamageRow &row : locatorRows)
         expectDamage(row);
 }
 

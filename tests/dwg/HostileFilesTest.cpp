@@ -94,8 +94,8 @@ TEST(HostileDwg, AWrongChecksumIsToldAndReadingGoesOn)
     const DrawingText drawing = readAny(file);
     EXPECT_EQ(drawing.problems.lostCount(), 0u);
     ASSERT_EQ(drawing.problems.list().size(), 1u);
-    EXPECT_EQ(drawing.problems.list()[0].message(), "The checksum of the table of sections does not fit.");
-    EXPECT_EQ(drawing.text, readAny(files.front()).text);
+    EXPECT_EQ(drawing.problems.list()[0].message(), "The table of sections is damaged; its copy was read.");
+    EXPECT_TRUE(drawing.text == readAny(files.front()).text);
 }
 
 } // namespace host::dwg::test

@@ -1,5 +1,7 @@
 #include "host/dwg/container/Container.h"
 
+#include "host/dwg/bits/Checksums.h"
+
 #include <algorithm>
 
 namespace host::dwg {
@@ -15,7 +17,50 @@ constexpr std::array<std::array<std::uint8_t, markLength>, 3> marks = {{
     {0x1f, 0x25, 0x6d, 0x07, 0xd4, 0x36, 0x28, 0x28, 0x9d, 0x57, 0xca, 0x3f, 0x9d, 0x44, 0x10, 0x2b}, // preview
 }};
 
+/// The bytes behind the mark in front, once the checksum and the mark behind are looked at; all of them where there is
+/// no mark.
+Bytes checkedSection(const Container &container, Bytes section, SectionMark mark, const std::string &name,
+                     Problems &problems)
+{
+    const Bytes begin = markBytes(mark);
+    if (section.empty())
+        return section;
+    if (section.size() < begin.size() || !std::equal(begin.begin(), begin.end(), section.begin())) {
+        problems.warn("The mark in front of " + name + " is missing.");
+        return section;
+    }
+    const Bytes content = section.subspan(begin.size());
+    BitReader reader(content);
+    const std::size_t size = reader.raw32();
+    if (hasLongSizes(container))
+        reader.raw32();
+    reader.skip(std::min(size, content.size()) * 8);
+    const Bytes checked = content.first(reader.position() / 8);
+    if (reader.raw16() != checksum16(checked, 0xc0c1) || reader.hasFailed())
+        problems.warn("The checksum of " + name + " does not fit.");
+    // From R2004 on other bytes stand in front of it.
+    const Bytes behind = content.subspan(reader.position() / 8);
+    const auto isInverted = [](std::uint8_t a, std::uint8_t b) { return a == 0xff - b; };
+    const bool isClosed =
+        container.release >= Release::R2004 ||
+        std::equal(begin.begin(), begin.end(), behind.begin(),
+                   behind.begin() + static_cast<std::ptrdiff_t>(std::min(behind.size(), begin.size())), isInverted);
+    if (!isClosed)
+        problems.warn("The mark behind " + name + " is missing.");
+    return content;
+}
+
 } // namespace
+
+Bytes markBytes(SectionMark mark)
+{
+    return marks[static_cast<std::size_t>(mark)];
+}
+
+bool hasLongSizes(const Container &container)
+{
+    return container.release >= Release::R2013 || (container.release == Release::R2010 && container.maintenance > 3);
+}
 
 Release releaseOf(Bytes file)
 {
@@ -43,12 +88,16 @@ Bytes previewOf(Bytes file)
     const std::size_t place = BitReader(file, placeOfPlace * 8, file.size() * 8).raw32();
     if (place >= file.size())
         return {};
-    const Bytes section = betweenMarks(file.subspan(place));
-    BitReader reader(section);
+    const Bytes section = file.subspan(place);
+    const Bytes mark = markBytes(SectionMark::Preview);
+    if (section.size() < mark.size() || !std::equal(mark.begin(), mark.end(), section.begin()))
+        return {};
+    const Bytes content = section.subspan(mark.size());
+    BitReader reader(content);
     const std::size_t size = reader.raw32();
     constexpr std::size_t sizeLength = 4;
-    const bool hasPictures = reader.byte() != 0 && section.data() != file.data() + place;
-    return hasPictures && size <= section.size() - sizeLength ? section.first(sizeLength + size) : Bytes();
+    const bool hasPictures = reader.byte() != 0;
+    return hasPictures && size <= content.size() - sizeLength ? content.first(sizeLength + size) : Bytes();
 }
 
 } // namespace
@@ -70,27 +119,22 @@ Container openContainer(Bytes file, Problems &problems)
     else
         openPagedContainer(file, container, problems);
     container.preview = previewOf(file);
-    const bool hasPages = container.release > Release::R2000;
-    if (hasPages && (container.objectMap.empty() || container.objects.empty()))
-        problems.lose("The file has no map of its objects.");
+    container.headerVariables =
+        checkedSection(container, container.headerVariables, SectionMark::Header, "the header's variables", problems);
+    container.classes = checkedSection(container, container.classes, SectionMark::Classes, "the classes", problems);
+    if (container.objectMap.empty())
+        problems.warn("The file has no map of its objects.");
+    if (container.objects.empty())
+        problems.lose("The file has no objects.");
     return container;
-}
-
-Bytes betweenMarks(Bytes section)
-{
-    for (const auto &mark : marks) {
-        if (section.size() >= markLength && std::equal(mark.begin(), mark.end(), section.begin()))
-            return section.subspan(markLength);
-    }
-    return section;
 }
 
 void assignSection(Container &container, std::string_view name, Bytes bytes)
 {
     if (name == "AcDb:Header")
-        container.headerVariables = betweenMarks(bytes);
+        container.headerVariables = bytes;
     else if (name == "AcDb:Classes")
-        container.classes = betweenMarks(bytes);
+        container.classes = bytes;
     else if (name == "AcDb:Handles")
         container.objectMap = bytes;
     else if (name == "AcDb:AcDbObjects")

@@ -16,7 +16,7 @@ struct Container
     int maintenance = 0; ///< the number that tells minor changes of a release apart
     int codePage = 0;    ///< the number of the page that texts before R2007 are in
 
-    // Each as it stands between its marks of 16 bytes, the length in front included; empty when the file has none.
+    // Each as it stands behind its mark of 16 bytes, from its length on; empty when the file has none.
     Bytes headerVariables;
     Bytes classes;
     Bytes objectMap; ///< without marks
@@ -29,6 +29,9 @@ struct Container
 
     std::deque<std::vector<std::uint8_t>> storage; ///< what had to be unpacked
 };
+
+/// Whether lengths of sections have eight bytes.
+bool hasLongSizes(const Container &container);
 
 /// What the first six bytes say: None for what is no drawing of 2.5 to R2018.
 Release releaseOf(Bytes file);
@@ -46,7 +49,14 @@ void openCorrectedContainer(Bytes file, Container &container, Problems &problems
 /// Puts a section to its place in the container by the name that files have for it ("AcDb:Classes"); others are left.
 void assignSection(Container &container, std::string_view name, Bytes bytes);
 
-/// The bytes between the marks that sections begin and end with; all of them where the mark in front is missing.
-Bytes betweenMarks(Bytes section);
+/// Sections that stand between marks: each begins with one of 16 bytes, and ends with the same bytes inverted.
+enum class SectionMark
+{
+    Header,
+    Classes,
+    Preview
+};
+
+Bytes markBytes(SectionMark mark);
 
 } // namespace host::dwg

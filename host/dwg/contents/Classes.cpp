@@ -36,7 +36,7 @@ std::vector<ObjectClass> readClasses(const Container &container, Problems &probl
     BitReader sizes(container.classes);
     std::size_t size = sizes.raw32();
     // Later files have a number of eight bytes there.
-    if (release >= Release::R2013 || (release == Release::R2010 && container.maintenance > 3))
+    if (hasLongSizes(container))
         sizes.raw32();
     std::size_t begin = sizes.position() / 8;
     std::vector<ObjectClass> classes;

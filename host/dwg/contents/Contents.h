@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/dwg/container/Container.h"
+#include "host/dwg/contents/ObjectSearch.h"
 #include "host/dwg/objects/Fields.h"
 
 namespace host::dwg {
@@ -21,15 +22,11 @@ struct ObjectClass
 /// The classes of a file in their order; as many as can be read.
 std::vector<ObjectClass> readClasses(const Container &container, Problems &problems);
 
-/// Where an object is.
-struct MapEntry
-{
-    std::uint64_t handle = 0;
-    std::uint64_t place = 0;
-};
-
-/// All objects by rising handle, each once. What is damaged ends the map, with a problem told.
-std::vector<MapEntry> readObjectMap(Bytes map, Problems &problems);
+/// All objects by rising handle, each once. Where the map is damaged, objects that it does not tell of are looked for;
+/// what the map tells of and is not there has the place `lostPlace`. Together they take no more than the objects'
+/// bytes, so whoever reads each of them is done in a time that goes with the file.
+std::vector<MapEntry> readObjectMap(const Container &container, Problems &problems);
+constexpr std::uint64_t lostPlace = ~std::uint64_t(0);
 
 /// What the header says of the drawing as a whole.
 struct Header

@@ -164,7 +164,7 @@ Header readHeader(const Container &container, Fields &fields, Problems &problems
     const Bytes all = container.headerVariables;
     BitReader sizes(all);
     const std::size_t size = sizes.raw32();
-    if (container.release >= Release::R2013 || (container.release == Release::R2010 && container.maintenance > 3))
+    if (hasLongSizes(container))
         sizes.raw32();
     const std::size_t begin = sizes.position() / 8;
     if (sizes.hasFailed() || size > all.size() - begin) {

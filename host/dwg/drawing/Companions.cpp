@@ -138,7 +138,7 @@ void Companions::noteList(Fields &fields) const
     for (const auto &[handle, style] : m_styles)
         handles.push_back(handle);
     std::ranges::sort(handles);
-    handles.erase(std::ranges::unique(handles).begin(), handles.end());
+    handles.erase(std::unique(handles.begin(), handles.end()), handles.end());
     if (begin != 0)
         fields.drop(begin);
     for (const std::uint64_t handle : handles)

@@ -12,7 +12,7 @@ constexpr int firstClassNumber = 500;
 
 DrawingObjects::DrawingObjects(const Container &container, Problems &problems)
     : m_container(container), m_problems(problems), m_classes(readClasses(container, problems)),
-      m_map(readObjectMap(container.objectMap, problems)), m_isTaken(m_map.size())
+      m_map(readObjectMap(container, problems)), m_isTaken(m_map.size())
 {
 }
 

@@ -25,6 +25,8 @@ void writeDrawing(const Container &container, DrawingText &result)
 {
     DrawingParts parts(container, result.problems, result.text);
     result.objectCount = parts.objects.map().size();
+    if (result.objectCount == 0)
+        return result.problems.lose("The file has no objects.");
     readNames(parts.objects, parts.records.fields(), parts.records.names());
     if (container.release <= Release::R14)
         leaveOutLaterRecords(parts);
@@ -51,7 +53,7 @@ DrawingText readDrawing(Bytes file)
     }
     const Container container = openContainer(file, result.problems);
     result.release = container.release;
-    if (!container.objectMap.empty() && !container.objects.empty())
+    if (!container.objects.empty())
         writeDrawing(container, result);
     return result;
 }

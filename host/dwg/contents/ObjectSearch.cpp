@@ -1,0 +1,70 @@
+#include "host/dwg/contents/ObjectSearch.h"
+
+#include "host/dwg/objects/ObjectHead.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+/// The types that files can have: those with a number of their own, proxies, and classes.
+bool isPossibleType(int type)
+{
+    constexpr int lastOwnNumber = 0x52;
+    constexpr int firstProxy = 0x1f2;
+    constexpr int lastClass = 0x1000;
+    return (type > 0 && type <= lastOwnNumber) || (type >= firstProxy && type <= lastClass);
+}
+
+/// The handle with which the body of the object begins; 0 where none stands there.
+std::uint64_t ownHandle(const ObjectFrame &frame)
+{
+    BitReader reader(frame.bytes, frame.bodyStart, frame.bytes.size() * 8);
+    const HandleReference handle = reader.handle();
+    return reader.hasFailed() || handle.kind != 0 ? 0 : handle.value;
+}
+
+std::uint64_t endOf(const ObjectFrame &frame, Bytes objects)
+{
+    constexpr std::uint64_t checksumSize = 2;
+    return static_cast<std::uint64_t>(frame.bytes.data() - objects.data()) + frame.bytes.size() + checksumSize;
+}
+
+} // namespace
+
+std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release release)
+{
+    const auto frame = peekAt(objects, place, release);
+    if (!frame)
+        return std::nullopt;
+    return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place};
+}
+
+std::vector<MapEntry> findObjects(Bytes objects, Release release)
+{
+    std::vector<MapEntry> entries;
+    // Bytes that are no object look like one again and again; their checksums are not taken for ever.
+    std::uint64_t work = 64 * std::uint64_t(objects.size());
+    for (std::uint64_t at = 0; at < objects.size();) {
+        const auto seen = peekAt(objects, at, release);
+        const bool isPossible =
+            seen && isPossibleType(seen->type) && ownHandle(*seen) != 0 && seen->bytes.size() <= work;
+        const auto frame = isPossible ? frameAt(objects, at, release) : std::nullopt;
+        work -= frame ? frame->bytes.size() : 0;
+        if (!frame || !frame->isChecked) {
+            ++at;
+            continue;
+        }
+        entries.push_back({ownHandle(*frame), at});
+        at = endOf(*frame, objects);
+    }
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const MapEntry &a, const MapEntry &b) { return a.handle < b.handle; });
+    // The last of those with one handle stays.
+    const auto isSame = [](const MapEntry &a, const MapEntry &b) { return a.handle == b.handle; };
+    entries.erase(entries.begin(), std::unique(entries.rbegin(), entries.rend(), isSame).base());
+    return entries;
+}
+
+} // namespace host::dwg
