@@ -138,6 +138,15 @@ const std::string lateTags = "171 1|172 0|173 0|174 0|175 1|176 2|91 0|178 0|145
                              "171 2|172 0|173 1|174 1|175 1|176 1|91 1|178 0|145 0.0|340 51|144 0.5|170 5|" +
                              noValueTags;
 
+// A dimension that measures 5, of R2010 and later.
+const std::string dimensionHead = "c0 p0,0,1 f2,3 d0 c2 t d0 d0 p1,1,1 d0 s5 s1 d1 d5 b0 b0 b1 f0,0 ";
+
+std::string dimensionTags(const std::string &type)
+{
+    return "100 AcDbDimension|280 0|2 *MODEL_SPACE|10 0.0|20 0.0|30 0.0|11 2.0|21 3.0|31 0.0|70 " + type +
+           "|71 5|42 5.0|73 0|74 0|75 1|3 |";
+}
+
 const ClassRow classRows[] = {
     {"ACAD_TABLE",
      tableInsert +
@@ -194,6 +203,19 @@ const ClassRow classRows[] = {
     {"RAPIDRTRENDERSETTINGS", "l2 tMedium b1 b0 b1 b1 t tLevels l0 l3 s0 l5 l1 s1 s2 d3 d2 b1",
      "100 AcDbRenderSettings|90 2|1 Medium|290 1|290 0|290 1|290 1|1 |1 Levels|90 0|100 AcDbRapidRTRenderSettings|90 3|"
      "70 0|90 5|90 1|70 1|70 2|40 3.0|40 2.0|290 1|"},
+    {"RENDERGLOBAL", "l2 l1 l0 b1 tout.png l640 l480 b0 b1",
+     "100 AcDbRenderGlobal|90 2|90 1|90 0|290 1|1 out.png|90 640|90 480|290 0|290 1|"},
+    {"RENDERENVIRONMENT", "l1 b1 b0 c128 c127 c1 d0 d100 d0 d0.5 b0 tsky",
+     "100 AcDbRenderEnvironment|90 1|290 1|290 0|280 128|280 127|280 1|40 0.0|40 100.0|40 0.0|40 0.5|290 0|1 sky|"},
+    {"ACDB_BLOCKREPRESENTATION_DATA", "s1 h50", "100 AcDbBlockRepresentationData|70 1|340 50|"},
+    {"LARGE_RADIAL_DIMENSION", dimensionHead + "p0,0,0 p3,4,0 d1 p9,9,0 p5,5,0 h0 h1D",
+     dimensionTags("169") +
+         "100 AcDbRadialDimensionLarge|13 9.0|23 9.0|33 0.0|14 5.0|24 5.0|34 0.0|15 3.0|25 4.0|35 0.0|40 1.0|",
+     true, Release::R2010},
+    {"ARC_DIMENSION", dimensionHead + "p0,0,0 p1,0,0 p2,0,0 p3,0,0 b0 d1 d2 b1 p4,0,0 p5,0,0 h0 h1D",
+     dimensionTags("165") + "100 AcDbArcDimension|13 1.0|23 0.0|33 0.0|14 2.0|24 0.0|34 0.0|15 3.0|25 0.0|35 0.0|70 "
+                            "0|40 1.0|41 2.0|71 1|16 4.0|26 0.0|36 0.0|17 5.0|27 0.0|37 0.0|",
+     true, Release::R2010},
     {"MESH", "s2 b0 l1 l3 p0,0,0 p1,0,0 p1,1,0 l4 l3 l0 l1 l2 l1 l0 l1 l1 d0.5 l0",
      "100 AcDbSubDMesh|71 2|72 0|91 1|92 3|10 0.0|20 0.0|30 0.0|10 1.0|20 0.0|30 0.0|10 1.0|20 1.0|30 0.0|93 4|90 3|"
      "90 0|90 1|90 2|94 1|90 0|90 1|95 1|140 0.5|90 0|",
@@ -280,6 +302,15 @@ TEST(DwgClasses, WhatLeavesBitsOverIsKeptAsItIs)
             EXPECT_EQ(read.drawing.problems.lostCount(), 0u) << row.name << more;
         }
     }
+}
+
+TEST(DwgClasses, JoggedRadiusThatDoesNotMeasureItsDistanceIsKeptAsItIs)
+{
+    MadeDrawing drawing(Release::R2018);
+    const std::uint64_t handle =
+        drawing.addEntity("LARGE_RADIAL_DIMENSION", writerOf(dimensionHead + "p3,4,0 p9,9,0 d1 p0,0,0 p5,5,0 h0 h1D"));
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.record(handle).substr(0, 12), "0 ACAD_PROXY");
 }
 
 TEST(DwgClasses, EmbeddedObjectsStandWhereTheirDataSays)

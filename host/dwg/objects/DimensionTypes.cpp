@@ -87,7 +87,8 @@ void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point def
     if (head.place.x != 0.0 || head.place.y != 0.0)
         f.note(12, head.place);
     f.note(70, type);
-    if (f.since(Release::R2000) || !head.text.empty())
+    // An empty text stands there in the releases between.
+    if (!head.text.empty() || (f.since(Release::R2000) && f.until(Release::R2004)))
         f.note(1, head.text);
     if (f.since(Release::R2000)) {
         f.note(71, head.attachment);

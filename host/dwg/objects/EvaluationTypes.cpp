@@ -117,12 +117,21 @@ void readAssociativePartNumbers(Fields &f)
     f.flag(290);
 }
 
+/// Which dynamic block an insert of an anonymous one stands for.
+void readRepresentation(Fields &f)
+{
+    f.subclass("AcDbBlockRepresentationData");
+    f.int16(70);
+    f.reference(340);
+}
+
 } // namespace
 
 std::span<const ObjectType> evaluationTypes()
 {
     static constexpr ObjectType rows[] = {
         {0, "ACAD_EVALUATION_GRAPH", readEvaluationGraph},
+        {0, "ACDB_BLOCKREPRESENTATION_DATA", readRepresentation},
         {0, "ACSH_HISTORY_CLASS", readHistory},
         {0, "ACSH_BOX_CLASS", readBox},
         {0, "ACDBPERSSUBENTMANAGER", readPartNumbers},

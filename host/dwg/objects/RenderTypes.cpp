@@ -47,6 +47,22 @@ void readRayRenderSettings(Fields &f)
     readSettings(f, "lllsddddddsbblllblbdllllblbbbdddssdssbtlslbd");
 }
 
+void readRenderGlobal(Fields &f)
+{
+    f.subclass("AcDbRenderGlobal");
+    readSettings(f, "lllbtllbb");
+}
+
+/// Fog, with its colour in three parts, and a picture behind everything.
+void readRenderEnvironment(Fields &f)
+{
+    f.subclass("AcDbRenderEnvironment");
+    readSettings(f, "lbb");
+    for (int part = 0; part < 3; ++part)
+        f.small(280);
+    readSettings(f, "ddddbt");
+}
+
 } // namespace
 
 std::span<const ObjectType> renderTypes()
@@ -54,6 +70,8 @@ std::span<const ObjectType> renderTypes()
     static constexpr ObjectType rows[] = {
         {0, "RAPIDRTRENDERSETTINGS", readRapidRenderSettings},
         {0, "MENTALRAYRENDERSETTINGS", readRayRenderSettings},
+        {0, "RENDERGLOBAL", readRenderGlobal},
+        {0, "RENDERENVIRONMENT", readRenderEnvironment},
     };
     return rows;
 }
