@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace host::dwg::test {
 
@@ -105,7 +106,87 @@ const BitRow bitRows[] = {
     {"nothing left", "", [](BitReader &r) { return real(r.real()); }, "failed"},
 };
 
+std::vector<std::uint8_t> anyBytes(std::size_t count, std::mt19937 &random)
+{
+    std::vector<std::uint8_t> bytes(count);
+    for (std::uint8_t &byte : bytes)
+        byte = static_cast<std::uint8_t>(random());
+    return bytes;
+}
+
+/// The same as BitReader::bits(), one bit after the other.
+std::uint32_t bitByBit(Bytes bytes, std::size_t at, int count)
+{
+    std::uint32_t value = 0;
+    for (const std::size_t end = at + static_cast<std::size_t>(count); at < end; ++at)
+        value = value << 1 | (bytes[at / 8] >> (7 - at % 8) & 1U);
+    return value;
+}
+
+/// A checksum by its definition.
+template <typename Number>
+Number checksumBitByBit(Bytes bytes, Number sum, Number polynomial)
+{
+    for (const std::uint8_t byte : bytes) {
+        sum = static_cast<Number>(sum ^ byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = static_cast<Number>((sum & 1) != 0 ? sum >> 1 ^ polynomial : sum >> 1);
+    }
+    return sum;
+}
+
 } // namespace
+
+TEST(DwgBits, AreTheSameAtAnyPlace)
+{
+    std::mt19937 random(1);
+    for (std::size_t size = 0; size < 20; ++size) {
+        // Of the size and no more, so that a sanitizer sees what is read behind the end.
+        const std::vector<std::uint8_t> bytes = anyBytes(size, random);
+        for (std::size_t at = 0; at <= size * 8; ++at) {
+            for (int count = 0; count <= 32; ++count) {
+                BitReader reader(bytes, at, size * 8);
+                const bool isThere = at + static_cast<std::size_t>(count) <= size * 8;
+                EXPECT_EQ(reader.bits(count), isThere ? bitByBit(bytes, at, count) : 0) << size << ' ' << at;
+                EXPECT_EQ(reader.hasFailed(), !isThere);
+                EXPECT_EQ(reader.position(), isThere ? at + static_cast<std::size_t>(count) : at);
+            }
+        }
+    }
+}
+
+TEST(DwgBits, BytesAndTextsAreTheSameAtAnyPlace)
+{
+    const std::string ascii = "The text of twenty one"; // of each length, from each bit
+    std::mt19937 random(2);
+    for (std::size_t length = 0; length <= ascii.size(); ++length) {
+        for (std::size_t shift = 0; shift < 8; ++shift) {
+            std::vector<std::uint8_t> plain = {0};
+            for (const char c : ascii.substr(0, length))
+                plain.insert(plain.end(), {static_cast<std::uint8_t>(c), 0});
+            std::vector<std::uint8_t> shifted;
+            for (std::size_t i = 0; i < plain.size(); ++i)
+                shifted.push_back(static_cast<std::uint8_t>(plain[i] << (8 - shift) |
+                                                            (i + 1 < plain.size() ? plain[i + 1] : 0) >> shift));
+            BitReader bytes(shifted, shift, shifted.size() * 8);
+            BitReader text(shifted, shift, shifted.size() * 8);
+            EXPECT_EQ(bytes.rawBytes(2 * length), std::string(plain.begin() + 1, plain.end()))
+                << length << ' ' << shift;
+            EXPECT_EQ(text.utf16(length), ascii.substr(0, length)) << length << ' ' << shift;
+            EXPECT_TRUE(text.utf16(1).empty() && text.hasFailed());
+        }
+    }
+}
+
+TEST(DwgChecksums, AreThoseOfTheirDefinitions)
+{
+    std::mt19937 random(3);
+    for (std::size_t size = 0; size < 40; ++size) {
+        const std::vector<std::uint8_t> bytes = anyBytes(size, random);
+        EXPECT_EQ(checksum16(bytes, 0xc0c1), checksumBitByBit<std::uint16_t>(bytes, 0xc0c1, 0xa001)) << size;
+        EXPECT_EQ(checksum32(bytes, 7), ~checksumBitByBit<std::uint32_t>(bytes, ~7U, 0xedb88320)) << size;
+    }
+}
 
 TEST(DwgBits, AreReadByTheirCodes)
 {

@@ -53,18 +53,6 @@ std::uint64_t HandleReference::from(std::uint64_t from) const
     }
 }
 
-BitReader::BitReader(Bytes bytes, std::size_t first, std::size_t end)
-    : m_bytes(bytes.data()), m_at(std::min(first, bytes.size() * 8)), m_end(std::clamp(end, m_at, bytes.size() * 8))
-{
-}
-
-bool BitReader::take(std::size_t count)
-{
-    if (m_hasFailed || count > m_end - m_at)
-        m_hasFailed = true;
-    return !m_hasFailed;
-}
-
 void BitReader::seek(std::size_t position)
 {
     if (position > m_end)
@@ -81,55 +69,40 @@ void BitReader::endAt(std::size_t position)
         m_end = position;
 }
 
-void BitReader::skip(std::size_t bits)
+std::uint64_t BitReader::aheadInFewBytes() const
 {
-    if (take(bits))
-        m_at += bits;
-}
-
-std::uint32_t BitReader::bits(int count)
-{
-    if (!take(static_cast<std::size_t>(count)))
-        return 0;
-    std::uint64_t value = 0;
-    const std::size_t lastByte = (m_at + static_cast<std::size_t>(count) - 1) / 8;
-    for (std::size_t i = m_at / 8; i <= lastByte; ++i)
-        value = value << 8 | m_bytes[i];
-    m_at += static_cast<std::size_t>(count);
-    value >>= (lastByte + 1) * 8 - m_at;
-    return static_cast<std::uint32_t>(value & ((std::uint64_t(1) << count) - 1));
-}
-
-std::uint16_t BitReader::raw16()
-{
-    const std::uint32_t value = bits(16);
-    return static_cast<std::uint16_t>(value >> 8 | value << 8);
-}
-
-std::uint32_t BitReader::raw32()
-{
-    const std::uint32_t value = bits(32);
-    return value >> 24 | (value >> 8 & 0xff00) | (value << 8 & 0xff0000) | value << 24;
-}
-
-std::uint64_t BitReader::raw64()
-{
-    if (!take(64))
-        return 0;
-    const std::uint64_t low = raw32();
-    return low | static_cast<std::uint64_t>(raw32()) << 32;
+    std::uint64_t word = 0;
+    for (std::size_t i = m_at / 8; i < m_at / 8 + sizeof word; ++i)
+        word = word << 8 | (i < m_size ? m_bytes[i] : 0);
+    return word << m_at % 8;
 }
 
 std::string BitReader::rawBytes(std::size_t count)
 {
+    std::string bytes;
+    appendRawBytes(count, bytes);
+    return bytes;
+}
+
+void BitReader::appendRawBytes(std::size_t count, std::string &bytes)
+{
     if (count > left() / 8 || !take(count * 8)) {
         m_hasFailed = true;
-        return {};
+        return;
     }
-    std::string bytes(count, '\0');
-    for (char &byte : bytes)
-        byte = static_cast<char>(bits(8));
-    return bytes;
+    const std::uint8_t *from = m_bytes + m_at / 8;
+    const unsigned shift = m_at % 8;
+    m_at += count * 8;
+    if (shift == 0) {
+        bytes.append(reinterpret_cast<const char *>(from), count);
+        return;
+    }
+    const std::size_t begin = bytes.size();
+    bytes.resize(begin + count);
+    char *to = bytes.data() + begin;
+    // The last byte has its end in one byte more, which is there, as the bits are.
+    for (std::size_t i = 0; i < count; ++i)
+        to[i] = static_cast<char>(from[i] << shift | from[i + 1] >> (8 - shift));
 }
 
 int BitReader::triple()
@@ -144,32 +117,6 @@ int BitReader::triple()
     return value;
 }
 
-std::int16_t BitReader::shortInteger()
-{
-    switch (pair()) {
-    case 0:
-        return static_cast<std::int16_t>(raw16());
-    case 1:
-        return byte();
-    case 2:
-        return 0;
-    default:
-        return 256;
-    }
-}
-
-std::int32_t BitReader::longInteger()
-{
-    switch (pair()) {
-    case 0:
-        return static_cast<std::int32_t>(raw32());
-    case 1:
-        return byte();
-    default:
-        return 0;
-    }
-}
-
 std::uint64_t BitReader::longLong()
 {
     const int count = static_cast<int>(bits(3));
@@ -177,18 +124,6 @@ std::uint64_t BitReader::longLong()
     for (int i = 0; i < count; ++i)
         value |= static_cast<std::uint64_t>(byte()) << (8 * i);
     return value;
-}
-
-double BitReader::real()
-{
-    switch (pair()) {
-    case 0:
-        return rawReal();
-    case 1:
-        return 1.0;
-    default:
-        return 0.0;
-    }
 }
 
 double BitReader::realNear(double usual)
@@ -261,15 +196,17 @@ std::uint32_t BitReader::modularShort()
 
 HandleReference BitReader::handle()
 {
+    constexpr int mostAtOnce = 4; // bytes
     HandleReference reference;
     reference.kind = static_cast<int>(bits(4));
-    const std::uint32_t count = bits(4);
+    const int count = static_cast<int>(bits(4));
     if (count > 8) {
         m_hasFailed = true;
         return {};
     }
-    for (std::uint32_t i = 0; i < count; ++i)
-        reference.value = reference.value << 8 | byte();
+    if (count > mostAtOnce)
+        reference.value = std::uint64_t(bits(8 * (count - mostAtOnce))) << 32;
+    reference.value |= bits(8 * std::min(count, mostAtOnce));
     return m_hasFailed ? HandleReference() : reference;
 }
 
@@ -302,15 +239,35 @@ std::string BitReader::text16()
     return utf16(static_cast<std::uint16_t>(shortInteger()));
 }
 
+std::size_t BitReader::takeAscii(std::size_t units, std::string &text)
+{
+    constexpr std::size_t unitsAtOnce = 3;
+    constexpr std::uint64_t beyondAscii = 0x80ff'80ff'80ff;
+    std::size_t taken = 0;
+    text.resize(units);
+    for (; units - taken >= unitsAtOnce; taken += unitsAtOnce) {
+        const std::uint64_t next = ahead() >> 16;
+        if ((next & beyondAscii) != 0)
+            break;
+        text[taken] = static_cast<char>(next >> 40);
+        text[taken + 1] = static_cast<char>(next >> 24);
+        text[taken + 2] = static_cast<char>(next >> 8);
+        m_at += 16 * unitsAtOnce;
+    }
+    text.resize(taken);
+    return taken;
+}
+
 std::string BitReader::utf16(std::size_t units)
 {
-    if (units > left() / 16) {
+    if (m_hasFailed || units > left() / 16) {
         m_hasFailed = true;
         return {};
     }
     std::string text;
+    std::size_t i = takeAscii(units, text);
     std::uint32_t pending = 0;
-    for (std::size_t i = 0; i < units; ++i) {
+    for (; i < units; ++i) {
         const std::uint32_t unit = raw16();
         if (pending != 0 && isLowHalf(unit)) {
             appendUtf8(text, 0x10000 + ((pending & 0x3ff) << 10) + (unit & 0x3ff));

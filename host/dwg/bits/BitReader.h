@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -77,7 +78,11 @@ public:
     /// All bits of `bytes`, which must outlive the reader.
     explicit BitReader(Bytes bytes) : BitReader(bytes, 0, bytes.size() * 8) {}
     /// The bits from `first` to before `end`; both are cut to what is there.
-    BitReader(Bytes bytes, std::size_t first, std::size_t end);
+    BitReader(Bytes bytes, std::size_t first, std::size_t end)
+        : m_bytes(bytes.data()), m_size(bytes.size()), m_at(std::min(first, bytes.size() * 8)),
+          m_end(std::clamp(end, m_at, bytes.size() * 8))
+    {
+    }
 
     bool hasFailed() const { return m_hasFailed; }
     std::size_t position() const { return m_at; }
@@ -85,7 +90,11 @@ public:
     std::size_t left() const { return m_end - m_at; }
     /// Goes to the bit, counted from the first of all bytes; fails when it is behind the end.
     void seek(std::size_t position);
-    void skip(std::size_t bits);
+    void skip(std::size_t bits)
+    {
+        if (take(bits))
+            m_at += bits;
+    }
     /// To the next whole byte.
     void align() { m_at = std::min((m_at + 7) / 8 * 8, m_end); }
     /// Ends earlier, at a bit counted from the first of all bytes; fails when that is behind.
@@ -95,24 +104,76 @@ public:
     // Raw values: the bits as they are.
     bool bit() { return bits(1) != 0; }
     /// Up to 32 bits, the first one the highest.
-    std::uint32_t bits(int count);
+    std::uint32_t bits(int count)
+    {
+        if (!take(static_cast<std::size_t>(count)))
+            return 0;
+        // In two steps, as no bit at all would have to be shifted by all 64.
+        const auto value = static_cast<std::uint32_t>(ahead() >> 1 >> (63 - count));
+        m_at += static_cast<std::size_t>(count);
+        return value;
+    }
     std::uint8_t byte() { return static_cast<std::uint8_t>(bits(8)); }
-    std::uint16_t raw16();
-    std::uint32_t raw32();
-    std::uint64_t raw64();
+    std::uint16_t raw16()
+    {
+        const std::uint32_t value = bits(16);
+        return static_cast<std::uint16_t>(value >> 8 | value << 8);
+    }
+    std::uint32_t raw32() { return lowestFirst(bits(32)); }
+    std::uint64_t raw64()
+    {
+        if (!take(64))
+            return 0;
+        const std::uint64_t low = raw32();
+        return low | static_cast<std::uint64_t>(raw32()) << 32;
+    }
     double rawReal() { return std::bit_cast<double>(raw64()); }
     /// `count` bytes, whole or none.
     std::string rawBytes(std::size_t count);
+    /// The same, put behind what is in `bytes`.
+    void appendRawBytes(std::size_t count, std::string &bytes);
 
     // Coded values.
     int pair() { return static_cast<int>(bits(2)); }
     /// Three bits that are cut short where one of them is 0: 0 to 7.
     int triple();
-    std::int16_t shortInteger();
-    std::int32_t longInteger();
+    std::int16_t shortInteger()
+    {
+        switch (pair()) {
+        case 0:
+            return static_cast<std::int16_t>(raw16());
+        case 1:
+            return byte();
+        case 2:
+            return 0;
+        default:
+            return 256;
+        }
+    }
+    std::int32_t longInteger()
+    {
+        switch (pair()) {
+        case 0:
+            return static_cast<std::int32_t>(raw32());
+        case 1:
+            return byte();
+        default:
+            return 0;
+        }
+    }
     /// A number of three bits says how many bytes follow.
     std::uint64_t longLong();
-    double real();
+    double real()
+    {
+        switch (pair()) {
+        case 0:
+            return rawReal();
+        case 1:
+            return 1.0;
+        default:
+            return 0.0;
+        }
+    }
     /// A number that is likely to be `usual` or near it.
     double realNear(double usual);
     /// From R2000 on 0 is one bit.
@@ -136,9 +197,37 @@ public:
     std::string utf16(std::size_t units);
 
 private:
-    bool take(std::size_t count);
+    bool take(std::size_t count)
+    {
+        if (m_hasFailed || count > m_end - m_at)
+            m_hasFailed = true;
+        return !m_hasFailed;
+    }
+
+    /// The bits from here on in the highest places: 57 or more of them, as far as there are bytes.
+    std::uint64_t ahead() const
+    {
+        constexpr std::size_t wordSize = sizeof(std::uint64_t);
+        if (m_size < wordSize)
+            return aheadInFewBytes();
+        // The last word is read from where it is whole, so that nothing behind the bytes is touched.
+        const std::size_t begin = std::min(m_at / 8, m_size - wordSize);
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < wordSize; ++i)
+            word = word << 8 | m_bytes[begin + i];
+        return word << ((m_at - begin * 8) & 63);
+    }
+    std::uint64_t aheadInFewBytes() const;
+    /// Units of UTF-16 up to the first ones that are not ASCII, of `units` that are there: how many.
+    std::size_t takeAscii(std::size_t units, std::string &text);
+
+    static std::uint32_t lowestFirst(std::uint32_t value)
+    {
+        return value >> 24 | (value >> 8 & 0xff00) | (value << 8 & 0xff0000) | value << 24;
+    }
 
     const std::uint8_t *m_bytes = nullptr;
+    std::size_t m_size = 0; ///< in bytes
     std::size_t m_at = 0;
     std::size_t m_end = 0;
     bool m_hasFailed = false;

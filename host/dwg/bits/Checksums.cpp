@@ -7,21 +7,49 @@ namespace host::dwg {
 
 namespace {
 
+/// How many bytes go into a checksum at a time: each has a table that carries it over those behind it.
+constexpr std::size_t slices = 8;
+
+template <typename Number>
+using ChecksumTables = std::array<std::array<Number, 256>, slices>;
+
 template <typename Number, Number Polynomial>
-constexpr std::array<Number, 256> checksumTable()
+constexpr ChecksumTables<Number> checksumTables()
 {
-    std::array<Number, 256> table{};
+    ChecksumTables<Number> tables{};
     for (std::uint32_t i = 0; i < 256; ++i) {
         auto value = static_cast<Number>(i);
         for (int bit = 0; bit < 8; ++bit)
             value = static_cast<Number>((value & 1) != 0 ? (value >> 1) ^ Polynomial : value >> 1);
-        table[i] = value;
+        tables[0][i] = value;
     }
-    return table;
+    for (std::size_t slice = 1; slice < slices; ++slice) {
+        for (std::size_t i = 0; i < 256; ++i) {
+            const Number before = tables[slice - 1][i];
+            tables[slice][i] = static_cast<Number>(before >> 8 ^ tables[0][before & 0xff]);
+        }
+    }
+    return tables;
 }
 
-constexpr auto table16 = checksumTable<std::uint16_t, 0xa001>();
-constexpr auto table32 = checksumTable<std::uint32_t, 0xedb88320>();
+constexpr auto tables16 = checksumTables<std::uint16_t, 0xa001>();
+constexpr auto tables32 = checksumTables<std::uint32_t, 0xedb88320>();
+
+template <typename Number>
+Number checksumOf(Bytes bytes, Number sum, const ChecksumTables<Number> &tables)
+{
+    for (; bytes.size() >= slices; bytes = bytes.subspan(slices)) {
+        Number next = 0;
+        for (std::size_t i = 0; i < slices; ++i) {
+            const std::size_t carried = i < sizeof sum ? sum >> 8 * i & 0xff : 0;
+            next = static_cast<Number>(next ^ tables[slices - 1 - i][bytes[i] ^ carried]);
+        }
+        sum = next;
+    }
+    for (const std::uint8_t byte : bytes)
+        sum = static_cast<Number>(sum >> 8 ^ tables[0][(sum ^ byte) & 0xff]);
+    return sum;
+}
 
 /// The two sums of a page.
 class PageSums
@@ -71,17 +99,12 @@ void addInPairs(Bytes part, PageSums &sums)
 
 std::uint16_t checksum16(Bytes bytes, std::uint16_t seed)
 {
-    for (const std::uint8_t byte : bytes)
-        seed = static_cast<std::uint16_t>(seed >> 8 ^ table16[(seed ^ byte) & 0xff]);
-    return seed;
+    return checksumOf(bytes, seed, tables16);
 }
 
 std::uint32_t checksum32(Bytes bytes, std::uint32_t seed)
 {
-    seed = ~seed;
-    for (const std::uint8_t byte : bytes)
-        seed = seed >> 8 ^ table32[(seed ^ byte) & 0xff];
-    return ~seed;
+    return ~checksumOf(bytes, ~seed, tables32);
 }
 
 std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed)

@@ -3,15 +3,11 @@
 #include "host/dwg/objects/Colours.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <numbers>
 
 namespace host::dwg {
 
 namespace {
-
-constexpr char hexDigits[] = "0123456789ABCDEF";
 
 /// Group codes whose tags have two or three parts are noted as their parts.
 constexpr int nextPart = 10;
@@ -21,14 +17,22 @@ constexpr int noLimit = -1000;
 
 } // namespace
 
+void Relations::clear()
+{
+    static_cast<RelatedHandles &>(*this) = {};
+    owned.clear();
+    entries.clear();
+    entryNames.clear();
+    parts.clear();
+}
+
 void Fields::start(BitReader values, BitReader texts, BitReader references)
 {
     m_values = values;
     m_texts = texts;
     m_references = references;
-    m_relations = {};
-    m_buffer.clear();
-    m_notes.clear();
+    m_relations.clear();
+    m_tags.clear();
     m_companion = noCompanion;
     m_doubt = nullptr;
 }
@@ -234,62 +238,28 @@ void Fields::noteColour(int code, int index, std::uint32_t rgb, std::string_view
 
 Point Fields::note(int code, Point point)
 {
-    addReal(code, point.x);
-    addReal(code + nextPart, point.y);
-    addReal(code + 2 * nextPart, point.z);
+    m_tags.addReal(code, point.x);
+    m_tags.addReal(code + nextPart, point.y);
+    m_tags.addReal(code + 2 * nextPart, point.z);
     return point;
 }
 
 void Fields::noteFlat(int code, Point point)
 {
-    addReal(code, point.x);
-    addReal(code + nextPart, point.y);
-}
-
-void Fields::note(int code, std::string_view text)
-{
-    const std::size_t begin = m_buffer.size();
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x20 && c != '^') {
-            m_buffer += c;
-        } else {
-            // What would end the line, and the sign that stands for it.
-            m_buffer += '^';
-            m_buffer += c == '^' ? ' ' : static_cast<char>(byte + 0x40);
-        }
-    }
-    close(code, begin);
-}
-
-void Fields::noteHandle(int code, std::uint64_t handle)
-{
-    const std::size_t begin = m_buffer.size();
-    char digits[16];
-    char *const end = std::to_chars(digits, digits + sizeof digits, handle, 16).ptr;
-    std::transform(digits, end, digits, [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-    m_buffer.append(digits, end);
-    close(code, begin);
+    m_tags.addReal(code, point.x);
+    m_tags.addReal(code + nextPart, point.y);
 }
 
 void Fields::noteAngle(int code, double radians)
 {
-    addReal(code, radians * 180.0 / std::numbers::pi);
+    m_tags.addReal(code, radians * 180.0 / std::numbers::pi);
 }
 
 void Fields::noteBinary(int code, std::string_view bytes)
 {
     constexpr std::size_t mostOfATag = 127;
-    while (!bytes.empty()) {
-        const std::size_t begin = m_buffer.size();
-        for (const char c : bytes.substr(0, mostOfATag)) {
-            const auto byte = static_cast<unsigned char>(c);
-            m_buffer += hexDigits[byte >> 4];
-            m_buffer += hexDigits[byte & 0xf];
-        }
-        close(code, begin);
-        bytes.remove_prefix(std::min(mostOfATag, bytes.size()));
-    }
+    for (; !bytes.empty(); bytes.remove_prefix(std::min(mostOfATag, bytes.size())))
+        m_tags.addBytes(code, bytes.substr(0, mostOfATag));
 }
 
 void Fields::noteLong(int code, int part, std::string_view text)
@@ -304,85 +274,6 @@ void Fields::noteLong(int code, int part, std::string_view text)
         text.remove_prefix(length);
     }
     note(code, text);
-}
-
-void Fields::addReal(int code, double value)
-{
-    const std::size_t begin = m_buffer.size();
-    char digits[40];
-    if (!std::isfinite(value))
-        value = 0.0;
-    char *end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-    m_buffer.append(digits, end);
-    if (std::none_of(digits, end, [](char c) { return c == '.' || c == 'e'; }))
-        m_buffer += ".0";
-    close(code, begin);
-}
-
-void Fields::addInteger(int code, std::int64_t value)
-{
-    const std::size_t begin = m_buffer.size();
-    char digits[24];
-    m_buffer.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
-    close(code, begin);
-}
-
-void Fields::close(int code, std::size_t begin)
-{
-    m_notes.push_back({code, static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(m_buffer.size())});
-}
-
-void Fields::arrange(std::size_t from, std::initializer_list<int> codes)
-{
-    m_arranged.clear();
-    std::vector<Note> left(m_notes.begin() + static_cast<std::ptrdiff_t>(from), m_notes.end());
-    for (auto code = codes.begin(); code != codes.end(); ++code) {
-        const bool comesAgain = std::find(code + 1, codes.end(), *code) != codes.end();
-        auto kept = left.begin();
-        for (auto note = left.begin(); note != left.end(); ++note) {
-            const bool isTaken =
-                note->code == *code && !(comesAgain && !m_arranged.empty() && m_arranged.back().code == *code);
-            if (isTaken)
-                m_arranged.push_back(*note);
-            else
-                *kept++ = *note;
-        }
-        left.erase(kept, left.end());
-    }
-    m_arranged.insert(m_arranged.end(), left.begin(), left.end());
-    std::copy(m_arranged.begin(), m_arranged.end(), m_notes.begin() + static_cast<std::ptrdiff_t>(from));
-}
-
-void Fields::moveForward(std::size_t from, std::size_t to)
-{
-    moveRange(from, m_notes.size(), to);
-}
-
-void Fields::moveRange(std::size_t from, std::size_t end, std::size_t to)
-{
-    const auto at = [this](std::size_t place) { return m_notes.begin() + static_cast<std::ptrdiff_t>(place); };
-    std::rotate(at(to), at(from), at(end));
-}
-
-void Fields::repeat(std::size_t from, std::size_t end)
-{
-    m_notes.reserve(m_notes.size() + (end - from));
-    for (std::size_t i = from; i < end; ++i)
-        m_notes.push_back(m_notes[i]);
-}
-
-void Fields::write(std::string &lines, std::size_t from, std::size_t end) const
-{
-    for (std::size_t i = from; i < end; ++i) {
-        const Note &note = m_notes[i];
-        char digits[16];
-        char *const digitsEnd = std::to_chars(digits, digits + sizeof digits, note.code).ptr;
-        lines.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, 3 - (digitsEnd - digits))), ' ');
-        lines.append(digits, digitsEnd);
-        lines += '\n';
-        lines.append(m_buffer, note.begin, note.end - note.begin);
-        lines += '\n';
-    }
 }
 
 } // namespace host::dwg

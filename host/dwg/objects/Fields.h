@@ -1,10 +1,10 @@
 #pragma once
 
 #include "host/dwg/bits/BitReader.h"
+#include "host/dwg/objects/TagLines.h"
 
 #include <algorithm>
 #include <functional>
-#include <initializer_list>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
@@ -16,10 +16,10 @@ namespace host::dwg {
 /// What objects refer to by handle and drawings in text form by name: entries of tables.
 using Names = std::unordered_map<std::uint64_t, std::string>;
 
-/// What an object refers to that stands elsewhere, for whoever puts the drawing together. Handles; 0 names nothing.
-struct Relations
+/// The handles of what an object refers to one by one. 0 names nothing.
+struct RelatedHandles
 {
-    std::uint64_t handle = 0;
+    std::uint64_t handle = 0; ///< its own
     std::uint64_t owner = 0;
     std::uint64_t dictionary = 0; ///< its extension dictionary
     std::uint64_t next = 0;       ///< the entity behind it in its block, before R2004
@@ -27,13 +27,21 @@ struct Relations
     std::uint64_t lastOwned = 0;
     std::uint64_t end = 0;   ///< what closes its list: SEQEND, ENDBLK
     std::uint64_t begin = 0; ///< what opens it: BLOCK
+    bool isEntity = false;
+    bool hasList = false;       ///< attributes or vertices follow
+    bool hasStoredData = false; ///< a part of it is in the file's data store
+};
+
+/// What an object refers to that stands elsewhere, for whoever puts the drawing together.
+struct Relations : RelatedHandles
+{
     std::vector<std::uint64_t> owned;
     std::vector<std::uint64_t> entries;  ///< of a dictionary
     std::vector<std::string> entryNames; ///< theirs
     std::vector<std::uint64_t> parts;    ///< what it owns by other references, in their order
-    bool isEntity = false;
-    bool hasList = false;       ///< attributes or vertices follow
-    bool hasStoredData = false; ///< a part of it is in the file's data store
+
+    /// As new, but with the room of its rows.
+    void clear();
 };
 
 /// What a text takes up when it is drawn.
@@ -169,17 +177,17 @@ public:
     Number note(int code, Number value)
     {
         if constexpr (std::is_floating_point_v<Number>)
-            addReal(code, value);
+            m_tags.addReal(code, value);
         else
-            addInteger(code, static_cast<std::int64_t>(value));
+            m_tags.addInteger(code, static_cast<std::int64_t>(value));
         return value;
     }
     Point note(int code, Point point);
     void noteFlat(int code, Point point);
-    void note(int code, std::string_view text);
+    void note(int code, std::string_view text) { m_tags.addText(code, text); }
     void note(int code, const std::string &text) { note(code, std::string_view(text)); }
     void note(int code, const char *text) { note(code, std::string_view(text)); }
-    void noteHandle(int code, std::uint64_t handle);
+    void noteHandle(int code, std::uint64_t handle) { m_tags.addHandle(code, handle); }
     template <typename Number>
     Number noteUnless(int code, Number value, Unless unless)
     {
@@ -206,44 +214,33 @@ public:
     std::size_t companion() const { return std::min(m_companion, mark()); }
 
     /// Where the next tag will be, for arrange().
-    std::size_t mark() const { return m_notes.size(); }
+    std::size_t mark() const { return m_tags.count(); }
     /// Orders the tags from `from` on as `codes` have it: all of the first code, then all of the second. What has none
     /// of these codes stays behind in its order. A code that stands there twice takes one tag the first time.
-    void arrange(std::size_t from, std::initializer_list<int> codes);
+    void arrange(std::size_t from, std::initializer_list<int> codes) { m_tags.arrange(from, codes); }
     /// Moves the tags from `from` on to `to`, in front of it.
-    void moveForward(std::size_t from, std::size_t to);
+    void moveForward(std::size_t from, std::size_t to) { moveRange(from, mark(), to); }
     /// Moves the tags from `from` to before `end` in front of the one at `to`, which stands in front of them.
-    void moveRange(std::size_t from, std::size_t end, std::size_t to);
+    void moveRange(std::size_t from, std::size_t end, std::size_t to) { m_tags.moveRange(from, end, to); }
     /// Notes the tags from `from` to before `end` once more.
-    void repeat(std::size_t from, std::size_t end);
+    void repeat(std::size_t from, std::size_t end) { m_tags.repeat(from, end); }
     /// Takes back what was noted from there on.
-    void drop(std::size_t from) { m_notes.resize(from); }
+    void drop(std::size_t from) { m_tags.drop(from); }
     /// Gives all tags, in order, to `take`: code and value.
     template <typename Take>
     void forEachTag(Take take) const
     {
-        for (const Note &note : m_notes)
-            take(note.code, std::string_view(m_buffer).substr(note.begin, note.end - note.begin));
+        m_tags.forEach(take);
     }
     /// Adds all tags to `lines` as a file has them.
-    void write(std::string &lines) const { write(lines, 0, m_notes.size()); }
+    void write(std::string &lines) const { m_tags.write(lines); }
     /// Adds those from `from` to before `end`.
-    void write(std::string &lines, std::size_t from, std::size_t end) const;
+    void write(std::string &lines, std::size_t from, std::size_t end) const { m_tags.write(lines, from, end); }
 
 private:
-    struct Note
-    {
-        int code;
-        std::uint32_t begin;
-        std::uint32_t end;
-    };
-
     static constexpr std::size_t noCompanion = static_cast<std::size_t>(-1);
 
     int noteLongColour(int code, int unless);
-    void addReal(int code, double value);
-    void addInteger(int code, std::int64_t value);
-    void close(int code, std::size_t begin);
 
     Release m_release;
     const Names &m_names;
@@ -256,11 +253,9 @@ private:
     std::unordered_set<std::uint64_t> m_extensionDictionaries;
     std::vector<std::size_t> *m_textPlaces = nullptr;
     std::string_view m_typeName;
-    std::string m_buffer; ///< the tags' values, one behind the other
-    std::vector<Note> m_notes;
+    TagLines m_tags;
     std::size_t m_companion = noCompanion;
     const char *m_doubt = nullptr;
-    std::vector<Note> m_arranged; ///< kept for its room
 };
 
 } // namespace host::dwg

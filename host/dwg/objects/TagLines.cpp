@@ -1,0 +1,250 @@
+#include "host/dwg/objects/TagLines.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <numeric>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr char hexDigits[] = "0123456789ABCDEF";
+
+/// The line of a group code, which has three places at least. Eight bytes, so that it is copied at one go.
+struct CodeLine
+{
+    std::array<char, 7> text{};
+    std::uint8_t size = 0;
+};
+
+constexpr std::size_t usualCodes = 1080;
+
+constexpr std::array<CodeLine, usualCodes> codeLines()
+{
+    std::array<CodeLine, usualCodes> lines{};
+    for (std::size_t code = 0; code < usualCodes; ++code) {
+        CodeLine &line = lines[code];
+        line.size = code < 1000 ? 3 : 4;
+        line.text.fill(' ');
+        std::size_t left = code;
+        for (std::size_t i = line.size; i > 0 && (left > 0 || i == line.size); left /= 10)
+            line.text[--i] = static_cast<char>('0' + left % 10);
+        line.text[line.size++] = '\n';
+    }
+    return lines;
+}
+
+constexpr auto usualCodeLines = codeLines();
+
+/// Room for the line of any code.
+constexpr std::size_t mostOfACode = 16;
+constexpr std::size_t mostOfANumber = 40;
+
+char *putCode(int code, char *to)
+{
+    if (code >= 0 && static_cast<std::size_t>(code) < usualCodes) {
+        const CodeLine &line = usualCodeLines[static_cast<std::size_t>(code)];
+        std::memcpy(to, line.text.data(), line.text.size());
+        return to + line.size;
+    }
+    char digits[mostOfACode];
+    const std::string_view text(digits, std::to_chars(digits, digits + sizeof digits, code).ptr);
+    to = std::fill_n(to, text.size() < 3 ? 3 - text.size() : 0, ' ');
+    to = std::copy(text.begin(), text.end(), to);
+    *to++ = '\n';
+    return to;
+}
+
+/// Whole numbers whose shortest form is their digits: no more than four zeros at the end, or it would be one with an
+/// exponent.
+bool hasPlainDigits(double value)
+{
+    constexpr double exact = 1e15;
+    if (!(std::abs(value) < exact) || std::signbit(value) != (value < 0.0))
+        return false;
+    const auto whole = static_cast<std::int64_t>(value);
+    return static_cast<double>(whole) == value && (whole == 0 || whole % 100000 != 0);
+}
+
+char *putReal(double value, char *to)
+{
+    constexpr std::string_view fraction = ".0";
+    if (hasPlainDigits(value)) {
+        to = std::to_chars(to, to + mostOfANumber, static_cast<std::int64_t>(value)).ptr;
+        return std::copy(fraction.begin(), fraction.end(), to);
+    }
+    char *const end = std::to_chars(to, to + mostOfANumber, std::isfinite(value) ? value : 0.0).ptr;
+    const bool isWhole = std::none_of(to, end, [](char c) { return c == '.' || c == 'e'; });
+    return isWhole ? std::copy(fraction.begin(), fraction.end(), end) : end;
+}
+
+bool needsCaret(char c)
+{
+    return static_cast<unsigned char>(c) < 0x20 || c == '^';
+}
+
+/// Without a way out of the loop, so that many are looked at at a time.
+bool needsNoCaret(std::string_view text)
+{
+    unsigned found = 0;
+    for (const char c : text)
+        found |= needsCaret(c) ? 1U : 0U;
+    return found == 0;
+}
+
+char *putText(std::string_view text, char *to)
+{
+    if (needsNoCaret(text))
+        return std::copy(text.begin(), text.end(), to);
+    for (const char c : text) {
+        // What would end the line, and the sign that stands for it.
+        if (needsCaret(c))
+            *to++ = '^';
+        *to++ = c == '^' ? ' ' : needsCaret(c) ? static_cast<char>(c + 0x40) : c;
+    }
+    return to;
+}
+
+} // namespace
+
+void TagLines::clear()
+{
+    m_size = 0;
+    m_tags.clear();
+    m_isInOrder = true;
+}
+
+void TagLines::makeRoom(std::size_t bytes)
+{
+    if (m_room - m_size >= bytes)
+        return;
+    const std::size_t room = std::max(2 * m_room, m_size + bytes + 4096);
+    auto lines = std::make_unique_for_overwrite<char[]>(room);
+    std::copy_n(m_lines.get(), m_size, lines.get());
+    m_lines = std::move(lines);
+    m_room = room;
+}
+
+char *TagLines::begin(int code, std::size_t most)
+{
+    makeRoom(mostOfACode + most + 1);
+    return putCode(code, m_lines.get() + m_size);
+}
+
+void TagLines::finish(int code, char *end)
+{
+    *end++ = '\n';
+    const auto size = static_cast<std::size_t>(end - m_lines.get()) - m_size;
+    m_tags.push_back({m_size, static_cast<std::uint32_t>(size), code});
+    m_size += size;
+}
+
+void TagLines::addInteger(int code, std::int64_t value)
+{
+    char *const to = begin(code, mostOfANumber);
+    finish(code, std::to_chars(to, to + mostOfANumber, value).ptr);
+}
+
+void TagLines::addReal(int code, double value)
+{
+    finish(code, putReal(value, begin(code, mostOfANumber)));
+}
+
+void TagLines::addHandle(int code, std::uint64_t handle)
+{
+    char *const to = begin(code, mostOfANumber);
+    const int digits = std::max(1, (static_cast<int>(std::bit_width(handle)) + 3) / 4);
+    for (int i = digits; i > 0; handle >>= 4)
+        to[--i] = hexDigits[handle & 0xf];
+    finish(code, to + digits);
+}
+
+void TagLines::addText(int code, std::string_view text)
+{
+    finish(code, putText(text, begin(code, 2 * text.size())));
+}
+
+void TagLines::addBytes(int code, std::string_view bytes)
+{
+    char *to = begin(code, 2 * bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        *to++ = hexDigits[byte >> 4];
+        *to++ = hexDigits[byte & 0xf];
+    }
+    finish(code, to);
+}
+
+void TagLines::arrange(std::size_t from, std::initializer_list<int> codes)
+{
+    // Where each tag goes among the codes; which place of a code that comes again is its next one.
+    m_ranks.clear();
+    m_places.assign(codes.size() + 2, 0);
+    std::vector<std::size_t> &taken = m_places;
+    const auto rankOf = [&](int code) {
+        std::size_t rank = codes.size();
+        for (std::size_t i = 0; i < codes.size(); ++i) {
+            if (codes.begin()[i] != code)
+                continue;
+            rank = i;
+            if (taken[i] == 0)
+                break;
+        }
+        return rank;
+    };
+    bool isArranged = true;
+    for (std::size_t i = from; i < m_tags.size(); ++i) {
+        const std::size_t rank = rankOf(m_tags[i].code);
+        isArranged = isArranged && (m_ranks.empty() || m_ranks.back() <= rank);
+        m_ranks.push_back(rank);
+        ++taken[rank];
+    }
+    if (isArranged)
+        return;
+    std::exclusive_scan(m_places.begin(), m_places.end(), m_places.begin(), std::size_t(0));
+    m_arranged.resize(m_ranks.size());
+    for (std::size_t i = 0; i < m_ranks.size(); ++i)
+        m_arranged[m_places[m_ranks[i]]++] = m_tags[from + i];
+    std::copy(m_arranged.begin(), m_arranged.end(), m_tags.begin() + static_cast<std::ptrdiff_t>(from));
+    m_isInOrder = false;
+}
+
+void TagLines::moveRange(std::size_t from, std::size_t end, std::size_t to)
+{
+    const auto at = [this](std::size_t place) { return m_tags.begin() + static_cast<std::ptrdiff_t>(place); };
+    std::rotate(at(to), at(from), at(end));
+    m_isInOrder = m_isInOrder && (to == from || from == end);
+}
+
+void TagLines::drop(std::size_t from)
+{
+    if (m_isInOrder && from < m_tags.size())
+        m_size = m_tags[from].begin;
+    m_tags.resize(from);
+}
+
+void TagLines::repeat(std::size_t from, std::size_t end)
+{
+    for (std::size_t i = from; i < end; ++i)
+        m_tags.push_back(m_tags[i]);
+    m_isInOrder = m_isInOrder && from == end;
+}
+
+void TagLines::write(std::string &text, std::size_t from, std::size_t end) const
+{
+    if (from >= end)
+        return;
+    if (m_isInOrder) {
+        const std::size_t begin = m_tags[from].begin;
+        text.append(m_lines.get() + begin, m_tags[end - 1].begin + m_tags[end - 1].size - begin);
+        return;
+    }
+    for (std::size_t i = from; i < end; ++i)
+        text.append(m_lines.get() + m_tags[i].begin, m_tags[i].size);
+}
+
+} // namespace host::dwg
