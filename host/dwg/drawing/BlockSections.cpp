@@ -32,18 +32,23 @@ private:
         const auto frame = m_objects.take(handle);
         if (!frame)
             return false;
-        m_records.fields().relations() = {};
+        const Relations &relations = m_records.fields().relations();
+        m_records.fields().relations().clear();
         const bool isWritten = m_records.writeFrame(handle, *frame);
-        const Relations relations = m_records.fields().relations();
-        if (isWritten && relations.hasList && m_depth < deepestList) {
-            ++m_depth;
-            write(relations);
-            --m_depth;
-            m_records.writeObject(relations.end);
-        }
+        const std::uint64_t next = relations.next;
+        if (isWritten && relations.hasList && m_depth < deepestList)
+            writeList(Relations(relations));
         m_lastHandle = handle;
-        m_nextHandle = relations.next;
+        m_nextHandle = next;
         return true;
+    }
+
+    void writeList(const Relations &relations)
+    {
+        ++m_depth;
+        write(relations);
+        --m_depth;
+        m_records.writeObject(relations.end);
     }
 
     DrawingObjects &m_objects;

@@ -4,20 +4,36 @@
 
 namespace host::dwg {
 
-namespace {
-
-constexpr int firstClassNumber = 500;
-
-} // namespace
-
 DrawingObjects::DrawingObjects(const Container &container, Problems &problems)
     : m_container(container), m_problems(problems), m_classes(readClasses(container, problems)),
       m_map(readObjectMap(container, problems)), m_isTaken(m_map.size())
 {
+    sortClasses();
+}
+
+void DrawingObjects::sortClasses()
+{
+    for (const ObjectClass &one : m_classes) {
+        if (one.number < firstClassNumber)
+            continue;
+        const auto place = static_cast<std::size_t>(one.number - firstClassNumber);
+        if (place >= m_knownClasses.size())
+            m_knownClasses.resize(place + 1);
+        if (!m_knownClasses[place].one)
+            m_knownClasses[place] = {&one, typeByClass(one.name, m_container.release)};
+    }
+}
+
+DrawingObjects::KnownClass DrawingObjects::knownClass(int number) const
+{
+    const auto place = static_cast<std::size_t>(number - firstClassNumber);
+    return number >= firstClassNumber && place < m_knownClasses.size() ? m_knownClasses[place] : KnownClass();
 }
 
 std::size_t DrawingObjects::indexOf(std::uint64_t handle) const
 {
+    if (m_lastTaken + 1 < m_map.size() && m_map[m_lastTaken + 1].handle == handle)
+        return m_lastTaken + 1;
     const auto found = std::ranges::lower_bound(m_map, handle, {}, &MapEntry::handle);
     return found != m_map.end() && found->handle == handle ? static_cast<std::size_t>(found - m_map.begin())
                                                            : m_map.size();
@@ -25,7 +41,7 @@ std::size_t DrawingObjects::indexOf(std::uint64_t handle) const
 
 std::optional<ObjectFrame> DrawingObjects::peek(const MapEntry &entry) const
 {
-    return peekAt(m_container.objects, entry.place, m_container.release);
+    return frameAt(m_container.objects, entry.place, m_container.release);
 }
 
 std::optional<ObjectFrame> DrawingObjects::peek(std::uint64_t handle) const
@@ -40,10 +56,19 @@ std::optional<ObjectFrame> DrawingObjects::take(std::uint64_t handle)
     if (index == m_map.size() || m_isTaken[index])
         return std::nullopt;
     m_isTaken[index] = true;
-    auto frame = frameAt(m_container.objects, m_map[index].place, m_container.release);
-    if (!frame)
+    m_lastTaken = index;
+    auto frame = peek(m_map[index]);
+    if (!frame) {
         m_problems.add({Problem::Kind::Lost, "There is no object at its place.", {}, handle});
-    else if (!frame->isChecked)
+        return std::nullopt;
+    }
+    // Otherwise a small file could have any number of large objects, each in the others.
+    m_bytesTaken += frame->bytes.size();
+    if (m_bytesTaken > byteCount()) {
+        lose(handle, frame->type, "It stands within other objects.");
+        return std::nullopt;
+    }
+    if (!hasItsChecksum(m_container.objects, m_map[index].place, *frame))
         warn(handle, frame->type, "The checksum does not fit.");
     return frame;
 }
@@ -56,16 +81,12 @@ void DrawingObjects::leaveOut(std::uint64_t handle)
 
 const ObjectType *DrawingObjects::typeOf(int number) const
 {
-    if (number < firstClassNumber)
-        return typeByNumber(number);
-    const ObjectClass *one = classOf(number);
-    return one ? typeByClass(one->name, m_container.release) : nullptr;
+    return number < firstClassNumber ? typeByNumber(number) : knownClass(number).type;
 }
 
 const ObjectClass *DrawingObjects::classOf(int number) const
 {
-    const auto found = std::ranges::find(m_classes, number, &ObjectClass::number);
-    return found != m_classes.end() ? &*found : nullptr;
+    return knownClass(number).one;
 }
 
 std::string DrawingObjects::typeNameOf(int number) const

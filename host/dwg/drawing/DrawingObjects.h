@@ -16,6 +16,8 @@ public:
 
     Release release() const { return m_container.release; }
     const std::vector<ObjectClass> &classes() const { return m_classes; }
+    /// Of all objects together, at most: they do not overlap.
+    std::size_t byteCount() const { return m_container.objects.size(); }
     /// All objects by rising handle.
     const std::vector<MapEntry> &map() const { return m_map; }
 
@@ -43,14 +45,26 @@ public:
     Problems &problems() { return m_problems; }
 
 private:
+    /// A class as it is looked up by its number.
+    struct KnownClass
+    {
+        const ObjectClass *one = nullptr;
+        const ObjectType *type = nullptr; ///< null for what is not read here
+    };
+
+    void sortClasses();
+    KnownClass knownClass(int number) const;
     /// The object's place in the map; the map's size when it is not there.
     std::size_t indexOf(std::uint64_t handle) const;
 
     const Container &m_container;
     Problems &m_problems;
     std::vector<ObjectClass> m_classes;
+    std::vector<KnownClass> m_knownClasses; ///< by their numbers, from firstClassNumber on
     std::vector<MapEntry> m_map;
     std::vector<bool> m_isTaken; ///< for the entries of the map
+    std::size_t m_lastTaken = 0; ///< in the map; mostly the next one is wanted next
+    std::size_t m_bytesTaken = 0;
 };
 
 } // namespace host::dwg

@@ -23,6 +23,9 @@ void leaveOutLaterRecords(DrawingParts &parts)
 /// to everything else.
 void writeDrawing(const Container &container, DrawingText &result)
 {
+    // What lines and circles make of their bytes, so that the text of most drawings is not moved while it grows.
+    constexpr std::size_t usualGrowth = 4;
+    result.text.reserve(usualGrowth * container.objects.size());
     DrawingParts parts(container, result.problems, result.text);
     result.objectCount = parts.objects.map().size();
     if (result.objectCount == 0)

@@ -23,10 +23,14 @@ void readNames(const DrawingObjects &objects, Fields &fields, Names &names)
 {
     ObjectHead head({});
     std::uint64_t multiLineStyles = 0;
+    std::size_t bytes = 0;
     for (const MapEntry &entry : objects.map()) {
         const auto frame = objects.peek(entry);
         if (!frame || std::ranges::find(namedTypes, frame->type) == namedTypes.end())
             continue;
+        bytes += frame->bytes.size();
+        if (bytes > objects.byteCount())
+            break;
         head.read(*frame, false, fields);
         names[entry.handle] = fields.text();
         if (frame->type == multiLineStyleType)

@@ -72,7 +72,9 @@ void RecordWriter::beginSection(std::string_view name)
 
 void RecordWriter::beginRecord(std::string_view type)
 {
-    addTag(0, type);
+    m_text += "  0\n";
+    m_text += type;
+    m_text += '\n';
 }
 
 void RecordWriter::addTag(int code, std::string_view value)

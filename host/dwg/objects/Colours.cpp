@@ -1,7 +1,8 @@
 #include "host/dwg/objects/Colours.h"
 
+#include <algorithm>
 #include <array>
-#include <cstdlib>
+#include <limits>
 
 namespace host::dwg {
 
@@ -15,7 +16,7 @@ struct Rgb
 };
 
 /// The colours 10 to 249: 24 hues of ten, each with five brightnesses, full and pale in turn.
-Rgb wheelColour(int index)
+constexpr Rgb wheelColour(int index)
 {
     constexpr std::array<int, 5> brightness = {255, 165, 127, 76, 38};
     const int value = brightness[static_cast<std::size_t>(index % 10 / 2)];
@@ -40,7 +41,7 @@ Rgb wheelColour(int index)
     }
 }
 
-Rgb indexColour(int index)
+constexpr Rgb indexColour(int index)
 {
     constexpr std::array<Rgb, 10> first = {{{0, 0, 0},
                                             {255, 0, 0},
@@ -61,26 +62,44 @@ Rgb indexColour(int index)
     return {grey, grey, grey};
 }
 
+constexpr std::size_t paletteSize = 256;
+
+/// The colours by their indices, part by part.
+struct Palette
+{
+    constexpr Palette()
+    {
+        for (std::size_t index = 0; index < paletteSize; ++index) {
+            const Rgb colour = indexColour(static_cast<int>(index));
+            red[index] = colour.red;
+            green[index] = colour.green;
+            blue[index] = colour.blue;
+        }
+    }
+
+    std::array<int, paletteSize> red{};
+    std::array<int, paletteSize> green{};
+    std::array<int, paletteSize> blue{};
+};
+
+constexpr Palette palette;
+
 } // namespace
 
 int nearestIndex(std::uint32_t rgb)
 {
     const Rgb wanted{static_cast<int>(rgb >> 16 & 0xff), static_cast<int>(rgb >> 8 & 0xff),
                      static_cast<int>(rgb & 0xff)};
-    int best = 7;
-    int least = 0x7fffffff;
-    for (int index = 1; index < 256; ++index) {
-        const Rgb colour = indexColour(index);
-        const int red = colour.red - wanted.red;
-        const int green = colour.green - wanted.green;
-        const int blue = colour.blue - wanted.blue;
-        const int distance = red * red + green * green + blue * blue;
-        if (distance < least) {
-            least = distance;
-            best = index;
-        }
+    // The index stands below the distance, so that the first of the nearest ones is the least. A loop without
+    // conditions, which goes over several colours at a time.
+    int least = std::numeric_limits<int>::max();
+    for (std::size_t index = 1; index < paletteSize; ++index) {
+        const int red = palette.red[index] - wanted.red;
+        const int green = palette.green[index] - wanted.green;
+        const int blue = palette.blue[index] - wanted.blue;
+        least = std::min(least, (red * red + green * green + blue * blue) << 8 | static_cast<int>(index));
     }
-    return best;
+    return least & 0xff;
 }
 
 int colourIndex(std::uint32_t colour)

@@ -63,7 +63,7 @@ int lineWeight(int number)
     return number == 29 ? -1 : number == 30 ? -2 : -3;
 }
 
-std::optional<ObjectFrame> peekAt(Bytes objects, std::uint64_t place, Release release)
+std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release release)
 {
     if (place >= objects.size())
         return std::nullopt;
@@ -87,16 +87,11 @@ std::optional<ObjectFrame> peekAt(Bytes objects, std::uint64_t place, Release re
     return frame;
 }
 
-std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release release)
+bool hasItsChecksum(Bytes objects, std::uint64_t place, const ObjectFrame &frame)
 {
-    std::optional<ObjectFrame> frame = peekAt(objects, place, release);
-    if (frame) {
-        const Bytes whole =
-            objects.subspan(place, static_cast<std::size_t>(&frame->bytes.back() + 1 - &objects[place]));
-        BitReader told(objects, (place + whole.size()) * 8, objects.size() * 8);
-        frame->isChecked = checksum16(whole, 0xc0c1) == told.raw16();
-    }
-    return frame;
+    const Bytes whole = objects.subspan(place, static_cast<std::size_t>(&frame.bytes.back() + 1 - &objects[place]));
+    BitReader told(objects, (place + whole.size()) * 8, objects.size() * 8);
+    return checksum16(whole, 0xc0c1) == told.raw16();
 }
 
 BitReader textsOf(Bytes bytes, std::size_t end)

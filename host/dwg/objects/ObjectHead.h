@@ -9,15 +9,15 @@ struct ObjectFrame
 {
     Bytes bytes; ///< from the type on, without length and checksum
     int type = 0;
-    bool isChecked = false;          ///< the checksum behind it fits; not looked at by peekAt()
     std::size_t bodyStart = 0;       ///< bits
     std::size_t referencesStart = 0; ///< bits from the start; 0 where the object tells it further on (R13, R14)
 };
 
-/// Finds the object at a place of what the object map counts in. Nothing when no object can be there.
+/// Finds the object at a place of what the object map counts in. Nothing when no object can be there. The checksum is
+/// not looked at.
 std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release release);
-/// The same without the checksum.
-std::optional<ObjectFrame> peekAt(Bytes objects, std::uint64_t place, Release release);
+/// Whether the checksum behind an object, which was found there, is that of its bytes.
+bool hasItsChecksum(Bytes objects, std::uint64_t place, const ObjectFrame &frame);
 
 /// Where the texts of R2007 and later are: in front of the references, found from their end. Empty when there are none;
 /// its end is that of the values in any case.

@@ -1,6 +1,7 @@
 #include "host/dwg/objects/TypeTable.h"
 
 #include <algorithm>
+#include <array>
 
 namespace host::dwg {
 
@@ -11,13 +12,14 @@ struct TypeIndex
     TypeIndex()
     {
         for (const ObjectType *row : allTypes()) {
-            if (row->number != 0)
-                byNumber.emplace(row->number, row);
+            const auto number = static_cast<std::size_t>(row->number);
+            if (number != 0 && !byNumber[number])
+                byNumber[number] = row;
             byName.emplace(row->name, row);
         }
     }
 
-    std::unordered_map<int, const ObjectType *> byNumber;
+    std::array<const ObjectType *, firstClassNumber> byNumber{};
     std::unordered_map<std::string_view, const ObjectType *> byName;
 };
 
@@ -25,13 +27,6 @@ const TypeIndex &typeIndex()
 {
     static const TypeIndex index;
     return index;
-}
-
-template <typename Map, typename Key>
-const ObjectType *rowIn(const Map &map, const Key &key)
-{
-    const auto found = map.find(key);
-    return found != map.end() ? found->second : nullptr;
 }
 
 /// Classes that programs of R13 and R14 write as what they are.
@@ -65,12 +60,13 @@ std::vector<const ObjectType *> allTypes()
 
 const ObjectType *typeByNumber(int number)
 {
-    return rowIn(typeIndex().byNumber, number);
+    return number >= 0 && number < firstClassNumber ? typeIndex().byNumber[static_cast<std::size_t>(number)] : nullptr;
 }
 
 const ObjectType *typeByClass(std::string_view name, Release release)
 {
-    const ObjectType *type = rowIn(typeIndex().byName, name);
+    const auto found = typeIndex().byName.find(name);
+    const ObjectType *type = found != typeIndex().byName.end() ? found->second : nullptr;
     const bool isKnown = type && (type->number != 0 || release >= Release::R2000 || isOldClass(name));
     return isKnown ? type : name == "ACAD_TABLE" ? &tableAsInsert() : nullptr;
 }

@@ -16,6 +16,9 @@ struct ObjectType
     bool isEntity = false;
 };
 
+/// Types from this number on are classes, which the file has a list of.
+constexpr int firstClassNumber = 500;
+
 /// The row of a type with a number of its own; null for what is none, and for types that are not read.
 const ObjectType *typeByNumber(int number);
 /// The row of a class by the name that it has in the text form of a release; null when there is none. The text form of
