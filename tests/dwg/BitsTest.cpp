@@ -3,6 +3,7 @@
 #include "host/dwg/bits/BitReader.h"
 #include "host/dwg/bits/Checksums.h"
 #include "host/dwg/container/PageCompression.h"
+#include "host/dwg/container/UnpackedPage.h"
 #include "host/dwg/objects/Colours.h"
 
 #include <functional>
@@ -185,6 +186,37 @@ TEST(DwgChecksums, AreThoseOfTheirDefinitions)
         const std::vector<std::uint8_t> bytes = anyBytes(size, random);
         EXPECT_EQ(checksum16(bytes, 0xc0c1), checksumBitByBit<std::uint16_t>(bytes, 0xc0c1, 0xa001)) << size;
         EXPECT_EQ(checksum32(bytes, 7), ~checksumBitByBit<std::uint32_t>(bytes, ~7U, 0xedb88320)) << size;
+    }
+}
+
+TEST(UnpackedPages, HaveWhatByteByByteWouldGive)
+{
+    std::mt19937 random(4);
+    for (int run = 0; run < 300; ++run) {
+        const std::size_t size = random() % 200;
+        const std::vector<std::uint8_t> packed = anyBytes(random() % 50, random);
+        std::vector<std::uint8_t> bytes(size, 0xee);
+        UnpackedPage page(bytes);
+        std::vector<std::uint8_t> expected;
+        for (int step = 0; step < 40; ++step) {
+            const std::size_t length = random() % 40;
+            const std::size_t back = random() % 40;
+            const bool hasRoom = length <= size - expected.size();
+            if (random() % 2 == 0) {
+                const bool isThere = hasRoom && length <= packed.size();
+                EXPECT_EQ(page.add(packed, length), isThere);
+                expected.insert(expected.end(), packed.begin(),
+                                packed.begin() + static_cast<std::ptrdiff_t>(isThere ? length : 0));
+            } else {
+                const bool isThere = hasRoom && back > 0 && back <= expected.size();
+                EXPECT_EQ(page.repeat(length, back), isThere);
+                for (std::size_t i = 0; isThere && i < length; ++i)
+                    expected.push_back(expected[expected.size() - back]);
+            }
+            ASSERT_EQ(page.room(), size - expected.size());
+        }
+        expected.resize(size, 0xee);
+        EXPECT_EQ(bytes, expected) << "and what was not added is as it was";
     }
 }
 

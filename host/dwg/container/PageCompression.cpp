@@ -1,6 +1,6 @@
 #include "host/dwg/container/PageCompression.h"
 
-#include <algorithm>
+#include "host/dwg/container/UnpackedPage.h"
 
 namespace host::dwg {
 
@@ -16,7 +16,7 @@ public:
     bool run()
     {
         copyPlain(plainLength());
-        while (!m_hasFailed && left() > 0) {
+        while (!m_hasFailed && m_page.room() > 0) {
             const std::uint8_t code = m_code != 0 ? m_code : next();
             m_code = 0;
             if (code == endCode)
@@ -90,39 +90,22 @@ private:
         copyPlain(plain != 0 || m_hasFailed ? plain : plainLengthBehindRun());
     }
 
-    std::size_t plainLengthBehindRun() { return left() > 0 ? plainLength() : 0; }
-
-    std::size_t left() const { return m_page.size() - m_size; }
+    std::size_t plainLengthBehindRun() { return m_page.room() > 0 ? plainLength() : 0; }
 
     void copyBack(std::size_t length, std::size_t back)
     {
-        if (m_hasFailed || back > m_size || length > left()) {
-            m_hasFailed = true;
-            return;
-        }
-        // Byte by byte: a run may go on with what it has just copied.
-        std::uint8_t *to = m_page.data() + m_size;
-        for (std::size_t i = 0; i < length; ++i, ++to)
-            *to = *(to - back);
-        m_size += length;
+        m_hasFailed = m_hasFailed || !m_page.repeat(length, back);
     }
 
     void copyPlain(std::size_t length)
     {
-        if (m_hasFailed || length > m_packed.size() - m_at || length > left()) {
-            m_hasFailed = true;
-            return;
-        }
-        std::copy_n(m_packed.begin() + static_cast<std::ptrdiff_t>(m_at), length,
-                    m_page.begin() + static_cast<std::ptrdiff_t>(m_size));
-        m_size += length;
-        m_at += length;
+        m_hasFailed = m_hasFailed || !m_page.add(m_packed.subspan(m_at), length);
+        m_at += m_hasFailed ? 0 : length;
     }
 
     Bytes m_packed;
-    std::span<std::uint8_t> m_page;
+    UnpackedPage m_page;
     std::size_t m_at = 0;    ///< in the packed bytes
-    std::size_t m_size = 0;  ///< of what is unpacked
     std::uint8_t m_code = 0; ///< read where plain bytes could have been
     bool m_hasFailed = false;
 };

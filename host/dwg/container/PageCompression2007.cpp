@@ -1,5 +1,7 @@
 #include "host/dwg/container/PageCompression2007.h"
 
+#include "host/dwg/container/UnpackedPage.h"
+
 #include <string_view>
 
 namespace host::dwg {
@@ -31,12 +33,11 @@ public:
             copyPlain(plain != 0 ? plain : plainLength());
             plain = hasMore() ? copyRuns() : 0;
         }
-        return !m_hasFailed && left() == 0;
+        return !m_hasFailed && m_page.room() == 0;
     }
 
 private:
-    std::size_t left() const { return m_page.size() - m_size; }
-    bool hasMore() const { return !m_hasFailed && m_at < m_packed.size() && left() > 0; }
+    bool hasMore() const { return !m_hasFailed && m_at < m_packed.size() && m_page.room() > 0; }
 
     std::uint8_t next()
     {
@@ -130,19 +131,11 @@ private:
         m_length += ((m_code & 0xf8u) << 8) + 0x100u;
     }
 
-    void copyBack()
-    {
-        if (m_hasFailed || m_back == 0 || m_back > m_size || m_length > left()) {
-            m_hasFailed = true;
-            return;
-        }
-        for (; m_length > 0; --m_length, ++m_size)
-            m_page[m_size] = m_page[m_size - m_back];
-    }
+    void copyBack() { m_hasFailed = m_hasFailed || !m_page.repeat(m_length, m_back); }
 
     void copyPlain(std::size_t length)
     {
-        if (m_hasFailed || length > m_packed.size() - m_at || length > left()) {
+        if (m_hasFailed || length > m_packed.size() - m_at || length > m_page.room()) {
             m_hasFailed = true;
             return;
         }
@@ -160,12 +153,10 @@ private:
         m_at += length;
     }
 
+    /// The bytes are there, and so is their room.
     void copyPiece(std::size_t from, std::size_t size)
     {
-        const auto copy = [this](std::size_t begin, std::size_t count) {
-            for (std::size_t i = 0; i < count; ++i)
-                m_page[m_size++] = m_packed[begin + i];
-        };
+        const auto copy = [this](std::size_t begin, std::size_t count) { m_page.add(m_packed.subspan(begin), count); };
         if (size == 16) {
             copy(from + 8, 8);
             copy(from, 8);
@@ -178,9 +169,8 @@ private:
     }
 
     Bytes m_packed;
-    std::span<std::uint8_t> m_page;
-    std::size_t m_at = 0;   ///< in the packed bytes
-    std::size_t m_size = 0; ///< of what is unpacked
+    UnpackedPage m_page;
+    std::size_t m_at = 0; ///< in the packed bytes
     std::uint8_t m_code = 0;
     std::size_t m_length = 0; ///< of the run that is copied
     std::size_t m_back = 0;   ///< from how far back
