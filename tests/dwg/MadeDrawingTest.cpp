@@ -1,8 +1,10 @@
 // Drawings that are made here, in each release and container, and read again: what stands in them comes out.
 
+#include "host/dwg/container/PageCompression.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace host::dwg::test {
 
@@ -73,6 +75,25 @@ TEST_P(MadeFiles, HaveAsManyObjectsAsAreAdded)
     EXPECT_EQ(read.problems(), "");
     EXPECT_EQ(read.drawing.objectCount, MadeDrawing(GetParam()).parts().objects.size() + count);
     EXPECT_EQ(read.lastPart(0x40 + count - 1), read.lastPart(0x40));
+}
+
+TEST(MadePages, UnpackToWhatWasPacked)
+{
+    std::mt19937 random(7);
+    for (int run = 0; run < 400; ++run) {
+        // From nothing that comes again to one byte alone; long enough for all distances and lengths.
+        const std::size_t size = 4 + random() % (run % 10 == 0 ? 0x7400 : 600);
+        const unsigned letters = 1 + random() % 255;
+        FileBytes bytes(size);
+        for (std::size_t i = 0; i < size; ++i)
+            bytes[i] =
+                static_cast<std::uint8_t>(i > 40 && random() % 50 != 0 ? bytes[i - 1 - i % 37] : random() % letters);
+        if (run % 3 == 0) // the same far behind
+            bytes.insert(bytes.end(), bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size / 2));
+        bytes.resize(std::min<std::size_t>(bytes.size(), 0x7400));
+        for (const FileBytes &packed : {packedTight(bytes), packedPlain(bytes)})
+            EXPECT_EQ(unpackPage(packed, bytes.size()), bytes) << run;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, MadeFiles,

@@ -31,6 +31,7 @@ struct MadeSection
     FileBytes bytes;
     std::uint32_t pageSize = 0x400;
     bool isPacked = true;
+    bool isTight = false; ///< with what repeats told once, as other programs pack
 };
 
 /// The file with these parts, in the container of their release: a table of sections up to R2000, pages later.
@@ -57,5 +58,7 @@ FileBytes correctedBlocks(ErrorCode code, FileBytes bytes);
 
 /// `bytes` packed as R2004 packs them, as plain bytes alone; at least 4 bytes.
 FileBytes packedPlain(const FileBytes &bytes);
+/// The same with runs that stand there before told by their place.
+FileBytes packedTight(const FileBytes &bytes);
 
 } // namespace host::dwg::test

@@ -85,7 +85,7 @@ private:
         if (!section.isPacked)
             return content;
         content.resize(section.pageSize);
-        return packedPlain(content);
+        return section.isTight ? packedTight(content) : packedPlain(content);
     }
 
     FileBytes dataPage(const FileBytes &packed, const MadeSection &section, std::uint32_t number, std::size_t start)
