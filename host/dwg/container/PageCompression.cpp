@@ -92,10 +92,7 @@ private:
 
     std::size_t plainLengthBehindRun() { return m_page.room() > 0 ? plainLength() : 0; }
 
-    void copyBack(std::size_t length, std::size_t back)
-    {
-        m_hasFailed = m_hasFailed || !m_page.repeat(length, back);
-    }
+    void copyBack(std::size_t length, std::size_t back) { m_hasFailed = m_hasFailed || !m_page.repeat(length, back); }
 
     void copyPlain(std::size_t length)
     {

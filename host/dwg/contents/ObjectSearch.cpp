@@ -35,7 +35,7 @@ std::uint64_t endOf(const ObjectFrame &frame, Bytes objects)
 
 std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release release)
 {
-    const auto frame = peekAt(objects, place, release);
+    const auto frame = frameAt(objects, place, release);
     if (!frame)
         return std::nullopt;
     return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place};
@@ -47,12 +47,11 @@ std::vector<MapEntry> findObjects(Bytes objects, Release release)
     // Bytes that are no object look like one again and again; their checksums are not taken for ever.
     std::uint64_t work = 64 * std::uint64_t(objects.size());
     for (std::uint64_t at = 0; at < objects.size();) {
-        const auto seen = peekAt(objects, at, release);
+        const auto frame = frameAt(objects, at, release);
         const bool isPossible =
-            seen && isPossibleType(seen->type) && ownHandle(*seen) != 0 && seen->bytes.size() <= work;
-        const auto frame = isPossible ? frameAt(objects, at, release) : std::nullopt;
-        work -= frame ? frame->bytes.size() : 0;
-        if (!frame || !frame->isChecked) {
+            frame && isPossibleType(frame->type) && ownHandle(*frame) != 0 && frame->bytes.size() <= work;
+        work -= isPossible ? frame->bytes.size() : 0;
+        if (!isPossible || !hasItsChecksum(objects, at, *frame)) {
             ++at;
             continue;
         }
