@@ -32,6 +32,52 @@ TEST(DwgContents, UnitsOfPatternsStandBehindADescription)
     }
 }
 
+TEST(DwgContents, PropertiesOfTheFileStandBehindEachOther)
+{
+    const auto summaryOf = [](Release release, const std::vector<std::string> &texts) {
+        BitWriter writer;
+        const auto write = [&](const std::string &text) {
+            writer.raw16(static_cast<std::uint32_t>(text.size() + 1));
+            for (const char c : text + '\0')
+                release >= Release::R2007 ? writer.raw16(static_cast<std::uint8_t>(c)) : writer.byte(c);
+        };
+        for (std::size_t i = 0; i < 8; ++i)
+            write(texts[i]);
+        writer.rawBytes(std::string(3 * 8, '\1'));
+        writer.raw16(static_cast<std::uint32_t>((texts.size() - 8) / 2));
+        for (std::size_t i = 8; i < texts.size(); ++i)
+            write(texts[i]);
+        return FileBytes(writer.bytes());
+    };
+    const std::vector<std::string> texts = {"House",       "",       "Ann", "", "one\ntwo", "", "7",
+                                            "http://base", "Client", "B^C", "", "x"};
+    for (const Release release : {Release::R2004, Release::R2007, Release::R2018}) {
+        const FileBytes bytes = summaryOf(release, texts);
+        for (std::size_t size = 0; size <= bytes.size(); ++size) {
+            Container container;
+            container.release = release;
+            container.summary = Bytes(bytes).first(size);
+            std::string read;
+            for (const FileProperty &property : readSummary(container))
+                read += property.name + '=' + property.text + (property.isCustom ? "!" : "") + ';';
+            const std::string all = "$TITLE=House;$SUBJECT=;$AUTHOR=Ann;$KEYWORDS=;$COMMENTS=one\ntwo;$LASTSAVEDBY=;"
+                                    "$REVISIONNUMBER=7;Client=B^C!;=x!;";
+            EXPECT_EQ(all.substr(0, read.size()), read) << size << " bytes";
+            EXPECT_EQ(read == all, size == bytes.size()) << size << " bytes";
+        }
+        if (release == Release::R2007)
+            continue;
+        std::vector<MadeSection> sections = sectionsOf(MadeDrawing(release).parts());
+        sections.push_back({.name = "AcDb:SummaryInfo", .bytes = bytes});
+        const ReadBack drawing = readBack(pagedFile(release, sections));
+        EXPECT_EQ(drawing.variable("$COMMENTS"), "9 $COMMENTS|1 one^Jtwo|");
+        EXPECT_EQ(drawing.variable("$SUBJECT"), "");
+        EXPECT_NE(drawing.drawing.text.find("$CUSTOMPROPERTYTAG\n  1\nClient\n  9\n$CUSTOMPROPERTY\n  1\nB^ C\n  9\n"
+                                            "$CUSTOMPROPERTYTAG\n  1\n\n  9\n$CUSTOMPROPERTY\n  1\nx\n"),
+                  std::string::npos);
+    }
+}
+
 TEST(DwgContents, FramesOfReferencesAreAFlagBeforeR2010)
 {
     for (const int value : {0, 1, 2}) {

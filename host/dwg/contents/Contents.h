@@ -54,8 +54,17 @@ Header readHeader(const Container &container, Fields &fields, Problems &problems
 /// Group 70 of $MEASUREMENT, 1 for metric patterns; nothing where the file does not tell it.
 std::optional<int> readMeasurement(const Container &container);
 
-/// Who saved the file last, from R2004 on; nothing where the file does not tell it.
-std::optional<std::string> readLastSavedBy(const Container &container);
+/// One of the properties that people give to a file.
+struct FileProperty
+{
+    std::string name; ///< "$AUTHOR", or what a person called it
+    std::string text;
+    bool isCustom = false; ///< the name is a person's
+};
+
+/// The summary of the file, from R2004 on: title, subject, author, keywords, comments, who saved it last, the number of
+/// its revision, then those with names of their own; as many as can be read.
+std::vector<FileProperty> readSummary(const Container &container);
 
 /// The name that $DWGCODEPAGE has for the number of a code page.
 std::string_view codePageName(int number);

@@ -12,19 +12,42 @@ std::optional<int> readMeasurement(const Container &container)
     return reader.hasFailed() ? std::nullopt : std::optional(measurement);
 }
 
-std::optional<std::string> readLastSavedBy(const Container &container)
+namespace {
+
+/// A text of the summary, which ends in a zero that counts.
+std::string summaryText(BitReader &reader, Release release)
 {
-    // Title, subject, author, keywords and comments stand in front of it.
-    constexpr int textsInFront = 5;
-    BitReader reader(container.summary);
-    std::string text;
-    for (int i = 0; i <= textsInFront; ++i) {
-        const std::size_t length = reader.raw16();
-        text = container.release >= Release::R2007 ? reader.utf16(length) : reader.rawBytes(length);
-    }
+    const std::size_t length = reader.raw16();
+    std::string text = release >= Release::R2007 ? reader.utf16(length) : std::string(reader.rawBytes(length));
     while (!text.empty() && text.back() == '\0')
         text.pop_back();
-    return reader.hasFailed() ? std::nullopt : std::optional(text);
+    return text;
+}
+
+} // namespace
+
+std::vector<FileProperty> readSummary(const Container &container)
+{
+    constexpr const char *names[] = {"$TITLE",    "$SUBJECT",     "$AUTHOR",        "$KEYWORDS",
+                                     "$COMMENTS", "$LASTSAVEDBY", "$REVISIONNUMBER"};
+    constexpr std::size_t timesSize = 3 * 8; // worked on, made, changed
+    std::vector<FileProperty> properties;
+    BitReader reader(container.summary);
+    for (const char *name : names) {
+        std::string text = summaryText(reader, container.release);
+        if (reader.hasFailed())
+            return properties;
+        properties.push_back({name, std::move(text), false});
+    }
+    summaryText(reader, container.release); // what hyperlinks begin with, which is a variable of the header
+    reader.rawBytes(timesSize);
+    for (int left = reader.raw16(); left > 0 && !reader.hasFailed(); --left) {
+        std::string name = summaryText(reader, container.release);
+        std::string text = summaryText(reader, container.release);
+        if (!reader.hasFailed())
+            properties.push_back({std::move(name), std::move(text), true});
+    }
+    return properties;
 }
 
 } // namespace host::dwg

@@ -45,8 +45,6 @@ void addFileValues(const Container &container, HeaderValues &values)
     const auto measurement = readMeasurement(container);
     if (measurement && release >= Release::R14)
         values["$MEASUREMENT"] = tagLines(70, std::to_string(*measurement));
-    if (const auto user = readLastSavedBy(container))
-        values["$LASTSAVEDBY"] = tagLines(1, *user);
     values["$ACADVER"] = tagLines(1, "AC" + std::to_string(static_cast<int>(release)));
     if (release >= Release::R14)
         values["$ACADMAINTVER"] = tagLines(release >= Release::R2018 ? 90 : 70, std::to_string(container.maintenance));
@@ -54,6 +52,27 @@ void addFileValues(const Container &container, HeaderValues &values)
     if (release == Release::R13)
         std::ranges::transform(codePage, codePage.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? c | 0x20 : c; });
     values["$DWGCODEPAGE"] = tagLines(3, codePage);
+}
+
+/// The properties of the file that are not empty; who saved it last stands there in any case.
+void addSummary(const Container &container, Fields &fields, HeaderValues &values)
+{
+    std::string custom;
+    for (const FileProperty &property : readSummary(container)) {
+        if (property.text.empty() && !property.isCustom && property.name != "$LASTSAVEDBY")
+            continue;
+        fields.start({}, {}, {});
+        if (property.isCustom) {
+            if (!custom.empty())
+                fields.note(9, "$CUSTOMPROPERTYTAG");
+            fields.note(1, property.name);
+            fields.note(9, "$CUSTOMPROPERTY");
+        }
+        fields.note(1, property.text);
+        fields.write(property.isCustom ? custom : values[property.name]);
+    }
+    if (!custom.empty())
+        values["$CUSTOMPROPERTYTAG"] = custom;
 }
 
 std::uint64_t entryOf(const DictionaryEntries &entries, std::string_view name)
@@ -129,6 +148,7 @@ void writeHeaderSection(DrawingParts &parts)
     HeaderValues values = notedValues(records.fields());
     addDerivedValues(parts.container.release, values);
     addFileValues(parts.container, values);
+    addSummary(parts.container, records.fields(), values);
     addUsualStyles(parts, values);
     addCompanions(parts, values);
     records.beginSection("HEADER");

@@ -92,12 +92,14 @@ void addSummary(QJsonObject &facts, const Drawing &drawing)
     addDate(facts, u"updated"_s, drawing, u"$TDUPDATE");
     insertText(facts, u"savedBy"_s, drawing.header().text(u"$LASTSAVEDBY"));
     insertText(facts, u"project"_s, drawing.header().text(u"$PROJECTNAME"));
-    static const std::pair<int, const char *> properties[] = {
-        {2, "title"}, {3, "subject"}, {4, "author"}, {6, "comments"}, {7, "keywords"}};
+    // A variable from R2004 on, a value of a record before.
+    static const std::pair<int, QString> properties[] = {
+        {2, u"title"_s}, {3, u"subject"_s}, {4, u"author"_s}, {6, u"comments"_s}, {7, u"keywords"_s}};
     const auto record = drawing.dictionaries().xrecord(drawing.dictionaries().root(), u"DWGPROPS");
-    for (const auto &[code, key] : properties)
-        if (const drawing::Field *field = record ? drawing::findField(*record, code) : nullptr)
-            insertText(facts, QString::fromLatin1(key), field->text());
+    for (const auto &[code, key] : properties) {
+        const drawing::Field *field = record ? drawing::findField(*record, code) : nullptr;
+        insertText(facts, key, field ? field->text() : drawing.header().text(u'$' + key.toUpper()));
+    }
 }
 
 void addUnits(QJsonObject &facts, const Drawing &drawing)
