@@ -235,6 +235,29 @@ TEST(DwgContainers, DamageOfTheTableOfSectionsAndOfTheMapOfObjects)
         expectDamage(row);
 }
 
+TEST(DwgContainers, TablesAreFoundWithoutTheHeader)
+{
+    for (const Release release : {Release::R13, Release::R2000, Release::R2007, Release::R2018}) {
+        MadeDrawing drawing(release);
+        const std::uint64_t circle = drawing.addEntity(0x12, [](ObjectWriter &o) {
+            o.point({});
+            o.real(2.0);
+            o.thickness(0.0);
+            o.extrusion();
+        });
+        MadeParts parts = drawing.parts();
+        parts.header.resize(20);
+        const ReadBack read = readBack(madeFile(parts));
+        EXPECT_EQ(read.problems(), "The header's variables end too early.\n"
+                                   "The header does not tell where the tables are; they were looked for.\n");
+        const ReadBack whole = readBack(drawing);
+        for (const std::uint64_t handle :
+             {circle, std::uint64_t(MadeHandles::LayerZero), std::uint64_t(MadeHandles::NamedObjects)})
+            EXPECT_EQ(read.record(handle), whole.record(handle));
+        EXPECT_LT(read.drawing.text.find("CIRCLE"), read.drawing.text.find("OBJECTS"));
+    }
+}
+
 TEST(DwgContainers, WhatIsInFrontOfDamageInAPageIsThere)
 {
     FileBytes file = circles(Release::R2010);

@@ -1,6 +1,7 @@
 #include "host/dwg/container/Container.h"
 
 #include "host/dwg/bits/Checksums.h"
+#include "host/dwg/container/Growth.h"
 
 #include <algorithm>
 
@@ -119,6 +120,7 @@ Container openContainer(Bytes file, Problems &problems)
     else
         openPagedContainer(file, container, problems);
     container.preview = previewOf(file);
+    container.mostText = largestText(file.size(), container.objects.size());
     container.headerVariables =
         checkedSection(container, container.headerVariables, SectionMark::Header, "the header's variables", problems);
     container.classes = checkedSection(container, container.classes, SectionMark::Classes, "the classes", problems);

@@ -27,6 +27,8 @@ struct Container
     Bytes preview;     ///< the list of pictures with their data; empty where there is none
     Bytes dataStore;   ///< what objects from R2013 on keep in a section of its own
 
+    std::uint64_t mostText = 0; ///< how many bytes the text form may have
+
     std::deque<std::vector<std::uint8_t>> storage; ///< what had to be unpacked
 };
 

@@ -73,6 +73,8 @@ bool unpackInto(std::span<std::uint8_t> page, Bytes packed, std::uint64_t packed
 
 std::optional<PageBytes> unpacked(Bytes packed, std::uint64_t packedSize, std::uint64_t size)
 {
+    if (packedSize > packed.size())
+        return std::nullopt;
     PageBytes page(size);
     return unpackInto(page, packed, packedSize) ? std::optional(std::move(page)) : std::nullopt;
 }
@@ -163,8 +165,9 @@ private:
         const auto packedSize = static_cast<std::int32_t>(head.raw32());
         const std::uint64_t size = static_cast<std::uint64_t>(packedSize < 0 ? -std::int64_t(packedSize) : packedSize);
         const Bytes content = Bytes(*page).subspan(headSize);
-        const auto plain = unpacked(content, size, packedSize < 0 ? size : unpackedSize);
-        if (!plain || plain->size() < unpackedSize)
+        const bool isPlain = packedSize < 0;
+        const auto plain = !isPlain || size >= unpackedSize ? unpacked(content, size, unpackedSize) : std::nullopt;
+        if (!plain)
             return std::nullopt;
         std::array<std::uint64_t, unpackedSize / 8> numbers{};
         BitReader reader(*plain);

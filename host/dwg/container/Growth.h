@@ -1,12 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace host::dwg {
 
 /// How much a file may unpack to. Packed bytes can stand for 255 each, so without a limit a file of a megabyte takes a
-/// quarter of a gigabyte. Drawings unpack to 2 to 8 times their size; a hundred times, and 16 MB that even the smallest
-/// may have for a picture of one colour, refuses none of them.
+/// quarter of a gigabyte. Drawings unpack to 3 to 9 times their size, the smallest ones, of which most is room that
+/// pages are filled up with, to 15 times; 50 times, and 16 MB that every file may have, refuses none of them.
 class Growth
 {
 public:
@@ -22,7 +23,7 @@ public:
     }
 
 private:
-    static constexpr std::uint64_t mostGrowth = 100;
+    static constexpr std::uint64_t mostGrowth = 50;
     static constexpr std::uint64_t always = 16 << 20;
 
     std::uint64_t m_left;
@@ -32,6 +33,13 @@ private:
 constexpr std::uint64_t largestMap(std::uint64_t fileSize)
 {
     return fileSize + 0x10000;
+}
+
+/// How long the text form may become: entities of twenty bytes name layers of any length. Drawings have up to 4 times
+/// their objects' bytes.
+constexpr std::uint64_t largestText(std::uint64_t fileSize, std::uint64_t objectsSize)
+{
+    return std::min<std::uint64_t>(64 * objectsSize + (1 << 20), 100 * fileSize + (64 << 20));
 }
 
 } // namespace host::dwg

@@ -15,6 +15,8 @@ public:
     DrawingObjects(const Container &container, Problems &problems);
 
     Release release() const { return m_container.release; }
+    /// How many bytes their records may have together.
+    std::uint64_t mostText() const { return m_container.mostText; }
     const std::vector<ObjectClass> &classes() const { return m_classes; }
     /// Of all objects together, at most: they do not overlap.
     std::size_t byteCount() const { return m_container.objects.size(); }

@@ -1,4 +1,5 @@
 #include "host/dwg/contents/HeaderTable.h"
+#include "host/dwg/drawing/DrawingRoots.h"
 #include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
 
@@ -144,8 +145,9 @@ void writeHeaderSection(DrawingParts &parts)
 {
     RecordWriter &records = parts.records;
     parts.header = readHeader(parts.container, records.fields(), parts.objects.problems());
-    records.setSpaces({parts.header.modelSpace, parts.header.paperSpace});
     HeaderValues values = notedValues(records.fields());
+    findRoots(parts.objects, records.names(), records.fields(), parts.header);
+    records.setSpaces({parts.header.modelSpace, parts.header.paperSpace});
     addDerivedValues(parts.container.release, values);
     addFileValues(parts.container, values);
     addSummary(parts.container, records.fields(), values);

@@ -144,6 +144,10 @@ bool RecordWriter::writeFrame(std::uint64_t handle, const ObjectFrame &frame)
 {
     const ObjectType *type = m_objects.typeOf(frame.type);
     const ObjectClass *one = m_objects.classOf(frame.type);
+    if (m_text.size() > m_objects.mostText()) {
+        m_objects.lose(handle, frame.type, "The file makes more records than it can have.");
+        return false;
+    }
     if (type && writeKnown(handle, frame, *type))
         return true;
     if (one || isProxy(frame.type))

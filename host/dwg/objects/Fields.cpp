@@ -9,6 +9,10 @@ namespace host::dwg {
 
 namespace {
 
+// What a byte of an object may become, and what each object may have: a name of a layer, say.
+constexpr std::size_t mostOfByte = 64;
+constexpr std::size_t alwaysNoted = 0x40000;
+
 /// Group codes whose tags have two or three parts are noted as their parts.
 constexpr int nextPart = 10;
 
@@ -32,7 +36,8 @@ void Fields::start(BitReader values, BitReader texts, BitReader references)
     m_texts = texts;
     m_references = references;
     m_relations.clear();
-    m_tags.clear();
+    // References to long names would make an object larger without end.
+    m_tags.clear(alwaysNoted + (values.left() + texts.left() + references.left()) / 8 * mostOfByte);
     m_companion = noCompanion;
     m_doubt = nullptr;
 }
@@ -45,7 +50,7 @@ void Fields::splitAt(std::size_t bit)
 
 bool Fields::hasFailed() const
 {
-    return m_values.hasFailed() || m_texts.hasFailed() || m_references.hasFailed();
+    return m_values.hasFailed() || m_texts.hasFailed() || m_references.hasFailed() || m_tags.isFull();
 }
 
 bool Fields::isUsedUp() const

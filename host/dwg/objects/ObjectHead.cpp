@@ -44,14 +44,24 @@ EntityColour readEntityColour(Fields &fields)
 /// Numbers of two bits in entities: where the linetype, the plot style and the material come from.
 constexpr int fromReference = 3;
 
+/// In any case.
+bool beginsWith(std::string_view name, std::string_view beginning)
+{
+    return name.size() >= beginning.size() &&
+           std::equal(beginning.begin(), beginning.end(), name.begin(),
+                      [](char upper, char c) { return upper == (c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c); });
+}
+
 } // namespace
 
 bool isPaperSpace(std::string_view name)
 {
-    constexpr std::string_view beginning = "*PAPER_SPACE";
-    return name.size() >= beginning.size() &&
-           std::equal(beginning.begin(), beginning.end(), name.begin(),
-                      [](char upper, char c) { return upper == (c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c); });
+    return beginsWith(name, "*PAPER_SPACE");
+}
+
+bool isModelSpace(std::string_view name)
+{
+    return beginsWith(name, "*MODEL_SPACE");
 }
 
 int lineWeight(int number)

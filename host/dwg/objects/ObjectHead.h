@@ -68,6 +68,8 @@ private:
 
 /// Whether it is the name of a block that a layout shows.
 bool isPaperSpace(std::string_view blockName);
+/// The same of the block that has the model.
+bool isModelSpace(std::string_view blockName);
 
 /// The line weight that a number of five bits stands for; -3 to -1 are those of the layer, the block and the default.
 int lineWeight(int number);

@@ -111,9 +111,11 @@ char *putText(std::string_view text, char *to)
 
 } // namespace
 
-void TagLines::clear()
+void TagLines::clear(std::size_t most)
 {
     m_size = 0;
+    m_most = most;
+    m_isFull = false;
     m_tags.clear();
     m_isInOrder = true;
 }
@@ -139,6 +141,10 @@ void TagLines::finish(int code, char *end)
 {
     *end++ = '\n';
     const auto size = static_cast<std::size_t>(end - m_lines.get()) - m_size;
+    if (size > m_most - m_size) {
+        m_isFull = true;
+        return;
+    }
     m_tags.push_back({m_size, static_cast<std::uint32_t>(size), code});
     m_size += size;
 }

@@ -17,8 +17,10 @@ namespace host::dwg {
 class TagLines
 {
 public:
-    /// Takes all tags back; keeps their room.
-    void clear();
+    /// Takes all tags back; keeps their room. Tags that would make the lines longer than `most` bytes are left out.
+    void clear(std::size_t most);
+    /// Whether tags were left out.
+    bool isFull() const { return m_isFull; }
 
     void addInteger(int code, std::int64_t value);
     /// The shortest digits that give the same number again. What is no number is 0.
@@ -71,6 +73,8 @@ private:
     std::unique_ptr<char[]> m_lines;
     std::size_t m_room = 0;
     std::size_t m_size = 0;
+    std::size_t m_most = 0;
+    bool m_isFull = false;
     std::vector<Tag> m_tags;
     bool m_isInOrder = true; ///< the tags are all that is in the lines, in their order
     // For arrange(), kept for their room.

@@ -1,0 +1,78 @@
+#include "host/dwg/drawing/DrawingRoots.h"
+
+#include "host/dwg/objects/TableTypes.h"
+
+#include <algorithm>
+
+namespace host::dwg {
+
+namespace {
+
+constexpr int namedObjectsType = 0x2a;
+
+struct Root
+{
+    int type;
+    std::uint64_t Header::*handle;
+};
+
+constexpr Root roots[] = {
+    {blockTableType, &Header::blockTable},
+    {layerTableType, &Header::layerTable},
+    {styleTableType, &Header::styleTable},
+    {linetypeTableType, &Header::linetypeTable},
+    {viewTableType, &Header::viewTable},
+    {coordinateSystemTableType, &Header::systemTable},
+    {viewportTableType, &Header::viewportTable},
+    {applicationTableType, &Header::applicationTable},
+    {dimensionStyleTableType, &Header::dimensionStyleTable},
+    {namedObjectsType, &Header::namedObjects},
+    {blockType, &Header::paperSpace},
+    {blockType, &Header::modelSpace},
+};
+
+/// Whether the object can be the root, by more than its type: blocks of spaces by their names, the dictionary of named
+/// objects by having no owner.
+bool isRoot(const Root &root, const ObjectFrame &frame, const std::string &name, Fields &fields)
+{
+    if (root.handle == &Header::paperSpace)
+        return isPaperSpace(name);
+    if (root.handle == &Header::modelSpace)
+        return isModelSpace(name);
+    if (root.type != namedObjectsType)
+        return true;
+    ObjectHead({}).read(frame, false, fields);
+    return !fields.hasFailed() && fields.relations().owner == 0;
+}
+
+} // namespace
+
+void findRoots(DrawingObjects &objects, const Names &names, Fields &fields, Header &header)
+{
+    const auto isTold = [&](const Root &root) {
+        const auto frame = objects.peek(header.*root.handle);
+        return frame && frame->type == root.type;
+    };
+    std::vector<Root> missing;
+    std::copy_if(std::begin(roots), std::end(roots), std::back_inserter(missing),
+                 [&](const Root &root) { return !isTold(root); });
+    const std::size_t before = missing.size();
+    for (const MapEntry &entry : objects.map()) {
+        if (missing.empty())
+            break;
+        const auto frame = objects.peek(entry);
+        const auto name = names.find(entry.handle);
+        const auto found = std::find_if(missing.begin(), missing.end(), [&](const Root &root) {
+            return frame && frame->type == root.type &&
+                   isRoot(root, *frame, name != names.end() ? name->second : std::string(), fields);
+        });
+        if (found == missing.end())
+            continue;
+        header.*found->handle = entry.handle;
+        missing.erase(found);
+    }
+    if (missing.size() < before)
+        objects.problems().warn("The header does not tell where the tables are; they were looked for.");
+}
+
+} // namespace host::dwg
