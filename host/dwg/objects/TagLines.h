@@ -73,7 +73,7 @@ private:
     std::unique_ptr<char[]> m_lines;
     std::size_t m_room = 0;
     std::size_t m_size = 0;
-    std::size_t m_most = 0;
+    std::size_t m_most = ~std::size_t(0); ///< bytes
     bool m_isFull = false;
     std::vector<Tag> m_tags;
     bool m_isInOrder = true; ///< the tags are all that is in the lines, in their order
