@@ -126,11 +126,18 @@ TableCell readCell(Fields &f)
     return cell;
 }
 
+/// A cell of a few bits has hundreds of bytes of tags, so the cells of hostile files are limited.
+constexpr std::size_t mostTableCells = 200'000;
+
 double readRow(Fields &f, std::vector<TableCell> &row)
 {
     f.note(301, "ROW");
     f.note(1, "LINKEDTABLEDATAROW_BEGIN");
     const std::size_t cells = f.count(8);
+    if (cells > mostTableCells) {
+        f.fail();
+        return 0.0;
+    }
     f.note(90, cells);
     for (std::size_t i = 0; i < cells && !f.hasFailed(); ++i)
         row.push_back(readCell(f));
@@ -144,6 +151,17 @@ double readRow(Fields &f, std::vector<TableCell> &row)
     return height;
 }
 
+void readTableRows(Fields &f, std::size_t count, TableContent &table)
+{
+    std::size_t cells = 0;
+    for (std::size_t i = 0; i < count && !f.hasFailed(); ++i) {
+        table.heights.push_back(readRow(f, table.rows.emplace_back()));
+        cells += table.rows.back().size();
+        if (cells > mostTableCells)
+            f.fail();
+    }
+}
+
 void readLinkedTable(Fields &f, TableContent &table)
 {
     f.subclass("AcDbLinkedTableData");
@@ -153,8 +171,7 @@ void readLinkedTable(Fields &f, TableContent &table)
         table.widths.push_back(readColumn(f));
     const std::size_t rows = f.count(8);
     f.note(91, rows);
-    for (std::size_t i = 0; i < rows && !f.hasFailed(); ++i)
-        table.heights.push_back(readRow(f, table.rows.emplace_back()));
+    readTableRows(f, rows, table);
     const std::size_t fields = f.checkedCount(f.int32(), 8, f.references());
     f.note(92, fields);
     for (std::size_t i = 0; i < fields; ++i)
