@@ -1,5 +1,8 @@
 #include "host/dwg/objects/TypeTable.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace host::dwg {
 
 namespace {
@@ -141,21 +144,72 @@ struct SplineFlags
     static constexpr int fromFitPoints = 0x400;
 };
 
+Point difference(const Point &to, const Point &from)
+{
+    return {to.x - from.x, to.y - from.y, to.z - from.z};
+}
+
+Point cross(const Point &a, const Point &b)
+{
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+
+double dot(const Point &a, const Point &b)
+{
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
+
+/// The direction across the plane that all points are in; the z axis where they are at one height. Nothing where they
+/// are in no plane, or in a line that rises.
+std::optional<Point> planeOf(const std::vector<Point> &points)
+{
+    constexpr double tolerance = 1e-9;
+    if (points.empty())
+        return std::nullopt;
+    const Point first = points.front();
+    if (std::ranges::all_of(points, [&first](const Point &point) { return point.z == first.z; }))
+        return Point{0.0, 0.0, 1.0};
+    const auto away = [&first](const Point &point) { return difference(point, first); };
+    const Point farthest =
+        away(*std::ranges::max_element(points, {}, [&](const Point &point) { return dot(away(point), away(point)); }));
+    const auto across = [&](const Point &point) { return cross(farthest, away(point)); };
+    const Point normal = across(
+        *std::ranges::max_element(points, {}, [&](const Point &point) { return dot(across(point), across(point)); }));
+    const double length = std::sqrt(dot(normal, normal));
+    const double size = std::sqrt(dot(farthest, farthest));
+    if (length <= tolerance * size * size)
+        return std::nullopt;
+    const bool isFlat = std::ranges::all_of(
+        points, [&](const Point &point) { return std::abs(dot(away(point), normal)) <= tolerance * size * length; });
+    return isFlat ? std::optional(Point{normal.x / length, normal.y / length, normal.z / length}) : std::nullopt;
+}
+
+/// Notes the plane of a spline, and gives the flag that tells of it.
+int notePlane(Fields &f, const std::vector<Point> &points)
+{
+    const std::optional<Point> normal = planeOf(points);
+    if (normal)
+        f.note(210, *normal);
+    return normal ? SplineFlags::planar : 0;
+}
+
 void readFitSpline(Fields &f, int degree)
 {
     const std::size_t begin = f.mark();
-    f.note(70, SplineFlags::planar | SplineFlags::fromFitPoints);
     f.note(71, degree);
     f.note(72, 0);
     f.note(73, 0);
     f.real(44);
     f.point(12);
     f.point(13);
-    const std::size_t count = f.count(6);
-    f.note(74, count);
-    f.arrange(begin, {70, 71, 72, 73, 74});
-    for (std::size_t i = 0; i < count; ++i)
-        f.point(11);
+    std::vector<Point> points(f.count(6));
+    f.note(74, points.size());
+    f.arrange(begin, {71, 72, 73, 74});
+    for (Point &point : points)
+        point = f.point(11);
+    const std::size_t plane = f.mark();
+    f.note(70, notePlane(f, points) | SplineFlags::fromFitPoints);
+    f.moveForward(plane, begin);
 }
 
 void readControlSpline(Fields &f, int degree)
@@ -168,8 +222,7 @@ void readControlSpline(Fields &f, int degree)
     const std::size_t knots = f.count(2);
     const std::size_t points = f.count(6);
     const bool isWeighted = f.flag();
-    f.note(70, SplineFlags::planar | (isRational ? SplineFlags::rational : 0) | (isClosed ? SplineFlags::closed : 0) |
-                   (isPeriodic ? SplineFlags::periodic : 0));
+    const std::size_t begin = f.mark();
     f.note(71, degree);
     f.note(72, knots);
     f.note(73, points);
@@ -178,14 +231,19 @@ void readControlSpline(Fields &f, int degree)
     f.note(43, pointTolerance);
     for (std::size_t i = 0; i < knots; ++i)
         f.real(40);
+    std::vector<Point> places(points);
     std::vector<double> weights;
-    for (std::size_t i = 0; i < points; ++i) {
-        f.point(10);
+    for (Point &place : places) {
+        place = f.point(10);
         if (isWeighted)
             weights.push_back(f.real());
     }
     for (const double weight : weights)
         f.note(41, weight);
+    const std::size_t plane = f.mark();
+    f.note(70, notePlane(f, places) | (isRational ? SplineFlags::rational : 0) | (isClosed ? SplineFlags::closed : 0) |
+                   (isPeriodic ? SplineFlags::periodic : 0));
+    f.moveForward(plane, begin);
 }
 
 void readSpline(Fields &f)

@@ -84,6 +84,9 @@ public:
     void setAskSize(AskSize ask) { m_askSize = std::move(ask); }
     std::optional<TextSize> sizeOf(std::uint64_t text) const { return m_askSize ? m_askSize(text) : std::nullopt; }
 
+    /// Which one the object is of those in its owner that asked for a number, from 1.
+    int takeNumber() { return ++m_numbers[m_relations.owner]; }
+
     /// Begins another object; keeps the room that the last one took.
     void start(BitReader values, BitReader texts, BitReader references);
     /// Where the references begin, for objects that tell it behind their head (R13, R14).
@@ -256,6 +259,7 @@ private:
     TagLines m_tags;
     std::size_t m_companion = noCompanion;
     const char *m_doubt = nullptr;
+    std::unordered_map<std::uint64_t, int> m_numbers; ///< given out, by owner
 };
 
 } // namespace host::dwg

@@ -13,8 +13,10 @@ void readViewportEntity(Fields &f)
     f.point(10);
     f.real(40);
     f.real(41);
-    f.note(68, 1);
-    f.note(69, 1);
+    // Programs number the viewports of a layout when they show it; the first one is the paper itself.
+    const int number = f.takeNumber();
+    f.note(68, number);
+    f.note(69, number);
     if (f.until(Release::R14)) {
         f.reference(); // its entry in a table that the text form does not have
         return;
