@@ -103,7 +103,7 @@ TEST(TagLines, AreMovedAndTakenBack)
     tags.drop(2);
     tags.addText(5, "e");
     EXPECT_EQ(linesOf(tags), "  3\nc\n  1\na\n  5\ne\n");
-    tags.clear();
+    tags.clear(100);
     tags.addText(1, "f");
     tags.addText(1, "g");
     tags.drop(1);
