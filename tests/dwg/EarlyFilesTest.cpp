@@ -43,6 +43,14 @@ std::string problemsOf(const DrawingText &drawing)
     return lines;
 }
 
+/// Of the entities that tests of lists have.
+bool isEntity(const TextNode &node)
+{
+    const bool hasType = !node.tags.empty() && node.tags[0].code == 0;
+    return hasType &&
+           (node.type() == "POLYLINE" || node.type() == "VERTEX" || node.type() == "SEQEND" || node.type() == "REPEAT");
+}
+
 struct EarlyEntityRow
 {
     const char *name;
@@ -156,6 +164,8 @@ const EarlyEntityRow earlyEntityRows[] = {
     {"VIEWPORT on the ground", r12, 24, 0, 0, "1.0 2.0 4.0 5.0 w2",
      "VIEWPORT 8 0 10 1.0 20 2.0 30 0.0 40 4.0 41 5.0 68 2"},
     {"deleted", r12, 129, 0, 0, "1.0 2.0 3.0 4.0 5.0 6.0", ""},
+    {"BLOCK that is in none", r12, 12, 0, 0, "1.0 2.0", "", "type 12: Entities of this type are not read."},
+    {"ENDBLK of no block", r12, 13, 0, 0, "", ""},
     {"of no type", r12, 99, 0, 0, "1.0", "", "type 99: Entities of this type are not read."},
 };
 
@@ -178,11 +188,30 @@ EarlyFileMaker makerWithTables(Release release)
     return maker;
 }
 
+bool isListed(const EarlyEntityRow &row)
+{
+    return row.type == 16 || row.type == 17 || row.type == 20;
+}
+
+/// What stands in a list gets a polyline in front.
 EarlyFileMaker makerOf(const EarlyEntityRow &row)
 {
     EarlyFileMaker maker = makerWithTables(row.release);
+    if (isListed(row))
+        maker.addEntity(19, 0x80, 0, "");
     maker.addEntity(row.type, row.flags, row.options, row.values);
     return maker;
+}
+
+/// A list that has no end gets one.
+std::string expectedOf(const EarlyEntityRow &row)
+{
+    std::string records = isListed(row) ? "POLYLINE 8 0 66 1" : "";
+    if (isListed(row))
+        records += row.release < r10 ? "\n" : " 10 0.0 20 0.0 30 0.0\n";
+    records += row.record[0] ? row.record + std::string("\n") : "";
+    const bool isOpen = isListed(row) ? row.type != 17 : (row.flags & 0x80) != 0;
+    return records + (isOpen ? "SEQEND\n" : "");
 }
 
 } // namespace
@@ -192,7 +221,7 @@ TEST(EarlyDwg, EntitiesHaveTheirOptions)
     for (const EarlyEntityRow &row : earlyEntityRows) {
         const DrawingText drawing = readDrawing(makerOf(row).file());
         const std::string records = recordsOf(readTree(drawing.text), "ENTITIES");
-        EXPECT_EQ(records, row.record[0] ? row.record + std::string("\n") : "") << row.name;
+        EXPECT_EQ(records, expectedOf(row)) << row.name;
         const std::string problems = problemsOf(drawing);
         const bool isTold = row.problems[0] ? problems.ends_with(row.problems + std::string("\n")) : problems.empty();
         EXPECT_TRUE(isTold) << row.name << ": " << problems;
@@ -329,6 +358,60 @@ TEST(EarlyDwg, TheHeaderHasWhatItsReleaseHas)
     const std::string early = recordsOf(readTree(readDrawing(makerWithTables(r10).file()).text), "HEADER");
     EXPECT_NE(early.find("$SPLINETYPE"), std::string::npos);
     EXPECT_EQ(early.find("$TILEMODE"), std::string::npos);
+}
+
+TEST(EarlyDwg, ListsHaveAnOwnerAndAnEnd)
+{
+    struct ListRow
+    {
+        std::vector<std::pair<int, int>> entities; ///< types and flags
+        const char *types;
+        std::size_t lost;
+    };
+    constexpr int polyline = 19;
+    constexpr int vertex = 20;
+    constexpr int end = 17;
+    constexpr int repeat = 5;
+    const ListRow rows[] = {
+        {{{polyline, 0x80}, {vertex, 0}, {end, 0}, {repeat, 0}}, "POLYLINE VERTEX SEQEND REPEAT ", 0},
+        {{{polyline, 0x80}, {vertex, 0}, {repeat, 0}}, "POLYLINE VERTEX SEQEND REPEAT ", 0},
+        {{{polyline, 0x80}, {vertex | 0x80, 0}, {vertex, 0}, {end, 0}}, "POLYLINE VERTEX SEQEND ", 0},
+        {{{polyline | 0x80, 0x80}, {vertex, 0}, {end, 0}, {repeat, 0}}, "REPEAT ", 0},
+        {{{polyline, 0}, {vertex, 0}, {end, 0}, {repeat, 0}}, "POLYLINE REPEAT ", 2},
+        {{{polyline, 0x88}, {vertex, 0}, {end, 0}, {repeat, 0}}, "REPEAT ", 1},
+    };
+    for (const ListRow &row : rows) {
+        EarlyFileMaker maker(r9);
+        for (const auto &[type, flags] : row.entities)
+            maker.addEntity(type, flags, 0, type == vertex ? "1.0 2.0" : type == end ? "l0" : "");
+        const DrawingText drawing = readDrawing(maker.file());
+        std::string types;
+        for (const TextNode &node : readTree(drawing.text).nodes)
+            types += isEntity(node) ? node.type() + ' ' : "";
+        EXPECT_EQ(types, row.types);
+        EXPECT_EQ(drawing.problems.lostCount(), row.lost) << row.types;
+    }
+}
+
+TEST(EarlyDwg, ReadingGoesOnBehindDamage)
+{
+    for (const Release release : {r9, r10, r12}) {
+        EarlyFileMaker maker = makerWithTables(release);
+        const char *circle = "1.0 2.0 3.0";
+        const std::size_t damaged = maker.addEntity(3, 0, 0, circle);
+        maker.addEntity(7, 0, 0, "1.0 2.0 3.0 'text");
+        maker.addEntity(3, 0, 0, circle);
+        for (const std::uint8_t length : {0, 7, 255}) {
+            EarlyFileMaker::File file = maker.file();
+            file[maker.entitiesBegin() + damaged + 2] = length;
+            file[maker.entitiesBegin() + damaged + 3] = length;
+            const DrawingText drawing = readDrawing(file);
+            const std::string records = recordsOf(readTree(drawing.text), "ENTITIES");
+            EXPECT_TRUE(records.starts_with("TEXT 8 0 10 1.0 20 2.0")) << records;
+            EXPECT_NE(records.find("\nCIRCLE"), std::string::npos) << records;
+            EXPECT_EQ(drawing.problems.lostCount(), 1u);
+        }
+    }
 }
 
 TEST(EarlyDwg, ChecksumsThatDoNotFitAreTold)

@@ -1,5 +1,6 @@
 #include "host/dwg/early/EarlyDrawing.h"
 
+#include "host/dwg/early/EarlyFrames.h"
 #include "host/dwg/early/EarlyHeader.h"
 #include "host/dwg/early/EarlyRecord.h"
 
@@ -9,24 +10,19 @@ namespace host::dwg {
 
 namespace {
 
-constexpr int blockNumber = 12;
-constexpr int endOfBlockNumber = 13;
-constexpr int jumpNumber = 18;
-/// Types of deleted entities are as much higher.
-constexpr int deletedEntity = 0x80;
-/// Type, flags and length.
-constexpr std::size_t recordHeadSize = 4;
-/// What all records have, jumps as well.
-constexpr std::size_t leastRecordSize = 8;
-
-/// A record of an entity where it stands in the file.
-struct EarlyFrame
+enum EarlyNumber
 {
-    int type = 0;
-    int flags = 0;
-    std::size_t begin = 0;
-    std::size_t next = 0; ///< where the next one is
+    blockNumber = 12,
+    endOfBlockNumber = 13,
+    attributeNumber = 16,
+    endOfListNumber = 17,
+    vertexNumber = 20
 };
+
+bool belongsToList(int type)
+{
+    return type == attributeNumber || type == endOfListNumber || type == vertexNumber;
+}
 
 /// The ways in which records of the release may be coded, the likeliest first.
 std::vector<EarlyForm> earlyForms(Release release)
@@ -40,9 +36,9 @@ class EarlyAssembly
 {
 public:
     EarlyAssembly(Bytes bytes, DrawingText &result)
-        : m_problems(result.problems), m_file(openEarlyFile(bytes, result.release, m_problems)), m_names(m_file),
-          m_forms(earlyForms(result.release)), m_result(result), m_text(result.text),
-          m_fields(result.release, m_noNames), m_record(m_fields, m_names), m_bytesLeft(bytes.size())
+        : m_problems(result.problems), m_file(openEarlyFile(bytes, result.release, m_problems)), m_frames(m_file),
+          m_names(m_file), m_forms(earlyForms(result.release)), m_result(result), m_text(result.text),
+          m_fields(result.release, m_noNames), m_record(m_fields, m_names)
     {
     }
 
@@ -63,6 +59,14 @@ public:
     }
 
 private:
+    /// Attributes and vertices between the entity that has them and SEQEND.
+    enum class List
+    {
+        None,
+        Open,
+        Dropped ///< of an entity that is deleted or lost
+    };
+
     void writeMark(const char *type)
     {
         m_fields.start({}, {}, {});
@@ -78,126 +82,120 @@ private:
         m_fields.write(m_text);
     }
 
-    // Where records are.
-
-    /// The two highest bits say what the others count from.
-    std::size_t placeOf(std::uint32_t address) const
-    {
-        constexpr std::uint32_t furtherBit = 0x80000000;
-        constexpr std::uint32_t blocksBit = 0x40000000;
-        const std::size_t rest = address & ~(furtherBit | blocksBit);
-        if ((address & furtherBit) != 0)
-            return m_file.further.begin + rest;
-        return (address & blocksBit) != 0 ? m_file.blocks.begin + rest : rest;
-    }
-
-    const EarlySection *sectionOf(std::size_t place) const
-    {
-        for (const EarlySection *section : {&m_file.entities, &m_file.blocks, &m_file.further}) {
-            if (section->has(place))
-                return section;
-        }
-        return nullptr;
-    }
-
-    /// Behind the last record of a section, where none follows.
-    bool isEnd(std::size_t place) const
-    {
-        const bool isBehind = place == m_file.entities.end || place == m_file.blocks.end || place == m_file.further.end;
-        return isBehind && !sectionOf(place);
-    }
-
-    std::optional<EarlyFrame> takeFrame(std::size_t place)
-    {
-        const EarlySection *section = sectionOf(place);
-        if (!section)
-            return std::nullopt;
-        BitReader reader(m_file.bytes, place * 8, section->end * 8);
-        EarlyFrame frame;
-        frame.begin = place;
-        frame.type = reader.byte();
-        frame.flags = reader.byte();
-        const std::size_t length = reader.raw16();
-        frame.next = place + length;
-        // Where more is read than the file has, records stand in others, or in a ring.
-        if (length < leastRecordSize || frame.next > section->end || length > m_bytesLeft)
-            return std::nullopt;
-        m_bytesLeft -= length;
-        if (frame.type == jumpNumber)
-            frame.next = placeOf(reader.raw32());
-        return frame;
-    }
-
-    BitReader valuesOf(const EarlyFrame &frame) const
-    {
-        const std::size_t end = frame.next - (m_file.isChecked() ? 2 : 0);
-        return {m_file.bytes, (frame.begin + recordHeadSize) * 8, end * 8};
-    }
-
-    // Entities.
-
     void writeBlock(const EarlyBlock &block)
     {
-        const std::size_t place = placeOf(block.address);
-        const auto first = takeFrame(place);
+        const auto first = m_frames.take(m_frames.placeOf(block.address));
         if (!first || first->type != blockNumber)
             return lose("BLOCK", "There is no block at its place: " + block.name + '.');
-        const EarlyType type{blockNumber, "BLOCK", nullptr};
         m_block = &block;
-        writeEntity(*first, type);
+        const bool isWritten = writeEntity(*first, {blockNumber, "BLOCK", nullptr});
         m_block = nullptr;
-        if (!writeRecords(first->next, endOfBlockNumber))
+        if (isWritten && !writeRecords(first->next, endOfBlockNumber))
             writeMark("ENDBLK");
     }
 
     /// Writes the entities from `place` on to the end of their section. Or to the first one of the type `last`: true
-    /// when it was there.
+    /// when it was written.
     bool writeRecords(std::size_t place, int last = -1)
     {
-        while (!isEnd(place)) {
-            const auto frame = takeFrame(place);
+        while (!m_frames.isEnd(place)) {
+            const auto frame = m_frames.take(place);
             if (!frame) {
-                m_problems.lose("A record of an entity has no length that can be; what follows it is not read.");
-                return false;
+                m_problems.lose("Where an entity should be there is none.");
+                const auto next = m_frames.findBehind(place, [this](const auto &other) { return isEntity(other); });
+                if (!next)
+                    break;
+                place = *next;
+                continue;
             }
+            // Another block, where the end of this one is missing.
+            if (frame->type == blockNumber && last == endOfBlockNumber)
+                break;
             place = frame->next;
-            if (frame->type < deletedEntity && frame->type != jumpNumber)
-                writeEntity(*frame);
+            const bool isWritten = !frame->isJump() && writeListed(*frame, last == endOfBlockNumber);
             if (frame->type == last)
-                return true;
+                return isWritten;
         }
+        closeList();
         return false;
     }
 
-    void writeEntity(const EarlyFrame &frame)
+    bool isEntity(const EarlyFrame &frame)
     {
         const EarlyType *type = earlyType(frame.type);
-        if (type)
-            writeEntity(frame, *type);
-        else
-            lose("type " + std::to_string(frame.type), "Entities of this type are not read.");
+        return type && readEntity(frame, *type);
     }
 
-    void writeEntity(const EarlyFrame &frame, const EarlyType &type)
+    /// Writes an entity so that every list has an owner and an end, and blocks end in blocks alone.
+    bool writeListed(const EarlyFrame &frame, bool isInBlock)
+    {
+        const bool isListed = belongsToList(frame.type & ~EarlyFrame::deletedNumber);
+        if (frame.isDeleted()) {
+            if (!isListed && EarlyRecord::hasList(frame.flags))
+                openList(frame, List::Dropped);
+            return false;
+        }
+        if (isListed && m_list == List::None)
+            lose(earlyType(frame.type)->name, "There is no entity that it belongs to.");
+        if (isListed && m_list != List::Open)
+            return false;
+        if (!isListed)
+            closeList();
+        const bool isWritten = (isInBlock || frame.type != endOfBlockNumber) && writeEntity(frame);
+        if (!isListed)
+            openList(frame, isWritten ? List::Open : List::Dropped);
+        else if (isWritten && frame.type == endOfListNumber)
+            m_list = List::None;
+        return isWritten;
+    }
+
+    void openList(const EarlyFrame &frame, List list)
+    {
+        closeList();
+        m_list = EarlyRecord::hasList(frame.flags) ? list : List::None;
+    }
+
+    void closeList()
+    {
+        if (m_list == List::Open)
+            writeMark("SEQEND");
+        m_list = List::None;
+    }
+
+    bool writeEntity(const EarlyFrame &frame)
+    {
+        if (const EarlyType *type = earlyType(frame.type))
+            return writeEntity(frame, *type);
+        lose("type " + std::to_string(frame.type), "Entities of this type are not read.");
+        return false;
+    }
+
+    bool writeEntity(const EarlyFrame &frame, const EarlyType &type)
     {
         ++m_result.objectCount;
-        const bool isRead =
-            std::ranges::any_of(m_forms, [&](const EarlyForm &form) { return readEntity(frame, type, form); });
-        if (!isRead)
-            return lose(type.name, "Its values do not fill its record.");
-        if (m_file.isChecked() && !fitsEarlyChecksum(m_file.bytes, frame.begin, frame.next))
+        if (!readEntity(frame, type)) {
+            lose(type.name, "Its values do not fill its record.");
+            return false;
+        }
+        if (!m_frames.fitsChecksum(frame))
             warn(type, "The checksum does not fit.");
         if (m_record.doubt())
             warn(type, m_record.doubt());
         if (!noteEarlyExtendedData(m_record.extendedData(), m_names, m_fields))
             warn(type, "The extended data are left out.");
         m_fields.write(m_text);
+        return true;
+    }
+
+    bool readEntity(const EarlyFrame &frame, const EarlyType &type)
+    {
+        return std::ranges::any_of(m_forms, [&](const EarlyForm &form) { return readEntity(frame, type, form); });
     }
 
     /// True when the values took the whole record.
     bool readEntity(const EarlyFrame &frame, const EarlyType &type, const EarlyForm &form)
     {
-        m_record.begin(type, valuesOf(frame), frame.flags, form);
+        m_record.begin(type, m_frames.valuesOf(frame), frame.flags, form);
         if (m_block)
             readBlock();
         else if (type.read)
@@ -206,15 +204,16 @@ private:
     }
 
     /// The name and flags stand in the table of blocks. The record has the name as well from R11 on, without the number
-    /// of anonymous blocks, and the path of the drawing that an external reference shows.
+    /// of anonymous blocks, and in front of it the path of the drawing that an external reference shows.
     void readBlock()
     {
         m_fields.note(2, m_block->name);
         m_fields.note(70, m_block->flags);
         m_record.planePoint(10);
-        const std::string path = m_record.has(0x02) ? m_record.takeText() : std::string();
+        const bool hasPath = m_record.has(0x02);
+        const std::string path = hasPath ? m_record.takeText() : std::string();
         m_record.text(0x04, 3);
-        if (m_record.has(0x02))
+        if (hasPath)
             m_fields.note(1, path);
     }
 
@@ -230,6 +229,7 @@ private:
 
     Problems &m_problems;
     EarlyFile m_file;
+    EarlyFrames m_frames;
     EarlyNames m_names;
     std::vector<EarlyForm> m_forms;
     DrawingText &m_result;
@@ -237,8 +237,8 @@ private:
     Names m_noNames;
     Fields m_fields;
     EarlyRecord m_record;
-    std::size_t m_bytesLeft;             ///< of the file that no record had yet
     const EarlyBlock *m_block = nullptr; ///< whose BLOCK is read
+    List m_list = List::None;
 };
 
 } // namespace

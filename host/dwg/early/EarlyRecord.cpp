@@ -52,6 +52,11 @@ void EarlyRecord::begin(const EarlyType &type, BitReader record, int flags, Earl
     noteHead(flags);
 }
 
+bool EarlyRecord::hasList(int flags)
+{
+    return hasFlag(flags, earlyFollowers);
+}
+
 void EarlyRecord::takeExtendedData(bool isThere)
 {
     m_extendedData = {};

@@ -38,6 +38,8 @@ public:
     /// entity's length.
     void begin(const EarlyType &type, BitReader record, int flags, EarlyForm form);
 
+    /// Whether flags say that attributes or vertices follow.
+    static bool hasList(int flags);
     bool has(unsigned option) const { return (m_options & option) != 0; }
     bool isSpatial() const { return f.since(Release::R10); }
     bool isFlattened() const { return m_isFlattened; }
