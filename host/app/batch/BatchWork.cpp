@@ -4,6 +4,7 @@
 #include "host/app/batch/UnattendedFeeder.h"
 #include "host/app/workbench/ProgramOutput.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/files/WriteObstacle.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -34,6 +35,12 @@ void setForce(Workbench &workbench, const ProgramOptions &options)
 {
     if (options.isForced)
         workbench.session().setOverrule(kernel::Overrule::Obstacles);
+}
+
+QString whyNotToWrite(const QString &path, bool isForced)
+{
+    const auto obstacle = kernel::obstacleToWriting(path, nullptr);
+    return obstacle && !(isForced && obstacle->mayBeOverruled()) ? obstacle->text : QString();
 }
 
 void closeAll(Workbench &workbench)

@@ -15,6 +15,10 @@ WorkbenchOptions workbenchOptions(const ProgramOptions &options);
 /// With the option for it, obstacles to writing a file that a person may overrule count as overruled.
 void setForce(Workbench &workbench, const ProgramOptions &options);
 
+/// Why a file is not to be written, as obstacleToWriting() has it without a session; empty when it may be. What may be
+/// overruled stands against it only as long as nobody forces it.
+QString whyNotToWrite(const QString &path, bool isForced);
+
 /// Tells the problems from `told` on.
 void tellProblems(const Workbench &workbench, qsizetype &told);
 /// Tells which files a session or program should have written and did not.

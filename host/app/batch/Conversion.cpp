@@ -175,11 +175,10 @@ std::vector<PictureFile> pictureFiles(const ProgramOptions &options, const QStri
 
 bool mayWrite(const ProgramOptions &options, const QString &path)
 {
-    const auto obstacle = kernel::obstacleToWriting(path, nullptr);
-    if (!obstacle || options.isForced)
-        return true;
-    writeMessage(obstacle->text);
-    return false;
+    const QString obstacle = whyNotToWrite(path, options.isForced);
+    if (!obstacle.isEmpty())
+        writeMessage(obstacle);
+    return obstacle.isEmpty();
 }
 
 /// What the option for plot styles says. False, and told, where there is no such table.

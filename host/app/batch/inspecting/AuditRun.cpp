@@ -40,9 +40,8 @@ QString writeMended(const drawing::Drawing &mended, const QString &input, const 
     if (source && source == kernel::identityOf(output))
         return QCoreApplication::translate("Inspecting", "%1: what is mended is not written over the drawing")
             .arg(native(output));
-    if (const auto obstacle = kernel::obstacleToWriting(output, nullptr); obstacle && !isForced)
-        return obstacle->text;
-    return drawing::saveCopy(mended, output).error;
+    const QString obstacle = whyNotToWrite(output, isForced);
+    return obstacle.isEmpty() ? drawing::saveCopy(mended, output).error : obstacle;
 }
 
 FileResult auditDrawing(const QString &path, const ProgramOptions &options)

@@ -100,8 +100,8 @@ int refusePicture(const ProgramOptions &options)
                          .arg(native(path), pictureExtensions().join(", "_L1)));
         return ExitUsage;
     }
-    if (const auto obstacle = kernel::obstacleToWriting(path, nullptr); obstacle && !options.isForced) {
-        writeMessage(obstacle->text);
+    if (const QString obstacle = whyNotToWrite(path, options.isForced); !obstacle.isEmpty()) {
+        writeMessage(obstacle);
         return ExitFileError;
     }
     return ExitDone;

@@ -441,6 +441,7 @@ void ToolBatch::writeDrawing(kernel::Document &document, const QString &path, Fi
     }
     if (error.isEmpty())
         return;
+    document.session().forgetNotWritten(error); // told here
     writeMessage(error);
     result.outcome = Outcome::NotWritten;
 }
