@@ -6450,8 +6450,8 @@ Revisionswolke fertiggestellt.</translation>
         <translation>ein Teil der Datei</translation>
     </message>
     <message>
-        <source>the file is damaged; what could be read may be wrong</source>
-        <translation>die Datei ist beschädigt; was gelesen werden konnte, kann falsch sein</translation>
+        <source>some of the file is not as expected; what was read of it may be wrong</source>
+        <translation>manches in der Datei ist anders als erwartet; was davon gelesen wurde, kann falsch sein</translation>
     </message>
 </context>
 <context>

@@ -6450,8 +6450,8 @@ Nube de revisión terminada.</translation>
         <translation>una parte del archivo</translation>
     </message>
     <message>
-        <source>the file is damaged; what could be read may be wrong</source>
-        <translation>el archivo está dañado; lo que se pudo leer puede ser erróneo</translation>
+        <source>some of the file is not as expected; what was read of it may be wrong</source>
+        <translation>parte del archivo no es como se esperaba; lo que se leyó de ella puede ser erróneo</translation>
     </message>
 </context>
 <context>

@@ -6450,8 +6450,8 @@ Nuage de révision terminé.</translation>
         <translation>une partie du fichier</translation>
     </message>
     <message>
-        <source>the file is damaged; what could be read may be wrong</source>
-        <translation>le fichier est endommagé ; ce qui a pu être lu est peut-être faux</translation>
+        <source>some of the file is not as expected; what was read of it may be wrong</source>
+        <translation>une partie du fichier n&apos;est pas comme attendu ; ce qui en a été lu est peut-être faux</translation>
     </message>
 </context>
 <context>

@@ -6450,8 +6450,8 @@ Fumetto di revisione completato.</translation>
         <translation>una parte del file</translation>
     </message>
     <message>
-        <source>the file is damaged; what could be read may be wrong</source>
-        <translation>il file è danneggiato; ciò che è stato letto può essere errato</translation>
+        <source>some of the file is not as expected; what was read of it may be wrong</source>
+        <translation>parte del file non è come previsto; ciò che ne è stato letto può essere errato</translation>
     </message>
 </context>
 <context>

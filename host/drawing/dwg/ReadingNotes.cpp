@@ -15,8 +15,9 @@ QString ReadingNote::message() const
 QString ReadingNotes::summary() const
 {
     if (lostCount == 0)
-        return doubtfulCount == 0 ? QString()
-                                  : DrawingTexts::tr("the file is damaged; what could be read may be wrong");
+        return doubtfulCount == 0
+                   ? QString()
+                   : DrawingTexts::tr("some of the file is not as expected; what was read of it may be wrong");
     return lostCount == 1 ? DrawingTexts::tr("1 object could not be read")
                           : DrawingTexts::tr("%1 objects could not be read").arg(lostCount);
 }

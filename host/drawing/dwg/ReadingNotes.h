@@ -35,8 +35,8 @@ struct ReadingNotes
 
     /// Whether something is wrong.
     bool hasFaults() const { return lostCount > 0 || doubtfulCount > 0; }
-    /// "2 objects could not be read", or "The file is damaged, ..." where all could, in the language of the program;
-    /// empty without a fault.
+    /// "2 objects could not be read", or that some of the file is not as expected where all could, in the language of
+    /// the program; empty without a fault.
     QString summary() const;
     /// The messages of the first `limit` faults, and how many there are beyond.
     QStringList faults(qsizetype limit) const;
