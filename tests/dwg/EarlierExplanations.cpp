@@ -22,7 +22,8 @@ constexpr std::string_view names = "the file has the name in capitals; the progr
 constexpr std::string_view arcLengths =
     "dimensions of arc lengths became inserts of a block made of what they look like";
 constexpr std::string_view hatches = "hatches of R13 are inserts of blocks, which were made and numbered anew";
-constexpr std::string_view splines = "splines through points have these alone; the program worked the curve out";
+constexpr std::string_view splines =
+    "the curve passes its points at a distance, as its tolerance lets it; files have the points alone";
 
 } // namespace
 
@@ -68,7 +69,7 @@ std::span<const Explanation> earlierExplanations()
         {"r13_example", Kind::Different, "DICTIONARY VIEWPORT 88/*", {1000, 1001, 1070}, forOthers},
         {"r13_example", Kind::Different, "XRECORD VIEWPORT 88/*", {}, forOthers},
         {"r13_example", Kind::Different, "DIMENSION 43B", {1000, 1001, 1002, 1070}, forOthers},
-        {"r13_example", Kind::Different, "SPLINE *", {}, splines},
+        {"r13_example", Kind::Different, "SPLINE 894", {40, 10, 20, 30, 42, 43, 72, 73}, splines},
         {"r13_example", Kind::Different, "INSERT 399", {}, arcLengths},
         {"r13_example", Kind::Missing, "BLOCK* *X18", {}, arcLengths},
         {"r13_example", Kind::Missing, "ENDBLK 335A", {}, arcLengths},

@@ -1,3 +1,4 @@
+#include "host/dwg/objects/SplineFit.h"
 #include "host/dwg/objects/TypeTable.h"
 
 #include <algorithm>
@@ -141,6 +142,7 @@ struct SplineFlags
     static constexpr int periodic = 2;
     static constexpr int rational = 4;
     static constexpr int planar = 8;
+    static constexpr int chordKnots = 0x20; ///< the knots count the chords
     static constexpr int fromFitPoints = 0x400;
 };
 
@@ -193,23 +195,54 @@ int notePlane(Fields &f, const std::vector<Point> &points)
     return normal ? SplineFlags::planar : 0;
 }
 
-void readFitSpline(Fields &f, int degree)
+void noteUnlessNull(Fields &f, int code, const Point &direction)
 {
-    const std::size_t begin = f.mark();
+    if (direction != Point())
+        f.note(code, direction);
+}
+
+void noteSplineCounts(Fields &f, int flags, int degree, std::size_t knots, std::size_t points, std::size_t fitPoints)
+{
+    f.note(70, flags);
     f.note(71, degree);
-    f.note(72, 0);
-    f.note(73, 0);
-    f.real(44);
-    f.point(12);
-    f.point(13);
-    std::vector<Point> points(f.count(6));
-    f.note(74, points.size());
-    f.arrange(begin, {71, 72, 73, 74});
-    for (Point &point : points)
-        point = f.point(11);
-    const std::size_t plane = f.mark();
-    f.note(70, notePlane(f, points) | SplineFlags::fromFitPoints);
-    f.moveForward(plane, begin);
+    f.note(72, knots);
+    f.note(73, points);
+    f.note(74, fitPoints);
+}
+
+/// Files have no more than the points that the spline goes through; the text form has its control points as well. Where
+/// it may pass the points by, or its knots are chosen in another way, these are not known here.
+void readFitSpline(Fields &f, int degree, bool hasChordKnots)
+{
+    constexpr int cubic = 3;
+    constexpr double leastTolerance = 1e-8;
+    const double tolerance = f.real();
+    const Point startTangent = f.point();
+    const Point endTangent = f.point();
+    std::vector<Point> fitPoints(f.count(6));
+    for (Point &point : fitPoints)
+        point = f.point();
+    std::optional<FittedSpline> spline;
+    const bool isClosed = !fitPoints.empty() && fitPoints.front() == fitPoints.back();
+    if (degree == cubic && hasChordKnots && tolerance <= leastTolerance && !isClosed && !f.hasFailed())
+        spline = splineThrough(fitPoints, startTangent, endTangent);
+    const FittedSpline shown = spline.value_or(FittedSpline());
+    const int plane = notePlane(f, spline ? shown.points : fitPoints);
+    const int flags = plane | (hasChordKnots ? SplineFlags::chordKnots : 0) | SplineFlags::fromFitPoints;
+    noteSplineCounts(f, flags, degree, shown.knots.size(), shown.points.size(), fitPoints.size());
+    if (spline) {
+        f.note(42, 1e-9);
+        f.note(43, 1e-10);
+    }
+    f.note(44, tolerance);
+    noteUnlessNull(f, 12, startTangent);
+    noteUnlessNull(f, 13, endTangent);
+    for (const double knot : shown.knots)
+        f.note(40, knot);
+    for (const Point &point : shown.points)
+        f.note(10, point);
+    for (const Point &point : fitPoints)
+        f.note(11, point);
 }
 
 void readControlSpline(Fields &f, int degree)
@@ -250,13 +283,14 @@ void readSpline(Fields &f)
 {
     f.subclass("AcDbSpline");
     const int source = f.int32();
+    int knotChoice = 0;
     if (f.since(Release::R2013)) {
         f.int32(); // how it was made
-        f.int32(); // how its knots are chosen
+        knotChoice = f.int32();
     }
     const int degree = f.int32();
     if (source == FitPoints)
-        readFitSpline(f, degree);
+        readFitSpline(f, degree, knotChoice == 0);
     else
         readControlSpline(f, degree);
 }
