@@ -203,4 +203,19 @@ TEST(DwgTexts, AttributesHaveAVersionFromR2010AndParagraphsFromR2018)
     }
 }
 
+TEST(DwgTexts, OfClassesThatAreNotKnownAreKeptAsBits)
+{
+    for (const Release release : {Release::R2010, Release::R2018}) {
+        MadeDrawing drawing(release);
+        const std::uint64_t handle = drawing.addObject("SOMETHING", "NAME", [](ObjectWriter &o) {
+            o.small(0xa5);
+            o.text("ab");
+            o.reference(MadeHandles::LayerZero);
+        });
+        const std::string record = readBack(drawing).lastPart(handle);
+        // A length of one byte, 0x02, and two characters of two bytes, all two bits further.
+        EXPECT_NE(record.find("|93 8|310 A5|162 42|311 409840188000|340 10|"), std::string::npos) << record;
+    }
+}
+
 } // namespace host::dwg::test

@@ -104,6 +104,7 @@ public:
     bool since(Release release) const { return m_release >= release; }
     bool until(Release release) const { return m_release <= release; }
     BitReader &values() { return m_values; }
+    BitReader &texts() { return m_texts; }
     BitReader &references() { return m_references; }
     /// What is not written, so that nothing refers to it as its extension dictionary or entry.
     std::unordered_set<std::uint64_t> &leftOut() { return m_leftOut; }

@@ -96,6 +96,13 @@ void noteRest(Fields &f, const ProxyParts &parts)
     const BitRow row = restOfValues(f.values(), parts.texts);
     f.note(93, row.count());
     f.noteBinary(310, row.bytes());
+    if (f.texts().left() > 0) {
+        // From R2007 on they stand apart from the other values.
+        BitRow texts;
+        copyBits(f.texts(), f.texts().left(), texts);
+        f.note(162, texts.count());
+        f.noteBinary(311, texts.bytes());
+    }
     bool hasReferences = false;
     while (f.references().left() >= 8 && !f.references().hasFailed()) {
         const HandleReference reference = f.references().handle();
