@@ -250,4 +250,18 @@ TEST(DwgClasses, EmbeddedObjectsStandWhereTheirDataSays)
     EXPECT_EQ(read.problems(), "");
 }
 
+TEST(DwgClasses, EmbeddedDataIsThereWholeOrNotAtAll)
+{
+    for (const bool isWhole : {true, false}) {
+        MadeDrawing drawing(Release::R2004);
+        const std::uint64_t handle = drawing.addObject(0x51, "IT", [isWhole](ObjectWriter &o) {
+            o.int32(isWhole ? 3 : 2);
+            o.values().rawBytes("abc");
+        });
+        const ReadBack read = readBack(drawing);
+        EXPECT_EQ(read.lastPart(handle), isWhole ? "90 3|310 616263|" : "");
+        EXPECT_EQ(read.drawing.problems.lostCount(), isWhole ? 0u : 1u);
+    }
+}
+
 } // namespace host::dwg::test

@@ -33,13 +33,29 @@ void readEmbedded(Fields &f)
     f.note(90, data.size());
     f.noteBinary(310, data);
     f.note(1, "OLE");
+    if (!f.isUsedUp())
+        f.fail();
+}
+
+/// A program in another language that is kept in the drawing.
+void readProject(Fields &f)
+{
+    f.subclass("AcDbVbaProject");
+    const std::string data = f.values().rawBytes(f.count(8));
+    f.note(90, data.size());
+    f.noteBinary(310, data);
+    if (!f.isUsedUp())
+        f.fail();
 }
 
 } // namespace
 
 std::span<const ObjectType> embeddedTypes()
 {
-    static constexpr ObjectType rows[] = {{0x4a, "OLE2FRAME", readEmbedded, true}};
+    static constexpr ObjectType rows[] = {
+        {0x4a, "OLE2FRAME", readEmbedded, true},
+        {0x51, "VBA_PROJECT", readProject},
+    };
     return rows;
 }
 

@@ -1,3 +1,5 @@
+#include "host/dwg/objects/MultiLeaderTypes.h"
+
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
@@ -100,8 +102,10 @@ void readLeaderBlock(Fields &f)
         f.real(47);
 }
 
+} // namespace
+
 /// What the leader shows and where: its content, and the lines that lead to it, which stand first in the file.
-void readContext(Fields &f)
+void readMultiLeaderContext(Fields &f)
 {
     f.note(300, "CONTEXT_DATA{");
     const std::size_t begin = f.mark();
@@ -132,6 +136,8 @@ void readContext(Fields &f)
     f.note(301, "}");
 }
 
+namespace {
+
 void readLeaderParts(Fields &f)
 {
     if (!f.since(Release::R2010)) {
@@ -155,7 +161,7 @@ void readMultiLeader(Fields &f)
     f.subclass("AcDbMLeader");
     if (f.since(Release::R2010))
         f.int16(270);
-    readContext(f);
+    readMultiLeaderContext(f);
     f.reference(340);
     f.int32(90);
     f.int16(170);

@@ -1,3 +1,4 @@
+#include "host/dwg/objects/MultiLeaderTypes.h"
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
@@ -80,6 +81,12 @@ void readLeaderContext(Fields &f)
     f.point(13);
 }
 
+void readMultiLeaderScale(Fields &f)
+{
+    readScaleContext(f);
+    readMultiLeaderContext(f);
+}
+
 } // namespace
 
 std::span<const ObjectType> scaleContextTypes()
@@ -89,6 +96,7 @@ std::span<const ObjectType> scaleContextTypes()
         {0, "ACDB_MTEXTOBJECTCONTEXTDATA_CLASS", readParagraphContext},
         {0, "ACDB_BLKREFOBJECTCONTEXTDATA_CLASS", readInsertContext},
         {0, "ACDB_FCFOBJECTCONTEXTDATA_CLASS", readToleranceContext},
+        {0, "ACDB_MLEADEROBJECTCONTEXTDATA_CLASS", readMultiLeaderScale},
         {0, "ACDB_LEADEROBJECTCONTEXTDATA_CLASS", readLeaderContext},
     };
     return rows;
