@@ -135,6 +135,19 @@ TEST(DwgOldReleases, LeaveOutWhatLaterProgramsKeepForThemselves)
     }
 }
 
+TEST(DwgOldReleases, LeaveOutRecordsAlone)
+{
+    // Entities under such names stay, and so does the dictionary.
+    MadeDrawing drawing(Release::R14);
+    const std::uint64_t point = drawing.addEntity(pointType, writePoint);
+    const std::uint64_t names = drawing.addObject(
+        dictionary, "D",
+        dictionaryOf({{"ACAD_XREC_ROUNDTRIP", point}, {"ACAD_LAYOUTSELFREF", point}}, HandleReference::SoftOwner));
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.lastPart(names), "3 ACAD_LAYOUTSELFREF|350 40|3 ACAD_XREC_ROUNDTRIP|350 40|");
+    EXPECT_EQ(read.lastPart(point), "10 1.0|20 2.0|30 3.0|");
+}
+
 TEST(DwgOldReleases, HaveDictionariesWithGaps)
 {
     for (const Release release : {Release::R13, Release::R14, Release::R2000}) {

@@ -10,7 +10,14 @@ namespace {
 
 constexpr int dictionaryType = 0x2a;
 
-/// The text that an extension record begins with, as group 102; empty where it does not.
+/// What an entry of a dictionary is called that may be such a record.
+bool isLaterName(std::string_view name)
+{
+    return name == "ACAD_XREC_ROUNDTRIP" || name == "ACAD_LAYOUTSELFREF";
+}
+
+/// The text that an extension record begins with, as group 102, "-" where it does not; empty for what is no such
+/// record.
 std::string beginningOf(const DrawingObjects &objects, std::uint64_t handle, Fields &fields)
 {
     const auto frame = objects.peek(handle);
@@ -19,7 +26,7 @@ std::string beginningOf(const DrawingObjects &objects, std::uint64_t handle, Fie
         return {};
     ObjectHead({}).read(*frame, false, fields);
     type->read(fields);
-    std::string beginning;
+    std::string beginning = "-";
     int place = -1; // behind the subclass
     fields.forEachTag([&](int code, std::string_view value) {
         place = code == 100 ? 0 : place < 0 ? place : place + 1;
@@ -44,6 +51,13 @@ bool isLaterBeginning(std::string_view text)
 std::unordered_set<std::uint64_t> findLaterRecords(const DrawingObjects &objects, Fields &fields)
 {
     std::unordered_set<std::uint64_t> later;
+    std::unordered_map<std::uint64_t, std::string> beginnings; // each record is read once, whoever has it
+    const auto beginningIn = [&](std::uint64_t handle) -> const std::string & {
+        const auto [place, isNew] = beginnings.try_emplace(handle);
+        if (isNew)
+            place->second = beginningOf(objects, handle, fields);
+        return place->second;
+    };
     for (const MapEntry &place : objects.map()) {
         const auto frame = objects.peek(place);
         if (!frame || frame->type != dictionaryType)
@@ -51,9 +65,9 @@ std::unordered_set<std::uint64_t> findLaterRecords(const DrawingObjects &objects
         const DictionaryEntries entries = readEntries(objects, place.handle, fields);
         std::size_t left = entries.size();
         for (const auto &[name, handle] : entries) {
-            const std::string beginning =
-                name == "ACAD_XREC_ROUNDTRIP" ? beginningOf(objects, handle, fields) : std::string();
-            if (name != "ACAD_LAYOUTSELFREF" && !isLaterBeginning(beginning))
+            const std::string beginning = isLaterName(name) ? beginningIn(handle) : std::string();
+            const bool isOwnLayout = name == "ACAD_LAYOUTSELFREF" && !beginning.empty();
+            if (!isOwnLayout && !isLaterBeginning(beginning))
                 continue;
             later.insert(handle);
             left -= beginning != viewStyleBeginning ? 1 : 0;
