@@ -196,6 +196,19 @@ std::uint32_t BitReader::modularShort()
 
 HandleReference BitReader::handle()
 {
+    constexpr int headBits = 8;
+    constexpr std::size_t mostInAWord = 6; // bytes
+    const std::uint64_t word = ahead();
+    const std::size_t size = word >> 56 & 0xf;
+    if (size <= mostInAWord && left() >= headBits + 8 * size && !m_hasFailed) {
+        m_at += headBits + 8 * size;
+        return {static_cast<int>(word >> 60), word << headBits >> 1 >> (63 - 8 * size)};
+    }
+    return longHandle();
+}
+
+HandleReference BitReader::longHandle()
+{
     constexpr int mostAtOnce = 4; // bytes
     HandleReference reference;
     reference.kind = static_cast<int>(bits(4));

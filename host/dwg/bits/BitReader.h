@@ -218,6 +218,8 @@ private:
         return word << ((m_at - begin * 8) & 63);
     }
     std::uint64_t aheadInFewBytes() const;
+    /// One of more bytes than are looked at at a time, or one that is cut off.
+    HandleReference longHandle();
     /// Units of UTF-16 up to the first ones that are not ASCII, of `units` that are there: how many.
     std::size_t takeAscii(std::size_t units, std::string &text);
 

@@ -47,6 +47,33 @@ private:
 constexpr Field256 mapField(0x169);
 constexpr Field256 dataField(0x11d);
 
+/// What each byte is times 2, 4, 8 and so on.
+template <std::size_t Count>
+constexpr auto productTables(const Field256 &field)
+{
+    std::array<std::array<std::uint8_t, 256>, Count> tables{};
+    for (std::size_t i = 0; i < Count; ++i) {
+        for (std::size_t byte = 0; byte < 256; ++byte)
+            tables[i][byte] = field.product(static_cast<std::uint8_t>(byte), field.power(static_cast<int>(i) + 1));
+    }
+    return tables;
+}
+
+constexpr auto mapProducts = productTables<correctedBlock - ownBytes(ErrorCode::Maps)>(mapField);
+constexpr auto dataProducts = productTables<correctedBlock - ownBytes(ErrorCode::Data)>(dataField);
+
+/// The values of a block at the powers of 2, side by side.
+template <std::size_t Count>
+auto valuesAtPowers(Bytes block, const std::array<std::array<std::uint8_t, 256>, Count> &products)
+{
+    std::array<std::uint8_t, Count> values{};
+    for (auto byte = block.rbegin(); byte != block.rend(); ++byte) {
+        for (std::size_t i = 0; i < Count; ++i)
+            values[i] = static_cast<std::uint8_t>(products[i][values[i]] ^ *byte);
+    }
+    return values;
+}
+
 /// Factors of rising powers of the unknown.
 using Polynomial = std::vector<std::uint8_t>;
 
@@ -88,16 +115,12 @@ private:
     /// False when all are 0: the block is whole.
     bool findSyndromes()
     {
-        bool isDamaged = false;
-        for (std::size_t i = 1; i <= m_added; ++i) {
-            const std::uint8_t x = m_field.power(static_cast<int>(i));
-            std::uint8_t value = 0;
-            for (auto byte = m_block.rbegin(); byte != m_block.rend(); ++byte)
-                value = static_cast<std::uint8_t>(m_field.product(value, x) ^ *byte);
-            m_syndromes.push_back(value);
-            isDamaged = isDamaged || value != 0;
-        }
-        return isDamaged;
+        const auto keep = [this](const auto &values) { m_syndromes.assign(values.begin(), values.end()); };
+        if (&m_field == &mapField)
+            keep(valuesAtPowers(m_block, mapProducts));
+        else
+            keep(valuesAtPowers(m_block, dataProducts));
+        return std::ranges::any_of(m_syndromes, [](std::uint8_t value) { return value != 0; });
     }
 
     /// The shortest polynomial that makes each syndrome from those before it (the way of Berlekamp and Massey).

@@ -43,12 +43,12 @@ Correction correctPage(PageBytes &page, ErrorCode code)
 /// The blocks' own bytes, one block behind the other.
 PageBytes ownBytesOf(Bytes page, ErrorCode code)
 {
-    PageBytes bytes;
     const std::size_t blocks = page.size() / correctedBlock;
-    bytes.reserve(blocks * ownBytes(code));
+    PageBytes bytes(blocks * ownBytes(code));
+    auto to = bytes.begin();
     for (std::size_t one = 0; one < blocks; ++one) {
         for (std::size_t i = 0; i < ownBytes(code); ++i)
-            bytes.push_back(page[one + i * blocks]);
+            *to++ = page[one + i * blocks];
     }
     return bytes;
 }

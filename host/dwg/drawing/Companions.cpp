@@ -94,7 +94,7 @@ Companions::Companions(const DrawingObjects &objects, std::uint64_t namedObjects
 void Companions::findList(const DrawingObjects &objects, Fields &fields)
 {
     const DictionaryEntries named = readEntries(objects, m_namedObjects, fields);
-    const auto found = named.find(listName);
+    const auto found = findEntry(named, listName);
     m_hasNewList = found == named.end();
     m_list = m_hasNewList ? m_firstFree++ : found->second;
 }
@@ -147,9 +147,11 @@ void Companions::noteList(Fields &fields) const
 
 void Companions::make(const Fields &fields, std::size_t begin)
 {
+    const std::uint64_t handle = fields.relations().handle;
+    if (begin == fields.mark() && !(handle == m_namedObjects && m_hasNewList))
+        return;
     const Names names;
     Fields record(m_release, names);
-    const std::uint64_t handle = fields.relations().handle;
     if (handle == m_namedObjects && m_hasNewList) {
         noteHead(record, m_list, m_namedObjects, true);
         record.subclass("AcDbXrecord");

@@ -78,7 +78,7 @@ void addSummary(const Container &container, Fields &fields, HeaderValues &values
 
 std::uint64_t entryOf(const DictionaryEntries &entries, std::string_view name)
 {
-    const auto found = entries.find(name);
+    const auto found = findEntry(entries, name);
     return found != entries.end() ? found->second : 0;
 }
 

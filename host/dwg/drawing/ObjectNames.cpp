@@ -52,9 +52,10 @@ DictionaryEntries readEntries(const DrawingObjects &objects, std::uint64_t dicti
         return entries;
     ObjectHead({}).read(*frame, false, fields);
     typeByNumber(dictionaryType)->read(fields);
-    const Relations &relations = fields.relations();
+    Relations &relations = fields.relations();
+    entries.reserve(relations.entries.size());
     for (std::size_t i = 0; i < relations.entries.size(); ++i)
-        entries.emplace(relations.entryNames[i], relations.entries[i]);
+        entries.emplace_back(std::move(relations.entryNames[i]), relations.entries[i]);
     return entries;
 }
 

@@ -208,7 +208,7 @@ void ObjectHead::readEntityHead(Fields &fields)
 
     noteRelations(fields);
     fields.subclass("AcDbEntity");
-    if (isPaperSpace(fields.nameOf(fields.relations().owner)))
+    if (isInPaperSpace(fields))
         fields.note(67, 1);
     fields.note(8, fields.nameOf(layer));
     if (linetype != 0)
@@ -240,6 +240,16 @@ void ObjectHead::readEntityHead(Fields &fields)
         fields.note(fields.since(Release::R2010) ? 160 : 92, m_graphics.size());
         fields.noteBinary(310, m_graphics);
     }
+}
+
+bool ObjectHead::isInPaperSpace(const Fields &fields)
+{
+    const std::uint64_t owner = fields.relations().owner;
+    if (owner != m_lastOwner) {
+        m_lastOwner = owner;
+        m_isLastPaper = isPaperSpace(fields.nameOf(owner));
+    }
+    return m_isLastPaper;
 }
 
 void ObjectHead::readObjectHead(Fields &fields)

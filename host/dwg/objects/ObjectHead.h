@@ -54,6 +54,7 @@ private:
     void readExtensions(Fields &fields);
     void readEntityHead(Fields &fields);
     void readObjectHead(Fields &fields);
+    bool isInPaperSpace(const Fields &fields);
     void readRelations(Fields &fields, std::int32_t reactorCount, bool hasNoDictionary);
     void noteRelations(Fields &fields) const;
 
@@ -63,6 +64,8 @@ private:
     std::string m_graphics;
     std::size_t m_graphicsMark = 0;
     std::size_t m_objectEnd = 0;
+    std::uint64_t m_lastOwner = 0; ///< that of the entity before, which is mostly that of the next one, too
+    bool m_isLastPaper = false;
     int m_space = 0; ///< 1 and 2: those of paper and model space, which do not tell their owner
 };
 

@@ -73,6 +73,10 @@ bool hasPlainDigits(double value)
 char *putReal(double value, char *to)
 {
     constexpr std::string_view fraction = ".0";
+    if (std::bit_cast<std::uint64_t>(value) == 0) {
+        *to++ = '0';
+        return std::copy(fraction.begin(), fraction.end(), to);
+    }
     if (hasPlainDigits(value)) {
         to = std::to_chars(to, to + mostOfANumber, static_cast<std::int64_t>(value)).ptr;
         return std::copy(fraction.begin(), fraction.end(), to);
