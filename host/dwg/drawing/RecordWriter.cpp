@@ -1,5 +1,6 @@
 #include "host/dwg/drawing/RecordWriter.h"
 
+#include "host/dwg/drawing/ArrowSizes.h"
 #include "host/dwg/objects/ParagraphTypes.h"
 #include "host/dwg/objects/ProxyTypes.h"
 
@@ -44,6 +45,7 @@ RecordWriter::RecordWriter(DrawingObjects &objects, std::string &text)
     : m_objects(objects), m_text(text), m_fields(objects.release(), m_names), m_head({})
 {
     m_fields.setAskSize([this](std::uint64_t handle) { return sizeOfText(handle); });
+    m_fields.setAskArrowSize([this](std::uint64_t style) { return arrowSizeOf(m_objects, m_names, m_head, style); });
 }
 
 std::optional<TextSize> RecordWriter::sizeOfText(std::uint64_t handle) const

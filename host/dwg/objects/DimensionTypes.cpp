@@ -255,82 +255,20 @@ void readJoggedRadius(Fields &f)
     });
 }
 
-void noteUnlessPoint(Fields &f, int code, Point point, Point usual)
-{
-    if (point != usual)
-        f.note(code, point);
-}
-
-void readLeader(Fields &f)
-{
-    f.subclass("AcDbLeader");
-    const std::size_t begin = f.mark();
-    f.flag();
-    f.int16(73);
-    f.int16(72, {0});
-    const std::size_t count = f.count(6);
-    f.note(76, count);
-    std::vector<Point> points(count);
-    for (Point &point : points)
-        point = f.point();
-    f.point(); // the origin of its plane
-    const Point extrusion = f.point();
-    const Point direction = f.point();
-    const Point fromBlock = f.point();
-    const Point fromText = f.since(Release::R14) ? f.point() : Point();
-    if (f.until(Release::R14))
-        f.real(); // a gap, as its style has it
-    if (f.until(Release::R2007)) {
-        f.real(40);
-        f.real(41);
-    }
-    f.flag(74);
-    f.flag(71, {1});
-    int colour = 0; // for a dimension style that leaves it to the block
-    if (f.until(Release::R14)) {
-        f.int16();
-        f.real();
-        f.flag();
-        f.flag();
-        f.int16();
-        colour = f.int16();
-        f.flag();
-        f.flag();
-    } else {
-        f.int16();
-        f.flag();
-        f.flag();
-    }
-    const std::uint64_t annotation = f.reference();
-    f.name(3);
-    // Later files have the size of its text with the text alone.
-    if (const auto size = f.since(Release::R2010) ? f.sizeOf(annotation) : std::nullopt) {
-        f.note(40, size->height);
-        f.note(41, size->width);
-    }
-    f.arrange(begin, {3, 71, 72, 73, 74, 40, 41, 76});
-    for (const Point &point : points)
-        f.note(10, point);
-    if (f.until(Release::R14))
-        f.note(77, colour);
-    if (annotation != 0)
-        f.noteHandle(340, annotation);
-    noteUnlessPoint(f, 210, extrusion, {0.0, 0.0, 1.0});
-    noteUnlessPoint(f, 211, direction, {1.0, 0.0, 0.0});
-    noteUnlessPoint(f, 212, fromBlock, {});
-    noteUnlessPoint(f, 213, fromText, {});
-}
-
 } // namespace
 
 std::span<const ObjectType> dimensionTypes()
 {
     static constexpr ObjectType rows[] = {
-        {0x14, "DIMENSION", readOrdinate, true},   {0x15, "DIMENSION", readRotated, true},
-        {0x16, "DIMENSION", readAligned, true},    {0x17, "DIMENSION", readThreePoints, true},
-        {0x18, "DIMENSION", readTwoLines, true},   {0x19, "DIMENSION", readRadius, true},
-        {0x1a, "DIMENSION", readDiameter, true},   {0x2d, "LEADER", readLeader, true},
-        {0, "ARC_DIMENSION", readArcLength, true}, {0, "LARGE_RADIAL_DIMENSION", readJoggedRadius, true},
+        {0x14, "DIMENSION", readOrdinate, true},
+        {0x15, "DIMENSION", readRotated, true},
+        {0x16, "DIMENSION", readAligned, true},
+        {0x17, "DIMENSION", readThreePoints, true},
+        {0x18, "DIMENSION", readTwoLines, true},
+        {0x19, "DIMENSION", readRadius, true},
+        {0x1a, "DIMENSION", readDiameter, true},
+        {0, "ARC_DIMENSION", readArcLength, true},
+        {0, "LARGE_RADIAL_DIMENSION", readJoggedRadius, true},
     };
     return rows;
 }

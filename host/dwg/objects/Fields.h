@@ -84,6 +84,12 @@ public:
     void setAskSize(AskSize ask) { m_askSize = std::move(ask); }
     std::optional<TextSize> sizeOf(std::uint64_t text) const { return m_askSize ? m_askSize(text) : std::nullopt; }
 
+    /// Asks a dimension style for the size of arrows, which the object that is read may have in its own way.
+    using AskArrowSize = std::function<double(std::uint64_t)>;
+    void setAskArrowSize(AskArrowSize ask) { m_askArrowSize = std::move(ask); }
+    /// 0 where it is not known.
+    double arrowSizeOf(std::uint64_t style) const { return m_askArrowSize ? m_askArrowSize(style) : 0.0; }
+
     /// Which one the object is of those in its owner that asked for a number, from 1.
     int takeNumber() { return ++m_numbers[m_relations.owner]; }
 
@@ -249,6 +255,7 @@ private:
     Release m_release;
     const Names &m_names;
     AskSize m_askSize;
+    AskArrowSize m_askArrowSize;
     BitReader m_values;
     BitReader m_texts;
     BitReader m_references;

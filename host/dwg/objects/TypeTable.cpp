@@ -45,13 +45,13 @@ std::vector<const ObjectType *> allTypes()
 {
     std::vector<const ObjectType *> types;
     for (const auto rows :
-         {curveTypes(),        polylineTypes(),     textTypes(),        paragraphTypes(),      insertTypes(),
-          dimensionTypes(),    multiLeaderTypes(),  hatchTypes(),       solidTypes(),          viewportTypes(),
-          imageTypes(),        multiLineTypes(),    tableTypes(),       dimensionStyleTypes(), dictionaryTypes(),
-          layoutTypes(),       materialTypes(),     visualStyleTypes(), styleTypes(),          tableStyleTypes(),
-          tableContentTypes(), tableEntityTypes(),  fieldTypes(),       dimensionLinkTypes(),  lightTypes(),
-          filterTypes(),       evaluationTypes(),   associativeTypes(), renderTypes(),         meshTypes(),
-          underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes()}) {
+         {curveTypes(),      polylineTypes(),     textTypes(),         paragraphTypes(),   insertTypes(),
+          dimensionTypes(),  leaderTypes(),       multiLeaderTypes(),  hatchTypes(),       solidTypes(),
+          viewportTypes(),   imageTypes(),        multiLineTypes(),    tableTypes(),       dimensionStyleTypes(),
+          dictionaryTypes(), layoutTypes(),       materialTypes(),     visualStyleTypes(), styleTypes(),
+          tableStyleTypes(), tableContentTypes(), tableEntityTypes(),  fieldTypes(),       dimensionLinkTypes(),
+          lightTypes(),      filterTypes(),       evaluationTypes(),   associativeTypes(), renderTypes(),
+          meshTypes(),       underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes()}) {
         for (const ObjectType &row : rows)
             types.push_back(&row);
     }

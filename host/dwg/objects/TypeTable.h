@@ -38,7 +38,8 @@ std::span<const ObjectType> polylineTypes();  ///< polylines and their vertices
 std::span<const ObjectType> textTypes();      ///< texts, attributes, tolerances, shapes
 std::span<const ObjectType> paragraphTypes(); ///< texts of paragraphs
 std::span<const ObjectType> insertTypes();    ///< blocks and what stands in them
-std::span<const ObjectType> dimensionTypes(); ///< dimensions and leaders
+std::span<const ObjectType> dimensionTypes(); ///< dimensions
+std::span<const ObjectType> leaderTypes();
 std::span<const ObjectType> multiLeaderTypes();
 std::span<const ObjectType> hatchTypes();
 std::span<const ObjectType> solidTypes();

@@ -1,0 +1,64 @@
+#include "host/dwg/drawing/ArrowSizes.h"
+
+#include "host/dwg/objects/TableTypes.h"
+
+#include <cstdlib>
+
+namespace host::dwg {
+
+namespace {
+
+/// Group codes of these two variables of dimension styles, which are left out of a style where they are as usual.
+constexpr int scaleCode = 40;
+constexpr int arrowCode = 41;
+
+struct ArrowSize
+{
+    double scale = 1.0;
+    double arrow = 0.18;
+
+    void set(int code, std::string_view value)
+    {
+        if (code == scaleCode || code == arrowCode)
+            (code == scaleCode ? scale : arrow) = std::strtod(std::string(value).c_str(), nullptr);
+    }
+};
+
+/// What an object has instead of its style: group codes as numbers, each in front of its value.
+void readOwn(const ObjectHead &head, Fields &fields, ArrowSize &size)
+{
+    fields.start({}, {}, {});
+    head.noteExtendedData(fields);
+    bool isOwn = false;
+    int variable = 0;
+    fields.forEachTag([&](int code, std::string_view value) {
+        constexpr int text = 1000;
+        constexpr int application = 1001;
+        constexpr int real = 1040;
+        constexpr int number = 1070;
+        if (code == text || code == application)
+            isOwn = code == text && value == "DSTYLE";
+        else if (isOwn && code == number)
+            variable = std::atoi(std::string(value).c_str());
+        else if (isOwn && code == real)
+            size.set(variable, value);
+    });
+}
+
+} // namespace
+
+double arrowSizeOf(const DrawingObjects &objects, const Names &names, const ObjectHead &head, std::uint64_t style)
+{
+    const auto frame = objects.peek(style);
+    if (!frame || frame->type != dimensionStyleType)
+        return 0.0;
+    Fields fields(objects.release(), names);
+    ArrowSize size;
+    ObjectHead({}).read(*frame, false, fields);
+    typeByNumber(dimensionStyleType)->read(fields);
+    fields.forEachTag([&size](int code, std::string_view value) { size.set(code, value); });
+    readOwn(head, fields, size);
+    return size.scale * size.arrow;
+}
+
+} // namespace host::dwg
