@@ -36,7 +36,7 @@ struct PairOutcome
 
 /// Compares a drawing that was read with the one that another program made of the same file. Numbers are the same when
 /// they are to the last digit that the other program writes; references, when they go to records that are the same
-/// (RecordMatching.h); the order of reactors and extension dictionary in front of a record does not count.
+/// (RecordMatching.h).
 PairOutcome comparePair(const TextTree &read, const TextTree &expected, std::string_view pair);
 
 } // namespace host::dwg::test

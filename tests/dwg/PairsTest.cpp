@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(Dwg, Pairs,
                                          PairRow{"r2000_sample", 241, 421, 0}, PairRow{"r2004_leader", 470, 483, 0},
                                          PairRow{"r2007_circle", 459, 481, 0}, PairRow{"r2007_line", 464, 486, 0},
                                          PairRow{"r2007_text", 460, 482, 0}, PairRow{"r2010_leader", 508, 523, 0},
-                                         PairRow{"r2013_leader", 464, 472, 0}, PairRow{"r2018_leader", 386, 468, 0},
+                                         PairRow{"r2013_leader", 464, 472, 0}, PairRow{"r2018_leader", 384, 468, 0},
                                          PairRow{"r2018_sample", 407, 416, 0}),
                          [](const auto &row) { return std::string(row.param.name); });
 

@@ -50,14 +50,7 @@ bool isSame(const TextTag &read, const TextTag &expected, double lastDigit)
     return isReal(read.code) && isSameReal(read.value, expected.value, lastDigit);
 }
 
-std::size_t findTag(const Tags &tags, int code, std::string_view value)
-{
-    const auto found =
-        std::ranges::find_if(tags, [&](const TextTag &tag) { return tag.code == code && tag.value == value; });
-    return static_cast<std::size_t>(found - tags.begin());
-}
-
-/// Binary data in one tag, however it was cut; the extension dictionary in front of the reactors.
+/// Binary data in one tag, however it was cut.
 Tags inOneForm(const Tags &tags)
 {
     Tags result;
@@ -66,12 +59,6 @@ Tags inOneForm(const Tags &tags)
             result.back().value += trimmed(tag.value);
         else
             result.push_back(tag.code == 310 ? TextTag{310, trimmed(tag.value)} : tag);
-    }
-    const std::size_t reactors = findTag(result, 102, "{ACAD_REACTORS");
-    const std::size_t dictionary = findTag(result, 102, "{ACAD_XDICTIONARY");
-    if (reactors < dictionary && dictionary + 3 <= result.size()) {
-        const auto at = [&result](std::size_t i) { return result.begin() + static_cast<std::ptrdiff_t>(i); };
-        std::rotate(at(reactors), at(dictionary), at(dictionary + 3));
     }
     return result;
 }
