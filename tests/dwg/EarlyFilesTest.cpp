@@ -81,6 +81,8 @@ const EarlyEntityRow earlyEntityRows[] = {
     {"elevation", r12, 3, 0x04, 0, "7.0 1.0 2.0 3.0", "CIRCLE 8 0 10 1.0 20 2.0 30 7.0 40 3.0"},
     {"thickness", r12, 3, 0x08, 0, "7.0 1.0 2.0 3.0", "CIRCLE 8 0 39 7.0 10 1.0 20 2.0 30 0.0 40 3.0"},
     {"handle", r12, 3, 0x20, 0, "b2 h1A2B 1.0 2.0 3.0", "CIRCLE 5 1A2B 8 0 10 1.0 20 2.0 30 0.0 40 3.0"},
+    {"handle of what is too long", r12, 3, 0x20, 0, "b1 hAB 1.0 2.0 3.0 4.0", "",
+     "CIRCLE AB: Its values do not fill its record."},
     {"handle of nine bytes", r12, 3, 0x20, 0, "b9 h112233445566778899 1.0 2.0 3.0", "", lost},
     {"paper space", r12, 3, 0x40, 0, "b4 w1 1.0 2.0 3.0", "CIRCLE 8 0 67 1 10 1.0 20 2.0 30 0.0 40 3.0"},
     {"all at once", r12, 3, 0x6f, 0, "b3 b4 w0 4.0 5.0 b1 hFF w2 1.0 2.0 3.0",

@@ -3,6 +3,7 @@
 #include "host/dwg/early/EarlyFrames.h"
 #include "host/dwg/early/EarlyHeader.h"
 #include "host/dwg/early/EarlyRecord.h"
+#include "host/dwg/early/EarlyTables.h"
 
 #include <algorithm>
 
@@ -12,16 +13,16 @@ namespace {
 
 enum EarlyNumber
 {
-    blockNumber = 12,
-    endOfBlockNumber = 13,
-    attributeNumber = 16,
-    endOfListNumber = 17,
-    vertexNumber = 20
+    earlyBlock = 12,
+    earlyEndOfBlock = 13,
+    earlyAttribute = 16,
+    earlyEndOfList = 17,
+    earlyVertex = 20
 };
 
-bool belongsToList(int type)
+bool belongsToEarlyList(int type)
 {
-    return type == attributeNumber || type == endOfListNumber || type == vertexNumber;
+    return type == earlyAttribute || type == earlyEndOfList || type == earlyVertex;
 }
 
 /// The ways in which records of the release may be coded, the likeliest first.
@@ -85,12 +86,12 @@ private:
     void writeBlock(const EarlyBlock &block)
     {
         const auto first = m_frames.take(m_frames.placeOf(block.address));
-        if (!first || first->type != blockNumber)
+        if (!first || first->type != earlyBlock)
             return lose("BLOCK", "There is no block at its place: " + block.name + '.');
         m_block = &block;
-        const bool isWritten = writeEntity(*first, {blockNumber, "BLOCK", nullptr});
+        const bool isWritten = writeEntity(*first, {earlyBlock, "BLOCK", nullptr});
         m_block = nullptr;
-        if (isWritten && !writeRecords(first->next, endOfBlockNumber))
+        if (isWritten && !writeRecords(first->next, earlyEndOfBlock))
             writeMark("ENDBLK");
     }
 
@@ -98,6 +99,7 @@ private:
     /// when it was written.
     bool writeRecords(std::size_t place, int last = -1)
     {
+        m_list = List::None;
         while (!m_frames.isEnd(place)) {
             const auto frame = m_frames.take(place);
             if (!frame) {
@@ -109,10 +111,10 @@ private:
                 continue;
             }
             // Another block, where the end of this one is missing.
-            if (frame->type == blockNumber && last == endOfBlockNumber)
+            if (frame->type == earlyBlock && last == earlyEndOfBlock)
                 break;
             place = frame->next;
-            const bool isWritten = !frame->isJump() && writeListed(*frame, last == endOfBlockNumber);
+            const bool isWritten = !frame->isJump() && writeListed(*frame, last == earlyEndOfBlock);
             if (frame->type == last)
                 return isWritten;
         }
@@ -129,7 +131,7 @@ private:
     /// Writes an entity so that every list has an owner and an end, and blocks end in blocks alone.
     bool writeListed(const EarlyFrame &frame, bool isInBlock)
     {
-        const bool isListed = belongsToList(frame.type & ~EarlyFrame::deletedNumber);
+        const bool isListed = belongsToEarlyList(frame.type & ~EarlyFrame::deletedNumber);
         if (frame.isDeleted()) {
             if (!isListed && EarlyRecord::hasList(frame.flags))
                 openList(frame, List::Dropped);
@@ -141,10 +143,10 @@ private:
             return false;
         if (!isListed)
             closeList();
-        const bool isWritten = (isInBlock || frame.type != endOfBlockNumber) && writeEntity(frame);
+        const bool isWritten = (isInBlock || frame.type != earlyEndOfBlock) && writeEntity(frame);
         if (!isListed)
             openList(frame, isWritten ? List::Open : List::Dropped);
-        else if (isWritten && frame.type == endOfListNumber)
+        else if (isWritten && frame.type == earlyEndOfList)
             m_list = List::None;
         return isWritten;
     }
@@ -174,7 +176,7 @@ private:
     {
         ++m_result.objectCount;
         if (!readEntity(frame, type)) {
-            lose(type.name, "Its values do not fill its record.");
+            lose(type.name, "Its values do not fill its record.", m_record.handle());
             return false;
         }
         if (!m_frames.fitsChecksum(frame))
@@ -217,9 +219,9 @@ private:
             m_fields.note(1, path);
     }
 
-    void lose(std::string type, std::string why)
+    void lose(std::string type, std::string why, std::uint64_t handle = 0)
     {
-        m_problems.add({Problem::Kind::Lost, std::move(why), std::move(type), m_record.handle()});
+        m_problems.add({Problem::Kind::Lost, std::move(why), std::move(type), handle});
     }
 
     void warn(const EarlyType &type, const char *what)

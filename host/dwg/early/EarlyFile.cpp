@@ -8,12 +8,12 @@ namespace host::dwg {
 
 namespace {
 
-constexpr std::size_t checksumSize = 2;
+constexpr std::size_t earlyChecksumSize = 2;
 /// Sections of R11 and R12 stand between two rows of bytes that are the same in every file, and no part of them.
 constexpr std::size_t earlyMarkSize = 16;
-constexpr std::size_t tableHeadSize = 10;
+constexpr std::size_t earlyTableHeadSize = 10;
 /// Flags and a name.
-constexpr std::size_t leastTableRecord = 33;
+constexpr std::size_t leastEarlyTableRecord = 33;
 
 struct EarlyTableHead
 {
@@ -33,7 +33,7 @@ std::uint32_t earlyNumber(Bytes bytes, std::size_t at)
 }
 
 /// Of addresses in blocks and further entities the two highest bits say which; they count from the section's begin.
-constexpr std::uint32_t addressMask = 0x3fffffff;
+constexpr std::uint32_t earlyAddressMask = 0x3fffffff;
 
 EarlySection earlySection(const EarlyFile &file, std::size_t begin, std::size_t end, Problems &problems)
 {
@@ -46,7 +46,7 @@ EarlySection earlySection(const EarlyFile &file, std::size_t begin, std::size_t 
 
 EarlyTable earlyTableAt(Bytes bytes, std::size_t head, Problems &problems)
 {
-    BitReader reader(bytes, head * 8, (head + tableHeadSize) * 8);
+    BitReader reader(bytes, head * 8, (head + earlyTableHeadSize) * 8);
     EarlyTable table;
     table.recordSize = reader.raw16();
     table.count = reader.raw16();
@@ -54,7 +54,7 @@ EarlyTable earlyTableAt(Bytes bytes, std::size_t head, Problems &problems)
     table.at = reader.raw32();
     table.isThere = !reader.hasFailed();
     const bool isInFile = table.at <= bytes.size() && table.recordSize * table.count <= bytes.size() - table.at;
-    if (table.isThere && table.count != 0 && (!isInFile || table.recordSize < leastTableRecord)) {
+    if (table.isThere && table.count != 0 && (!isInFile || table.recordSize < leastEarlyTableRecord)) {
         problems.lose("A table has more records than the file has room for, or shorter ones than can be.");
         table.count = 0;
     }
@@ -71,9 +71,9 @@ bool hasPlainRecords(Release release)
 bool fitsEarlyChecksum(Bytes bytes, std::size_t begin, std::size_t end)
 {
     constexpr std::uint16_t seed = 0xc0c1;
-    if (end > bytes.size() || begin + checksumSize > end)
+    if (end > bytes.size() || begin + earlyChecksumSize > end)
         return false;
-    const std::size_t at = end - checksumSize;
+    const std::size_t at = end - earlyChecksumSize;
     return checksum16(bytes.subspan(begin, at - begin), seed) == (bytes[at] | bytes[at + 1] << 8);
 }
 
@@ -84,19 +84,19 @@ EarlyFile openEarlyFile(Bytes bytes, Release release, Problems &problems)
     file.bytes = bytes;
     file.entities = earlySection(file, earlyNumber(bytes, 0x14), earlyNumber(bytes, 0x18), problems);
     const std::size_t blocks = earlyNumber(bytes, 0x1c);
-    file.blocks = earlySection(file, blocks, blocks + (earlyNumber(bytes, 0x20) & addressMask), problems);
+    file.blocks = earlySection(file, blocks, blocks + (earlyNumber(bytes, 0x20) & earlyAddressMask), problems);
     const std::size_t further = earlyNumber(bytes, 0x24);
-    file.further = earlySection(file, further, further + (earlyNumber(bytes, 0x28) & addressMask), problems);
+    file.further = earlySection(file, further, further + (earlyNumber(bytes, 0x28) & earlyAddressMask), problems);
     file.variablesEnd = file.entities.begin;
     if (file.isChecked()) {
         file.variablesEnd -= std::min(file.variablesEnd, earlyMarkSize);
         if (!fitsEarlyChecksum(bytes, 0, file.variablesEnd))
             problems.warn("The checksum of the header does not fit.");
-        file.variablesEnd -= std::min(file.variablesEnd, checksumSize);
+        file.variablesEnd -= std::min(file.variablesEnd, earlyChecksumSize);
     }
     for (std::size_t i = 0; i < file.tables.size(); ++i) {
         const EarlyTableHead &head = earlyTableHeads[i];
-        if (release >= head.first && head.at + tableHeadSize <= file.variablesEnd)
+        if (release >= head.first && head.at + earlyTableHeadSize <= file.variablesEnd)
             file.tables[i] = earlyTableAt(bytes, head.at, problems);
     }
     return file;

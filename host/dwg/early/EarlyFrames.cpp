@@ -5,9 +5,9 @@ namespace host::dwg {
 namespace {
 
 /// Type, flags and length.
-constexpr std::size_t recordHeadSize = 4;
+constexpr std::size_t earlyHeadSize = 4;
 /// What all records have, jumps as well.
-constexpr std::size_t leastRecordSize = 8;
+constexpr std::size_t leastEarlyRecord = 8;
 
 } // namespace
 
@@ -54,7 +54,7 @@ std::optional<EarlyFrame> EarlyFrames::at(std::size_t place) const
     frame.begin = place;
     frame.end = place + reader.raw16();
     frame.next = frame.isJump() ? placeOf(reader.raw32()) : frame.end;
-    if (frame.end - place < leastRecordSize || frame.end > section->end)
+    if (frame.end - place < leastEarlyRecord || frame.end > section->end)
         return std::nullopt;
     return frame;
 }
@@ -89,7 +89,7 @@ std::optional<std::size_t> EarlyFrames::findBehind(std::size_t place,
 BitReader EarlyFrames::valuesOf(const EarlyFrame &frame) const
 {
     const std::size_t end = frame.end - (m_file.isChecked() ? 2 : 0);
-    return {m_file.bytes, (frame.begin + recordHeadSize) * 8, end * 8};
+    return {m_file.bytes, (frame.begin + earlyHeadSize) * 8, end * 8};
 }
 
 bool EarlyFrames::fitsChecksum(const EarlyFrame &frame) const

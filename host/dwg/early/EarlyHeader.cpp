@@ -186,7 +186,7 @@ constexpr EarlyHeaderRow earlyHeaderRows[] = {
 };
 
 /// Texts fill what is left of their places with zeros; the longest is that of names of blocks.
-constexpr std::size_t textSize(std::string_view name)
+constexpr std::size_t earlyTextSize(std::string_view name)
 {
     if (name == "$MENU")
         return 15;
@@ -226,7 +226,7 @@ public:
             f.rawPoint(row.code);
             return;
         case EarlyKind::Text:
-            f.note(row.code, takeEarlyName(f.values(), textSize(row.name)));
+            f.note(row.code, takeEarlyName(f.values(), earlyTextSize(row.name)));
             return;
         case EarlyKind::Date: {
             constexpr double millisecondsOfADay = 86400000.0;

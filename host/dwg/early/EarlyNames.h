@@ -5,6 +5,19 @@
 
 namespace host::dwg {
 
+/// A record of a table.
+struct EarlyTableRecord
+{
+    int flags = 0; ///< as the text form has them
+    std::string name;
+    BitReader body; ///< what the table's records have of their own
+
+    bool isDeleted() const { return (flags & 0x80) != 0; }
+};
+
+/// The record at the place in the table, which must be one of its `count`.
+EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table, std::size_t index);
+
 /// What records refer to by its place in a table, and drawings in text form by name. A place that a table does not have
 /// gives an empty name.
 class EarlyNames
@@ -36,8 +49,5 @@ struct EarlyBlock
 
 /// The blocks of the file in the order of their table, without deleted ones.
 std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames &names);
-
-/// Adds the section TABLES to `text`: all tables that the release has, in the order of the text form.
-void writeEarlyTables(const EarlyFile &file, const EarlyNames &names, std::string &text, Problems &problems);
 
 } // namespace host::dwg

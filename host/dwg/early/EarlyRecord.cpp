@@ -25,7 +25,7 @@ enum EarlyFurtherFlag
     earlyPaperSpace = 0x04
 };
 
-bool hasFlag(int flags, int flag)
+bool hasEarlyFlag(int flags, int flag)
 {
     return (flags & flag) != 0;
 }
@@ -38,15 +38,15 @@ void EarlyRecord::begin(const EarlyType &type, BitReader record, int flags, Earl
     f.note(0, type.name);
     m_form = form;
     m_doubt = nullptr;
-    m_isFlattened = type.isFlattened && hasFlag(flags, earlyElevation) && isSpatial();
+    m_isFlattened = type.isFlattened && hasEarlyFlag(flags, earlyElevation) && isSpatial();
     m_layer = f.values().raw16();
     m_options = f.values().raw16();
-    m_colour = hasFlag(flags, earlyColour) ? takeByte() : 0;
-    const int further = hasFlag(flags, earlyFurtherFlags) ? takeByte() : 0;
-    takeExtendedData(hasFlag(further, earlyExtendedData));
+    m_colour = hasEarlyFlag(flags, earlyColour) ? takeByte() : 0;
+    const int further = hasEarlyFlag(flags, earlyFurtherFlags) ? takeByte() : 0;
+    takeExtendedData(hasEarlyFlag(further, earlyExtendedData));
     takePlace(flags);
     // The viewport that it is in.
-    m_isInPaperSpace = hasFlag(further, earlyPaperSpace);
+    m_isInPaperSpace = hasEarlyFlag(further, earlyPaperSpace);
     if (m_isInPaperSpace)
         takeNumber();
     noteHead(flags);
@@ -54,7 +54,7 @@ void EarlyRecord::begin(const EarlyType &type, BitReader record, int flags, Earl
 
 bool EarlyRecord::hasList(int flags)
 {
-    return hasFlag(flags, earlyFollowers);
+    return hasEarlyFlag(flags, earlyFollowers);
 }
 
 void EarlyRecord::takeExtendedData(bool isThere)
@@ -71,27 +71,27 @@ void EarlyRecord::takeExtendedData(bool isThere)
 void EarlyRecord::takePlace(int flags)
 {
     BitReader &values = f.values();
-    if (hasFlag(flags, earlyLinetype))
+    if (hasEarlyFlag(flags, earlyLinetype))
         m_linetype = m_form.hasWideLinetypes ? values.raw16() : values.byte();
-    m_elevation = hasFlag(flags, earlyElevation) && !m_isFlattened ? values.rawReal() : 0.0;
-    m_thickness = hasFlag(flags, earlyThickness) ? values.rawReal() : 0.0;
-    m_handle = hasFlag(flags, earlyHandle) ? takeEarlyHandle(values, values.byte()) : 0;
+    m_elevation = hasEarlyFlag(flags, earlyElevation) && !m_isFlattened ? values.rawReal() : 0.0;
+    m_thickness = hasEarlyFlag(flags, earlyThickness) ? values.rawReal() : 0.0;
+    m_handle = hasEarlyFlag(flags, earlyHandle) ? takeEarlyHandle(values, values.byte()) : 0;
 }
 
 void EarlyRecord::noteHead(int flags)
 {
-    if (hasFlag(flags, earlyHandle))
+    if (hasEarlyFlag(flags, earlyHandle))
         f.noteHandle(5, m_handle);
     f.note(8, m_names.name(EarlyTableKind::Layers, static_cast<std::size_t>(m_layer)));
-    if (hasFlag(flags, earlyLinetype))
+    if (hasEarlyFlag(flags, earlyLinetype))
         f.note(6, m_names.linetype(static_cast<std::size_t>(m_linetype)));
-    if (hasFlag(flags, earlyElevation) && !isSpatial())
+    if (hasEarlyFlag(flags, earlyElevation) && !isSpatial())
         f.note(38, m_elevation);
-    if (hasFlag(flags, earlyThickness))
+    if (hasEarlyFlag(flags, earlyThickness))
         f.note(39, m_thickness);
-    if (hasFlag(flags, earlyColour))
+    if (hasEarlyFlag(flags, earlyColour))
         f.note(62, m_colour);
-    if (hasFlag(flags, earlyFollowers))
+    if (hasEarlyFlag(flags, earlyFollowers))
         f.note(66, 1);
     if (m_isInPaperSpace)
         f.note(67, 1);

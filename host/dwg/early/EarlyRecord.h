@@ -42,7 +42,6 @@ public:
     static bool hasList(int flags);
     bool has(unsigned option) const { return (m_options & option) != 0; }
     bool isSpatial() const { return f.since(Release::R10); }
-    bool isFlattened() const { return m_isFlattened; }
     EarlyForm form() const { return m_form; }
     /// Bytes that no one took yet.
     std::size_t left() const { return f.values().left() / 8; }
@@ -77,7 +76,6 @@ public:
     std::uint64_t handle() const { return m_handle; }
 
     Fields &fields() { return f; }
-    const EarlyNames &names() const { return m_names; }
     /// What could not be understood in the entity, apart from damage; null where nothing.
     const char *doubt() const { return m_doubt; }
     void setDoubt(const char *doubt) { m_doubt = doubt; }

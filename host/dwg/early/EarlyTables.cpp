@@ -1,37 +1,8 @@
-#include "host/dwg/early/EarlyNames.h"
-
-#include <algorithm>
+#include "host/dwg/early/EarlyTables.h"
 
 namespace host::dwg {
 
 namespace {
-
-constexpr std::size_t nameSize = 32;
-constexpr int deletedFlag = 0x80;
-
-/// A record's part that all tables have; what is left of `body` is the table's own.
-struct EarlyTableRecord
-{
-    int flags = 0;
-    std::string name;
-    BitReader body;
-
-    bool isDeleted() const { return (flags & deletedFlag) != 0; }
-};
-
-EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table, std::size_t index)
-{
-    const std::size_t begin = table.at + index * table.recordSize;
-    const std::size_t checksum = file.isChecked() ? 2 : 0;
-    const std::size_t end = begin + table.recordSize - std::min(table.recordSize, checksum);
-    EarlyTableRecord record;
-    record.body = BitReader(file.bytes, begin * 8, end * 8);
-    record.flags = record.body.byte();
-    record.name = takeEarlyName(record.body, nameSize);
-    if (file.isChecked())
-        record.body.raw16();
-    return record;
-}
 
 /// The own fields of a table's records.
 struct EarlyTableFields
@@ -255,66 +226,6 @@ private:
 };
 
 } // namespace
-
-std::string takeEarlyName(BitReader &reader, std::size_t size)
-{
-    std::string name = reader.rawBytes(size);
-    name.resize(std::min(name.size(), name.find('\0')));
-    return name;
-}
-
-std::uint64_t takeEarlyHandle(BitReader &reader, int bytes)
-{
-    constexpr int mostBytes = 8;
-    if (bytes > mostBytes)
-        reader.fail();
-    std::uint64_t number = 0;
-    for (int i = 0; i < bytes && !reader.hasFailed(); ++i)
-        number = number << 8 | reader.byte();
-    return number;
-}
-
-EarlyNames::EarlyNames(const EarlyFile &file)
-{
-    for (std::size_t kind = 0; kind < m_names.size(); ++kind) {
-        const EarlyTable &table = file.tables[kind];
-        for (std::size_t i = 0; i < table.count; ++i) {
-            std::string name = earlyTableRecord(file, table, i).name;
-            // Files have the names of anonymous blocks without the number that tells them apart.
-            if (kind == static_cast<std::size_t>(EarlyTableKind::Blocks) && name.size() == 2 && name[0] == '*')
-                name += std::to_string(i);
-            m_names[kind].push_back(std::move(name));
-        }
-    }
-}
-
-std::string_view EarlyNames::name(EarlyTableKind kind, std::size_t index) const
-{
-    const auto &names = m_names[static_cast<std::size_t>(kind)];
-    return index < names.size() ? std::string_view(names[index]) : std::string_view();
-}
-
-std::string_view EarlyNames::linetype(std::size_t index) const
-{
-    const auto &names = m_names[static_cast<std::size_t>(EarlyTableKind::Linetypes)];
-    if (index < names.size())
-        return names[index];
-    // 32767 and 32766 from R11 on, before 256 (which entities have as no linetype at all) and 255.
-    return index == 0x7ffe || index == 0xff ? "BYBLOCK" : "BYLAYER";
-}
-
-std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames &names)
-{
-    std::vector<EarlyBlock> blocks;
-    const EarlyTable &table = file.table(EarlyTableKind::Blocks);
-    for (std::size_t i = 0; i < table.count; ++i) {
-        EarlyTableRecord record = earlyTableRecord(file, table, i);
-        const std::uint32_t address = record.body.raw32();
-        if (!record.isDeleted() && !record.body.hasFailed())
-            blocks.push_back({std::string(names.name(EarlyTableKind::Blocks, i)), record.flags, address});
-    }
-    return blocks;
-}
 
 void writeEarlyTables(const EarlyFile &file, const EarlyNames &names, std::string &text, Problems &problems)
 {
