@@ -18,7 +18,7 @@ class TagLines
 {
 public:
     /// Takes all tags back; keeps their room. Tags that would make the lines longer than `most` bytes are left out.
-    void clear(std::size_t most);
+    void clear(std::size_t most = ~std::size_t(0));
     /// Whether tags were left out.
     bool isFull() const { return m_isFull; }
 
