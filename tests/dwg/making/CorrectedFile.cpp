@@ -151,7 +151,7 @@ private:
         const std::size_t pageCount = (section.bytes.size() + section.pageSize - 1) / section.pageSize;
         constexpr std::uint64_t withCorrection = 4;
         for (const std::uint64_t number :
-             {std::uint64_t(section.bytes.size()), std::uint64_t(section.pageSize), std::uint64_t(0), std::uint64_t(0),
+             {section.toldSize(), std::uint64_t(section.pageSize), std::uint64_t(0), std::uint64_t(0),
               std::uint64_t(2 * name.size() + 2), std::uint64_t(0), withCorrection, std::uint64_t(pageCount)})
             description.raw64(number);
         for (const char16_t unit : name)

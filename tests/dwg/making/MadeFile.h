@@ -31,7 +31,10 @@ struct MadeSection
     FileBytes bytes;
     std::uint32_t pageSize = 0x400;
     bool isPacked = true;
-    bool isTight = false; ///< with what repeats told once, as other programs pack
+    bool isTight = false;          ///< with what repeats told once, as other programs pack
+    std::uint64_t claimedSize = 0; ///< what the map says instead of the size, where it is not 0
+
+    std::uint64_t toldSize() const { return claimedSize != 0 ? claimedSize : bytes.size(); }
 };
 
 /// The file with these parts, in the container of their release: a table of sections up to R2000, pages later.

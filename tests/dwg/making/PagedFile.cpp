@@ -58,7 +58,7 @@ private:
     void writeSection(const MadeSection &section, std::uint32_t number, BitWriter &description)
     {
         const std::size_t pageCount = (section.bytes.size() + section.pageSize - 1) / section.pageSize;
-        description.raw64(section.bytes.size());
+        description.raw64(section.toldSize());
         description.raw32(static_cast<std::uint32_t>(pageCount));
         description.raw32(section.pageSize);
         description.raw32(1);
