@@ -925,6 +925,7 @@ TEST_F(MainWindowTest, DwgFilesOpenWithWhatCouldNotBeReadAboveThem)
     const QByteArray file = dwgFile(2, 1);
     window->start({write(u"hurt.dwg"_s, file)});
     EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(window->document()->claim().change(), kernel::FileChange::None);
     EXPECT_EQ(bar->findChild<QLabel *>(u"lossText"_s)->text(), u"hurt.dwg: 1 object could not be read."_s);
     auto *list = bar->findChild<QListWidget *>(u"lossList"_s);
     EXPECT_FALSE(list->isVisible());

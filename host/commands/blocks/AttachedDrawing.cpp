@@ -1,5 +1,6 @@
 #include "host/commands/blocks/AttachedDrawing.h"
 
+#include "host/commands/common/InputFile.h"
 #include "host/drawing/editing/ExternalReferences.h"
 #include "host/drawing/records/FileIndexer.h"
 #include "host/drawing/records/HeaderVariables.h"
@@ -105,7 +106,7 @@ void bindNew(Binding &binding, const QSet<RecordId> &before, const FileFinder &f
 
 void bindOne(Binding &binding, const Block &block, const QString &path, const FileFinder &find)
 {
-    const drawing::ReadResult source = Drawing::open(path);
+    const drawing::ReadResult source = openSource(binding.context, path);
     if (!source)
         return binding.context.fail(u"%1: %2"_s.arg(path, source.error.message()));
     Drawing &drawing = binding.context.drawing();
@@ -160,7 +161,7 @@ QString fileOfReference(CommandContext &context, const Block &block)
 
 std::unique_ptr<Drawing> readAttached(CommandContext &context, const QString &path)
 {
-    drawing::ReadResult result = Drawing::open(path);
+    drawing::ReadResult result = openSource(context, path);
     if (!result)
         context.print(u"\n%1: %2"_s.arg(path, result.error.message()));
     return std::move(result.drawing);

@@ -2,6 +2,7 @@
 #include "host/commands/blocks/AttributeDefinitions.h"
 #include "host/commands/blocks/InsertPlacement.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/InputFile.h"
 #include "host/drawing/editing/CopyBetweenDrawings.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/records/Blocks.h"
@@ -35,7 +36,7 @@ struct Wanted
 /// Makes the drawing file at `path` a block, as `name`. Empty when all went well, else the reason.
 QString readBlock(CommandContext &context, const QString &name, const QString &path)
 {
-    const drawing::ReadResult source = drawing::Drawing::open(path);
+    const drawing::ReadResult source = openSource(context, path);
     if (!source)
         return u"%1: %2"_s.arg(path, source.error.message());
     const drawing::CopyResult made = drawing::insertAsBlock(*source.drawing, context.drawing(), name);

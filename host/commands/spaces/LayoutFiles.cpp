@@ -1,5 +1,6 @@
 #include "host/commands/spaces/LayoutFiles.h"
 
+#include "host/commands/common/InputFile.h"
 #include "host/commands/common/OutputFile.h"
 #include "host/drawing/editing/LayoutEdits.h"
 #include "host/drawing/editing/SheetMerge.h"
@@ -68,7 +69,7 @@ Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
         context.fail(Commands::tr("Cannot find file \"%1\".").arg(file.text.trimmed()));
         co_return false;
     }
-    const drawing::ReadResult source = drawing::Drawing::open(path);
+    const drawing::ReadResult source = openSource(context, path);
     if (!source) {
         context.fail(drawing::openingError(path, source));
         co_return false;

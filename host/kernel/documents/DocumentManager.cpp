@@ -97,7 +97,7 @@ QStringList DocumentManager::tellLost(Document &document)
     if (!notes.hasFaults())
         return {};
     const QStringList told = QStringList(notes.summary()) + notes.faults(longestTelling);
-    document.print(u'\n' + told.join(u'\n') + u'\n');
+    document.print(QStringLiteral("\n%1: %2\n").arg(document.title(), told.join(u'\n')));
     return told;
 }
 
@@ -132,7 +132,8 @@ OpenOutcome DocumentManager::createFrom(const QString &path)
     if (!read)
         return {nullptr, drawing::openingError(path, read)};
     read.drawing->setPath({});
-    return {add(std::move(read.drawing), {}), {}};
+    Document *document = add(std::move(read.drawing), {});
+    return {.document = document, .error = {}, .lost = tellLost(*document)};
 }
 
 Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim, const QString &name)

@@ -23,8 +23,12 @@ DrawingClaim::DrawingClaim(const QString &path, OpenMode mode)
 
 void DrawingClaim::setContent(const drawing::Drawing &drawing)
 {
-    // What a DWG file came to is not what is in it, and it is never written.
-    if (m_stamp && !drawing.isFromDwg())
+    if (!m_stamp)
+        return;
+    // What a DWG file came to is not what is in it.
+    if (drawing.isFromDwg())
+        m_stamp->setContentOf(m_file);
+    else
         m_stamp->setContent(drawing);
 }
 

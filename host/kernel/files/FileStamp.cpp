@@ -166,6 +166,17 @@ void FileStamp::setContent(const drawing::Drawing &drawing)
     m_size = size;
 }
 
+void FileStamp::setContentOf(const QString &path)
+{
+    constexpr qint64 sizeOfNone = -1;
+    const std::optional<quint64> content = contentSum(path);
+    const std::optional<FileStamp> now = of(path);
+    const bool isSame =
+        content && now && now->m_identity == m_identity && now->m_time == m_time && now->m_size == m_size;
+    m_content = content.value_or(0);
+    m_size = isSame ? m_size : sizeOfNone;
+}
+
 FileChange FileStamp::changeOf(const QString &path) const
 {
     const std::optional<FileStamp> now = of(path);

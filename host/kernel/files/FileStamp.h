@@ -47,6 +47,9 @@ public:
     static std::optional<FileStamp> of(const QString &path);
     /// The content that was read from the file, or written to it.
     void setContent(const drawing::Drawing &drawing);
+    /// The content as it is in the file, which is read once more: for a drawing that is not the bytes of its file. A
+    /// file that has changed since the look counts as changed.
+    void setContentOf(const QString &path);
 
     // For a later run of the program. Values that are missing or wrong make a stamp that no file fits.
     QJsonObject toJson() const;
