@@ -2,7 +2,7 @@
 
 #include "host/dwg/objects/TableTypes.h"
 
-#include <cstdlib>
+#include <charconv>
 
 namespace host::dwg {
 
@@ -19,8 +19,9 @@ struct ArrowSize
 
     void set(int code, std::string_view value)
     {
+        // Programs have locales with other points in their numbers.
         if (code == scaleCode || code == arrowCode)
-            (code == scaleCode ? scale : arrow) = std::strtod(std::string(value).c_str(), nullptr);
+            std::from_chars(value.data(), value.data() + value.size(), code == scaleCode ? scale : arrow);
     }
 };
 
@@ -39,7 +40,7 @@ void readOwn(const ObjectHead &head, Fields &fields, ArrowSize &size)
         if (code == text || code == application)
             isOwn = code == text && value == "DSTYLE";
         else if (isOwn && code == number)
-            variable = std::atoi(std::string(value).c_str());
+            std::from_chars(value.data(), value.data() + value.size(), variable);
         else if (isOwn && code == real)
             size.set(variable, value);
     });
