@@ -1,4 +1,4 @@
-// Any bytes as a packed page of up to 64 KB, in both ways of packing: nothing is written beyond the page, and nothing
+// Any bytes as a packed page of up to 4 KB, in both ways of packing: nothing is written beyond the page, and nothing
 // in front of its own bytes is taken.
 
 #include "fuzz/Require.h"
@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
 {
     if (size < 3)
         return 0;
-    std::vector<std::uint8_t> page(data[1] | static_cast<size_t>(data[2]) << 8, 0xa5);
+    std::vector<std::uint8_t> page((data[1] | static_cast<size_t>(data[2]) << 8) % 0x1001, 0xa5);
     std::vector<std::uint8_t> again(page.size(), 0x5a);
     const auto unpack = data[0] % 2 == 0 ? host::dwg::unpackPage : host::dwg::unpackPage2007;
     const host::dwg::Bytes packed(data + 3, size - 3);
