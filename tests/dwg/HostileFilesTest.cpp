@@ -1,6 +1,7 @@
 // Files that are cut off, changed or made up. Nothing of them may crash, hang or grow; what is lost is told.
 
 #include "host/dwg/container/Container.h"
+#include "host/dwg/container/Pages.h"
 #include "host/dwg/drawing/DrawingText.h"
 #include "tests/dwg/making/ReadBack.h"
 
@@ -176,6 +177,33 @@ File oneObjectForAll()
     return pagedFile(Release::R2004, sections);
 }
 
+/// A page of two megabytes which the map of sections has ten thousand times.
+File onePageForAll()
+{
+    return withSections(Release::R2010, [](auto &sections) {
+        sections[3].bytes.resize(2 << 20);
+        sections[3].pageSize = 2 << 20;
+        sections[3].repeat = 10000;
+    });
+}
+
+/// A file in which pages begin at each place where one can, and go on to its end.
+File pagesInPages()
+{
+    File file = MadeDrawing(Release::R2004).file();
+    file[0x80] ^= 1;
+    file.resize(4 << 20);
+    for (std::size_t at = 0x100; at + pageUnit < file.size(); at += pageUnit) {
+        BitWriter head;
+        const std::size_t size = file.size() - at - 0x14;
+        for (const std::size_t number :
+             {static_cast<std::size_t>(MapType::Sections), std::size_t(1000), size, std::size_t(2), size})
+            head.raw32(static_cast<std::uint32_t>(number));
+        std::ranges::copy(head.bytes(), file.begin() + static_cast<std::ptrdiff_t>(at));
+    }
+    return file;
+}
+
 /// A dictionary in itself, which is its own extension dictionary, reactor and owner.
 File dictionaryOfItself()
 {
@@ -246,6 +274,8 @@ const HostileRow hostileRows[] = {
     {"a header of two gigabytes", hugeHeader, "The header of the file cannot be read."},
     {"names as long as can be", longNames, "The file makes more records than it can have."},
     {"one place for all objects", oneObjectForAll, "There is no object at its place."},
+    {"one page for all parts of a section", onePageForAll, "A page of the section AcDb:AcDbObjects cannot be read."},
+    {"pages in pages", pagesInPages, "The map of the file's sections cannot be read."},
     {"a dictionary of itself", dictionaryOfItself, ""},
     {"a chain of dictionaries", chainOfDictionaries, ""},
     {"a ring of entities", ringOfEntities, "There is no object at its place."},

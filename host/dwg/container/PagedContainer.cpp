@@ -80,6 +80,11 @@ public:
     }
 
 private:
+    /// The number of a section, and where in it a page begins.
+    using PagePart = std::pair<std::uint32_t, std::uint64_t>;
+
+    static PagePart partOf(const DataPage &page) { return {page.section, page.start}; }
+
     /// The header in front, else its copy at the end of the file.
     PlainHeader findHeader()
     {
@@ -196,24 +201,23 @@ private:
     /// The page where the map has it; else where its head is found; else where the map has it, whatever its head says.
     std::optional<Bytes> packedPage(const SectionDescription &section, const SectionPage &page)
     {
-        const auto isMeant = [&](const DataPage &one) {
-            return one.isHeadChecked && one.section == section.number && one.start == page.start;
-        };
+        const PagePart part(section.number, page.start);
         const auto found = m_places.find(page.page);
         auto data = found != m_places.end() ? dataPageAt(m_file, found->second) : std::nullopt;
-        if (!data || !isMeant(*data)) {
-            const std::vector<DataPage> &pages = foundPages();
-            const auto other = std::find_if(pages.begin(), pages.end(), isMeant);
-            if (other != pages.end()) {
-                data = *other;
+        if (!data || !data->isHeadChecked || partOf(*data) != part) {
+            const auto other = foundPages().find(part);
+            if (other != foundPages().end()) {
+                data = other->second;
             } else if (found != m_places.end()) {
                 m_problems.warn("The head of a page of the section " + section.name + " is damaged.");
                 return bytesBehindHead(found->second, page.packedSize);
             }
         }
-        if (data && !data->isChecked)
+        if (!data || !m_work.take(data->packed.size()))
+            return std::nullopt;
+        if (!data->isChecked())
             m_problems.warn("The checksum of a page of the section " + section.name + " does not fit.");
-        return data ? std::optional(data->packed) : std::nullopt;
+        return data->packed;
     }
 
     std::optional<Bytes> bytesBehindHead(std::uint64_t at, std::size_t size) const
@@ -223,19 +227,22 @@ private:
         return m_file.subspan(at + dataPageHead, size);
     }
 
-    const std::vector<DataPage> &foundPages()
+    const std::map<PagePart, DataPage> &foundPages()
     {
-        if (!m_found)
-            m_found = findDataPages(m_file);
+        if (!m_found) {
+            m_found.emplace();
+            for (const DataPage &page : findDataPages(m_file))
+                m_found->emplace(partOf(page), page);
+        }
         return *m_found;
     }
 
     Bytes m_file;
     Problems &m_problems;
-    std::map<std::int32_t, std::uint64_t> m_places; ///< of pages, by their numbers
-    std::optional<std::vector<DataPage>> m_found;   ///< once they had to be looked for
-    Growth m_room;                                  ///< for sections
-    Growth m_work;                                  ///< for pages, which a hostile file has again and again
+    std::map<std::int32_t, std::uint64_t> m_places;      ///< of pages, by their numbers
+    std::optional<std::map<PagePart, DataPage>> m_found; ///< once they had to be looked for
+    Growth m_room;                                       ///< for sections
+    Growth m_work;                                       ///< for pages, which a hostile file has again and again
 };
 
 } // namespace

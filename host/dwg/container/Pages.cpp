@@ -45,14 +45,18 @@ std::optional<DataPage> dataPageAt(Bytes file, std::uint64_t at)
     reader.raw32(); // room that it takes in the file
     page.start = reader.raw64();
     const std::uint32_t headChecksum = reader.raw32();
-    const std::uint32_t checksum = reader.raw32();
+    page.checksum = reader.raw32();
     if (!hasRoom(file, at + dataPageHead, size))
         return std::nullopt;
     page.packed = file.subspan(at + dataPageHead, size);
     std::fill_n(head.begin() + 24, 4, std::uint8_t(0));
-    page.isHeadChecked = pageChecksum(head, checksum) == headChecksum;
-    page.isChecked = pageChecksum(page.packed, 0) == checksum;
+    page.isHeadChecked = pageChecksum(head, page.checksum) == headChecksum;
     return page;
+}
+
+bool DataPage::isChecked() const
+{
+    return pageChecksum(packed, 0) == checksum;
 }
 
 std::optional<MapPage> mapPageAt(Bytes file, std::uint64_t at, MapType type)
@@ -98,7 +102,12 @@ std::vector<DataPage> findDataPages(Bytes file)
 std::optional<MapPage> findMapPage(Bytes file, MapType type)
 {
     std::optional<MapPage> found;
-    for (std::size_t at = pagesStart; at < file.size(); at += pageUnit) {
+    // A hostile file has a page that begins at each unit and goes on to the end.
+    int tries = 100;
+    for (std::size_t at = pagesStart; at < file.size() && tries > 0; at += pageUnit) {
+        if (BitReader(file, at * 8, file.size() * 8).raw32() != static_cast<std::uint32_t>(type))
+            continue;
+        --tries;
         auto page = mapPageAt(file, at, type);
         if (page && page->isChecked)
             found = std::move(page);

@@ -14,7 +14,10 @@ struct DataPage
     std::uint64_t start = 0;   ///< within the section
     Bytes packed;
     bool isHeadChecked = false; ///< the checksum of its head fits
-    bool isChecked = false;     ///< that of `packed`
+    std::uint32_t checksum = 0; ///< what that of `packed` should be
+
+    /// Looks at each byte.
+    bool isChecked() const;
 };
 
 /// A page that tells where pages or sections are, unpacked.
@@ -39,7 +42,8 @@ constexpr std::size_t dataPageHead = 0x20;
 std::optional<DataPage> dataPageAt(Bytes file, std::uint64_t at);
 std::optional<MapPage> mapPageAt(Bytes file, std::uint64_t at, MapType type);
 
-// Pages as they are found without a map, by looking at each place where one can be. Costs a look at each unit.
+// Pages as they are found without a map, by looking at each place where one can be. Costs a look at each unit, and at
+// each byte of a few pages.
 
 /// Those whose heads are whole.
 std::vector<DataPage> findDataPages(Bytes file);

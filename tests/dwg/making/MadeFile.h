@@ -33,6 +33,7 @@ struct MadeSection
     bool isPacked = true;
     bool isTight = false;          ///< with what repeats told once, as other programs pack
     std::uint64_t claimedSize = 0; ///< what the map says instead of the size, where it is not 0
+    std::size_t repeat = 1;        ///< how often the map has each page, in files but those of R2007
 
     std::uint64_t toldSize() const { return claimedSize != 0 ? claimedSize : bytes.size(); }
 };

@@ -59,7 +59,7 @@ private:
     {
         const std::size_t pageCount = (section.bytes.size() + section.pageSize - 1) / section.pageSize;
         description.raw64(section.toldSize());
-        description.raw32(static_cast<std::uint32_t>(pageCount));
+        description.raw32(static_cast<std::uint32_t>(pageCount * section.repeat));
         description.raw32(section.pageSize);
         description.raw32(1);
         description.raw32(section.isPacked ? 2 : 1);
@@ -70,9 +70,12 @@ private:
         description.rawBytes(name);
         for (std::size_t start = 0; start < section.bytes.size(); start += section.pageSize) {
             const FileBytes packed = contentOf(section, start);
-            description.raw32(static_cast<std::uint32_t>(addPage(dataPage(packed, section, number, start))));
-            description.raw32(static_cast<std::uint32_t>(packed.size()));
-            description.raw64(start);
+            const int page = addPage(dataPage(packed, section, number, start));
+            for (std::size_t i = 0; i < section.repeat; ++i) {
+                description.raw32(static_cast<std::uint32_t>(page));
+                description.raw32(static_cast<std::uint32_t>(packed.size()));
+                description.raw64(start);
+            }
         }
     }
 
