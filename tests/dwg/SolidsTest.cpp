@@ -335,6 +335,22 @@ TEST(DwgDataStore, RecordsAreReadWholeFromTheirPages)
     EXPECT_EQ(store.records[1].data, "12345678");
 }
 
+TEST(DwgDataStore, SchemasDoNotMultiply)
+{
+    StoreMaker maker = smallStore();
+    BitWriter schemas;
+    schemas.raw64(1000);
+    for (std::uint32_t i = 0; i < 1000; ++i) {
+        schemas.raw32(i);
+        schemas.raw32(SchemaData);
+        schemas.raw32(8);
+    }
+    maker.segments[SchemaTable].content = schemas;
+    Problems problems;
+    EXPECT_TRUE(storeOf(maker.bytes(SchemaTable, RecordTable), problems).schemas.empty());
+    EXPECT_EQ(problems.lostCount(), 1u);
+}
+
 TEST(DwgDataStore, DamageIsToldAndEndsNowhereElse)
 {
     const FileBytes whole = smallStore().bytes(SchemaTable, RecordTable);

@@ -9,6 +9,11 @@ namespace {
 
 constexpr std::size_t segmentHeadSize = 0x30;
 
+// Programs have fewer than half as many of each; more is damage, which could multiply.
+constexpr std::size_t mostSchemas = 64;
+constexpr std::size_t mostOfASchema = 16; ///< properties, and attributes of each
+constexpr std::size_t longestName = 255;
+
 int sizeOfType(int type)
 {
     constexpr std::array<int, 16> sizes = {0, 0, 2, 1, 2, 4, 8, 1, 2, 4, 8, 4, 8, 0, 0, 0};
@@ -105,6 +110,8 @@ private:
         const std::vector<std::string> names = namesIn(segment(index));
         BitReader reader = at(segment(index), 0);
         const std::uint64_t count = reader.raw64();
+        if (count > mostSchemas)
+            return false;
         for (std::uint64_t i = 0; i < count && !reader.hasFailed(); ++i) {
             DataStore::Schema schema;
             schema.number = static_cast<int>(reader.raw32());
@@ -112,7 +119,7 @@ private:
             const std::uint32_t offset = reader.raw32();
             if (reader.hasFailed() || !readSchema(place, offset, schema))
                 return false;
-            schema.name = i < names.size() ? names[i] : std::string();
+            schema.name = i < names.size() && names[i].size() <= longestName ? names[i] : std::string();
             store.schemas.push_back(std::move(schema));
         }
         return readAttributes(reader, store);
@@ -120,7 +127,10 @@ private:
 
     static std::vector<std::size_t> readNumbers(BitReader &reader)
     {
-        std::vector<std::size_t> numbers(std::min<std::size_t>(reader.raw16(), reader.left() / 64));
+        const std::size_t count = reader.raw16();
+        if (count > mostOfASchema)
+            reader.fail();
+        std::vector<std::size_t> numbers(reader.hasFailed() ? 0 : count);
         for (std::size_t &number : numbers)
             number = reader.raw64();
         return numbers;
@@ -131,8 +141,10 @@ private:
         const std::vector<std::string> names = namesIn(place);
         BitReader reader = at(place, offset);
         schema.attributes = readNumbers(reader);
-        const std::uint16_t count = reader.raw16();
-        for (std::uint16_t i = 0; i < count && !reader.hasFailed(); ++i) {
+        const std::size_t count = reader.raw16();
+        if (count > mostOfASchema)
+            return false;
+        for (std::size_t i = 0; i < count && !reader.hasFailed(); ++i) {
             constexpr std::uint32_t hasUsual = 8;
             constexpr std::uint32_t known = hasUsual;
             const std::uint32_t flags = reader.raw32();
@@ -140,7 +152,7 @@ private:
             DataStore::Property property;
             property.type = static_cast<int>(reader.raw32());
             property.size = sizeOfType(property.type);
-            if ((flags & ~known) != 0 || name >= names.size())
+            if ((flags & ~known) != 0 || name >= names.size() || names[name].size() > longestName)
                 return false;
             property.name = names[name];
             if ((flags & hasUsual) != 0) {

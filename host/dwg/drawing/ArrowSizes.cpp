@@ -12,22 +12,42 @@ namespace {
 constexpr int scaleCode = 40;
 constexpr int arrowCode = 41;
 
-struct ArrowSize
-{
-    double scale = 1.0;
-    double arrow = 0.18;
+} // namespace
 
-    void set(int code, std::string_view value)
-    {
-        // Programs have locales with other points in their numbers.
-        if (code == scaleCode || code == arrowCode)
-            std::from_chars(value.data(), value.data() + value.size(), code == scaleCode ? scale : arrow);
-    }
-};
+void ArrowSizes::Size::set(int code, std::string_view value)
+{
+    // Programs have locales with other points in their numbers.
+    if (code == scaleCode || code == arrowCode)
+        std::from_chars(value.data(), value.data() + value.size(), code == scaleCode ? scale : arrow);
+}
+
+double ArrowSizes::sizeOf(std::uint64_t style, const ObjectHead &head)
+{
+    auto found = m_styles.find(style);
+    if (found == m_styles.end())
+        found = m_styles.emplace(style, sizeOfStyle(style)).first;
+    Size size = found->second;
+    readOwn(head, size);
+    return size.scale * size.arrow;
+}
+
+ArrowSizes::Size ArrowSizes::sizeOfStyle(std::uint64_t style) const
+{
+    Size size;
+    const auto frame = m_objects.peek(style);
+    if (!frame || frame->type != dimensionStyleType)
+        return {0.0, 0.0};
+    Fields fields(m_objects.release(), m_names);
+    ObjectHead({}).read(*frame, false, fields);
+    typeByNumber(dimensionStyleType)->read(fields);
+    fields.forEachTag([&size](int code, std::string_view value) { size.set(code, value); });
+    return size;
+}
 
 /// What an object has instead of its style: group codes as numbers, each in front of its value.
-void readOwn(const ObjectHead &head, Fields &fields, ArrowSize &size)
+void ArrowSizes::readOwn(const ObjectHead &head, Size &size) const
 {
+    Fields fields(m_objects.release(), m_names);
     fields.start({}, {}, {});
     head.noteExtendedData(fields);
     bool isOwn = false;
@@ -44,22 +64,6 @@ void readOwn(const ObjectHead &head, Fields &fields, ArrowSize &size)
         else if (isOwn && code == real)
             size.set(variable, value);
     });
-}
-
-} // namespace
-
-double arrowSizeOf(const DrawingObjects &objects, const Names &names, const ObjectHead &head, std::uint64_t style)
-{
-    const auto frame = objects.peek(style);
-    if (!frame || frame->type != dimensionStyleType)
-        return 0.0;
-    Fields fields(objects.release(), names);
-    ArrowSize size;
-    ObjectHead({}).read(*frame, false, fields);
-    typeByNumber(dimensionStyleType)->read(fields);
-    fields.forEachTag([&size](int code, std::string_view value) { size.set(code, value); });
-    readOwn(head, fields, size);
-    return size.scale * size.arrow;
 }
 
 } // namespace host::dwg

@@ -14,19 +14,18 @@ void noteAttributes(const DataStore &store, const std::vector<std::size_t> &attr
         const DataStore::Attribute attribute =
             index < store.attributes.size() ? store.attributes[index] : DataStore::Attribute();
         const DataStore::Schema *schema = store.schemaOf(attribute.schema);
-        if (!schema)
+        if (!schema || schema->properties.empty())
             continue;
         f.note(101, "ACDSRECORD");
         f.note(ownerCode, owner);
         f.note(90, attribute.schema);
-        for (const DataStore::Property &property : schema->properties) {
-            f.note(2, property.name);
-            f.note(280, property.type);
-            if (property.type == flagProperty)
-                f.note(291, attribute.isSet);
-            else if (property.type == byteProperty)
-                f.note(282, property.usual.value_or(0));
-        }
+        const DataStore::Property &property = schema->properties.front();
+        f.note(2, property.name);
+        f.note(280, property.type);
+        if (property.type == flagProperty)
+            f.note(291, attribute.isSet);
+        else if (property.type == byteProperty)
+            f.note(282, property.usual.value_or(0));
     }
 }
 

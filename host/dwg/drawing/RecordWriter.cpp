@@ -1,6 +1,5 @@
 #include "host/dwg/drawing/RecordWriter.h"
 
-#include "host/dwg/drawing/ArrowSizes.h"
 #include "host/dwg/objects/ParagraphTypes.h"
 #include "host/dwg/objects/ProxyTypes.h"
 
@@ -42,22 +41,28 @@ std::string tagLines(int code, std::string_view value)
 }
 
 RecordWriter::RecordWriter(DrawingObjects &objects, std::string &text)
-    : m_objects(objects), m_text(text), m_fields(objects.release(), m_names), m_head({})
+    : m_objects(objects), m_text(text), m_fields(objects.release(), m_names), m_head({}), m_arrowSizes(objects, m_names)
 {
     m_fields.setAskSize([this](std::uint64_t handle) { return sizeOfText(handle); });
-    m_fields.setAskArrowSize([this](std::uint64_t style) { return arrowSizeOf(m_objects, m_names, m_head, style); });
+    m_fields.setAskArrowSize([this](std::uint64_t style) { return m_arrowSizes.sizeOf(style, m_head); });
 }
 
-std::optional<TextSize> RecordWriter::sizeOfText(std::uint64_t handle) const
+std::optional<TextSize> RecordWriter::sizeOfText(std::uint64_t handle)
 {
     constexpr int paragraphsType = 0x2c;
+    const auto known = m_textSizes.find(handle);
+    if (known != m_textSizes.end())
+        return known->second;
+    std::optional<TextSize> &size = m_textSizes[handle];
     const auto frame = m_objects.peek(handle);
     if (!frame || frame->type != paragraphsType)
-        return std::nullopt;
+        return size;
     Fields fields(m_objects.release(), m_names);
     ObjectHead({}).read(*frame, true, fields);
-    const TextSize size = readParagraphSize(fields);
-    return fields.hasFailed() ? std::nullopt : std::optional(size);
+    const TextSize read = readParagraphSize(fields);
+    if (!fields.hasFailed())
+        size = read;
+    return size;
 }
 
 void RecordWriter::setSpaces(const ObjectHead::Spaces &spaces)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/dwg/drawing/ArrowSizes.h"
 #include "host/dwg/drawing/Companions.h"
 #include "host/dwg/drawing/DrawingObjects.h"
 
@@ -59,7 +60,7 @@ private:
     std::vector<std::size_t> readTextPlaces(const ObjectFrame &frame, bool isEntity);
     void noteOwned();
     bool writeUnlessFailed();
-    std::optional<TextSize> sizeOfText(std::uint64_t handle) const;
+    std::optional<TextSize> sizeOfText(std::uint64_t handle);
 
     DrawingObjects &m_objects;
     std::string &m_text;
@@ -67,6 +68,8 @@ private:
     Fields m_fields;
     ObjectHead::Spaces m_spaces;
     ObjectHead m_head;
+    ArrowSizes m_arrowSizes;
+    std::unordered_map<std::uint64_t, std::optional<TextSize>> m_textSizes; ///< as they were asked for
     Companions m_companions;
     std::vector<std::uint64_t> m_owned;
 };
