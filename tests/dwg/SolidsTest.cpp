@@ -98,8 +98,8 @@ struct ModelRow
 };
 
 const char *const noBinary =
-    "3DSOLID 40: The model has a binary form, which the text form of this release does not have.\n"
-    "REGION 41: The model has a binary form, which the text form of this release does not have.\n";
+    "3DSOLID 40: The model has a binary form; the text that this release has of it is not made of that.\n"
+    "REGION 41: The model has a binary form; the text that this release has of it is not made of that.\n";
 const std::string lines = "70 1|1 noi mi n o|1 =0;& {rn|";
 const std::string revision = "290 0|2 {01020304-0506-0708-6162-636465666768}|";
 

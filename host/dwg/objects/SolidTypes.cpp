@@ -133,7 +133,7 @@ void readGeometry(Fields &f)
         readModelText(f);
     } else if (!f.relations().hasStoredData) {
         readBinaryModel(f);
-        f.doubt("The model has a binary form, which the text form of this release does not have.");
+        f.doubt("The model has a binary form; the text that this release has of it is not made of that.");
     }
 }
 
