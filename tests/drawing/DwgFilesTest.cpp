@@ -14,6 +14,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
@@ -92,6 +94,25 @@ TEST(DwgFiles, TellWhatCouldNotBeRead)
     ASSERT_TRUE(recovered);
     EXPECT_EQ(recovered.report.dropped(), (QMap<QString, qint64>{{u"CIRCLE"_s, 1}}));
     EXPECT_EQ(recovered.drawing->entities().all().size(), std::size_t(circleCount));
+}
+
+TEST(DwgFiles, ListWhatIsLostInFront)
+{
+    using Kind = ReadingNote::Kind;
+    ReadingNotes notes{.lostCount = 1, .doubtfulCount = 2, .list = {}};
+    for (const auto &[kind, text] : {std::pair(Kind::Doubtful, u"a"_s), std::pair(Kind::Kept, u"b"_s),
+                                     std::pair(Kind::Doubtful, u"c"_s), std::pair(Kind::Lost, u"d"_s)})
+        notes.list.push_back({.kind = kind, .type = {}, .handle = {}, .text = text});
+    EXPECT_EQ(notes.faults(2), (QStringList{u"d"_s, u"a"_s, u"and 1 more"_s}));
+    EXPECT_EQ(notes.faults(3), (QStringList{u"d"_s, u"a"_s, u"c"_s}));
+}
+
+TEST(DwgFiles, AreNoPipesToWaitFor)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"pipe.dwg"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_FALSE(isDwgFile(path));
 }
 
 TEST(DwgFiles, ThatCannotBeReadAtAllAreRefused)

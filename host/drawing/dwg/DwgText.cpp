@@ -1,5 +1,6 @@
 #include "host/drawing/dwg/DwgText.h"
 
+#include "files/qt/Files.h"
 #include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/Tag.h"
 #include "host/dwg/drawing/DrawingText.h"
@@ -7,6 +8,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <limits>
 
 namespace host::drawing {
 
@@ -52,8 +54,9 @@ bool isDwg(QByteArrayView bytes)
 
 bool isDwgFile(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && isDwg(file.peek(dwgMarkSize));
+    QFile file;
+    const QString problem = files::openRegular(file, path, std::numeric_limits<qint64>::max());
+    return problem.isEmpty() && isDwg(file.peek(dwgMarkSize));
 }
 
 DwgText textOfDwg(QByteArrayView bytes)

@@ -19,7 +19,8 @@ struct DwgText
 /// Whether a file that begins so is a DWG file, of a release that is read here or of another.
 bool isDwg(QByteArrayView bytes);
 
-/// The same of a file that is there; false for what cannot be opened.
+/// The same of a file that is there; false for what cannot be opened, and for pipes and devices, which are not waited
+/// for.
 bool isDwgFile(const QString &path);
 
 /// Reads a DWG file of any release. Not trusted: anything may be in `bytes`. Takes time and memory within a multiple of

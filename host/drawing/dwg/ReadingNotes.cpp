@@ -25,9 +25,11 @@ QString ReadingNotes::summary() const
 QStringList ReadingNotes::faults(qsizetype limit) const
 {
     QStringList messages;
-    for (const ReadingNote &note : list) {
-        if (note.kind != ReadingNote::Kind::Kept && messages.size() < limit)
-            messages.append(note.message());
+    for (const auto kind : {ReadingNote::Kind::Lost, ReadingNote::Kind::Doubtful}) {
+        for (const ReadingNote &note : list) {
+            if (note.kind == kind && messages.size() < limit)
+                messages.append(note.message());
+        }
     }
     if (const qsizetype further = lostCount + doubtfulCount - messages.size(); further > 0)
         messages.append(DrawingTexts::tr("and %1 more").arg(further));

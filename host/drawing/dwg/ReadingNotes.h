@@ -38,7 +38,7 @@ struct ReadingNotes
     /// "2 objects could not be read", or that some of the file is not as expected where all could, in the language of
     /// the program; empty without a fault.
     QString summary() const;
-    /// The messages of the first `limit` faults, and how many there are beyond.
+    /// The messages of the first `limit` faults, those of what is lost in front, and how many there are beyond.
     QStringList faults(qsizetype limit) const;
 };
 
