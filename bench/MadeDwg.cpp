@@ -1,6 +1,7 @@
 #include "bench/MadeDwg.h"
 
 #include "host/dwg/objects/TableTypes.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 #include <cmath>
 
@@ -11,16 +12,6 @@ using host::dwg::Point;
 namespace bench {
 
 namespace {
-
-// Types by their numbers.
-constexpr int textType = 0x01;
-constexpr int beginType = 0x04;
-constexpr int endType = 0x05;
-constexpr int insertType = 0x07;
-constexpr int circleType = 0x12;
-constexpr int lineType = 0x13;
-constexpr int placeholderType = 0x50;
-constexpr int lightPolylineType = 0x4d;
 
 /// A place that has all digits, as measured ones have.
 Point placeOf(int i)
@@ -62,13 +53,13 @@ void addEntity(MadeDrawing &drawing, int i)
 {
     switch (i % 3) {
     case 0:
-        drawing.addEntity(lineType, [i](ObjectWriter &o) { writeLine(o, placeOf(i), placeOf(i + 1)); });
+        drawing.addEntity(LineType, [i](ObjectWriter &o) { writeLine(o, placeOf(i), placeOf(i + 1)); });
         return;
     case 1:
-        drawing.addEntity(circleType, [i](ObjectWriter &o) { writeCircle(o, placeOf(i), 0.25 + i % 7); });
+        drawing.addEntity(CircleType, [i](ObjectWriter &o) { writeCircle(o, placeOf(i), 0.25 + i % 7); });
         return;
     default:
-        drawing.addEntity(textType, [i](ObjectWriter &o) {
+        drawing.addEntity(TextType, [i](ObjectWriter &o) {
             writeText(o, i % 1000 * 1.25, i / 1000 * 0.75, "Room " + std::to_string(i));
         });
     }
@@ -157,7 +148,7 @@ FileBytes largeDictionary(Release release, int count)
 {
     MadeDrawing drawing(release);
     for (int i = 0; i < count; ++i)
-        drawing.addObject(placeholderType, "ENTRY_" + std::to_string(i), nullptr);
+        drawing.addObject(PlaceholderType, "ENTRY_" + std::to_string(i), nullptr);
     return fileOf(drawing);
 }
 
@@ -167,18 +158,18 @@ FileBytes manyInserts(Release release, int count)
     std::vector<std::uint64_t> inserts;
     const std::uint64_t block = drawing.nextHandle();
     drawing.addEntry(host::dwg::blockType, [&](ObjectWriter &o) { writeEmptyBlock(o, block, inserts); });
-    drawing.addPart(beginType, block, [](ObjectWriter &o) { o.text("SHOWN"); });
-    drawing.addPart(endType, block, nullptr);
+    drawing.addPart(BeginType, block, [](ObjectWriter &o) { o.text("SHOWN"); });
+    drawing.addPart(EndType, block, nullptr);
     for (int i = 0; i < count; ++i)
         inserts.push_back(
-            drawing.addEntity(insertType, [i, block](ObjectWriter &o) { writeInsert(o, placeOf(i), block); }));
+            drawing.addEntity(InsertType, [i, block](ObjectWriter &o) { writeInsert(o, placeOf(i), block); }));
     return fileOf(drawing);
 }
 
 FileBytes longPolyline(Release release, int count)
 {
     MadeDrawing drawing(release);
-    drawing.addEntity(lightPolylineType, [count](ObjectWriter &o) { writeCorners(o, count); });
+    drawing.addEntity(LightPolylineType, [count](ObjectWriter &o) { writeCorners(o, count); });
     return fileOf(drawing);
 }
 

@@ -10,6 +10,7 @@
 #include "tests/drawing/DrawingSample.h"
 #include "tests/dwg/making/Circles.h"
 #include "tests/dwg/making/MadeDrawing.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -26,7 +27,6 @@ using dwg::Release;
 using dwg::test::MadeDrawing;
 using dwg::test::ObjectWriter;
 
-constexpr int xrecordType = 0x4f;
 constexpr quint64 firstCircle = dwg::test::MadeHandles::First;
 constexpr int circleCount = 3;
 
@@ -132,7 +132,7 @@ TEST(DwgFiles, GiveTheirRecordsAndTakeNone)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"timed.dwg"_s);
     MadeDrawing made(Release::R2000);
-    made.addObject(xrecordType, "TIMES", [](ObjectWriter &o) {
+    made.addObject(dwg::test::XrecordType, "TIMES", [](ObjectWriter &o) {
         o.int32(2 + 4); // bytes of one number of 32 bits under its code
         o.values().raw16(90);
         o.values().raw32(4711);

@@ -2,15 +2,13 @@
 // leave for themselves, dictionaries with gaps; and the order of objects in all releases.
 
 #include "tests/dwg/making/ReadBack.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 #include <gtest/gtest.h>
 
 namespace host::dwg::test {
 
 namespace {
-
-constexpr int dictionary = 0x2a;
-constexpr int extensionRecord = 0x4f;
 
 /// A dictionary's values, each entry with its kind of reference.
 MadeDrawing::Write dictionaryOf(std::vector<std::pair<std::string, std::uint64_t>> entries, int kind)
@@ -49,8 +47,6 @@ void writePoint(ObjectWriter &o)
     o.extrusion();
     o.real(0.0);
 }
-
-constexpr int pointType = 0x1b;
 
 std::uint64_t addLayer(MadeDrawing &drawing, const char *name, bool isOff)
 {
@@ -110,18 +106,18 @@ TEST(DwgOldReleases, LeaveOutWhatLaterProgramsKeepForThemselves)
 {
     for (const Release release : {Release::R13, Release::R14}) {
         MadeDrawing drawing(release);
-        const std::uint64_t point = drawing.addEntity(pointType, writePoint);
+        const std::uint64_t point = drawing.addEntity(PointType, writePoint);
         const std::uint64_t names = drawing.nextHandle();
         drawing.head(point).dictionary = drawing.addOwned(
-            dictionary, point, dictionaryOf({{"ACAD_XREC_ROUNDTRIP", names + 1}}, HandleReference::HardOwner));
-        drawing.addOwned(extensionRecord, names, recordOf("EXTNAMES"));
+            DictionaryType, point, dictionaryOf({{"ACAD_XREC_ROUNDTRIP", names + 1}}, HandleReference::HardOwner));
+        drawing.addOwned(XrecordType, names, recordOf("EXTNAMES"));
         const std::string weights("\0\6\0\0RTLwPs\x46\x9e\0", 13);
         drawing.head(point).extensions = {{MadeHandles::Application, weights}};
-        const std::uint64_t other = drawing.addEntity(pointType, writePoint);
+        const std::uint64_t other = drawing.addEntity(PointType, writePoint);
         const std::uint64_t solids = drawing.nextHandle();
         drawing.head(other).dictionary = drawing.addOwned(
-            dictionary, other, dictionaryOf({{"ACAD_XREC_ROUNDTRIP", solids + 1}}, HandleReference::HardOwner));
-        drawing.addOwned(extensionRecord, solids, recordOf("ACAD_SOLID_HIST"));
+            DictionaryType, other, dictionaryOf({{"ACAD_XREC_ROUNDTRIP", solids + 1}}, HandleReference::HardOwner));
+        drawing.addOwned(XrecordType, solids, recordOf("ACAD_SOLID_HIST"));
         drawing.head(other).extensions = {{MadeHandles::Application, std::string("\x46\1\0", 3) + weights}};
 
         const ReadBack read = readBack(drawing);
@@ -139,9 +135,9 @@ TEST(DwgOldReleases, LeaveOutRecordsAlone)
 {
     // Entities under such names stay, and so does the dictionary.
     MadeDrawing drawing(Release::R14);
-    const std::uint64_t point = drawing.addEntity(pointType, writePoint);
+    const std::uint64_t point = drawing.addEntity(PointType, writePoint);
     const std::uint64_t names = drawing.addObject(
-        dictionary, "D",
+        DictionaryType, "D",
         dictionaryOf({{"ACAD_XREC_ROUNDTRIP", point}, {"ACAD_LAYOUTSELFREF", point}}, HandleReference::SoftOwner));
     const ReadBack read = readBack(drawing);
     EXPECT_EQ(read.lastPart(names), "3 ACAD_LAYOUTSELFREF|350 40|3 ACAD_XREC_ROUNDTRIP|350 40|");
@@ -152,14 +148,14 @@ TEST(DwgOldReleases, HaveDictionariesWithGaps)
 {
     for (const Release release : {Release::R13, Release::R14, Release::R2000}) {
         MadeDrawing drawing(release);
-        const std::uint64_t table = drawing.addObject(dictionary, "D", [](ObjectWriter &o) {
+        const std::uint64_t table = drawing.addObject(DictionaryType, "D", [](ObjectWriter &o) {
             dictionaryOf({{"B", 0x42}, {"", 0}, {"A_", 0x43}, {"AB", 0x44}}, HandleReference::SoftOwner)(o);
         });
-        const std::uint64_t point = drawing.addEntity(pointType, writePoint);
+        const std::uint64_t point = drawing.addEntity(PointType, writePoint);
         for (int i = 0; i < 3; ++i)
-            drawing.addOwned(dictionary, table, dictionaryOf({}, HandleReference::SoftOwner));
+            drawing.addOwned(DictionaryType, table, dictionaryOf({}, HandleReference::SoftOwner));
         const std::uint64_t extension =
-            drawing.addOwned(dictionary, point, dictionaryOf({{"N", 0x42}}, HandleReference::HardOwner));
+            drawing.addOwned(DictionaryType, point, dictionaryOf({{"N", 0x42}}, HandleReference::HardOwner));
         drawing.head(point).dictionary = extension;
         const ReadBack read = readBack(drawing);
         const bool isSorted = release <= Release::R14;
@@ -175,14 +171,14 @@ TEST(DwgObjects, StandInTheOrderOfWhatOwnsThem)
 {
     for (const Release release : {Release::R13, Release::R2000, Release::R2010}) {
         MadeDrawing drawing(release);
-        const std::uint64_t inner =
-            drawing.addObject(dictionary, "D", dictionaryOf({{"Y", 0x45}, {"X", 0x44}}, HandleReference::SoftOwner));
-        drawing.addObject(dictionary, "E", dictionaryOf({}, HandleReference::SoftOwner));
-        const std::uint64_t point = drawing.addEntity(pointType, writePoint);
+        const std::uint64_t inner = drawing.addObject(
+            DictionaryType, "D", dictionaryOf({{"Y", 0x45}, {"X", 0x44}}, HandleReference::SoftOwner));
+        drawing.addObject(DictionaryType, "E", dictionaryOf({}, HandleReference::SoftOwner));
+        const std::uint64_t point = drawing.addEntity(PointType, writePoint);
         drawing.head(point).dictionary =
-            drawing.addOwned(dictionary, point, dictionaryOf({{"Z", 0x46}}, HandleReference::HardOwner));
+            drawing.addOwned(DictionaryType, point, dictionaryOf({{"Z", 0x46}}, HandleReference::HardOwner));
         for (int i = 0; i < 3; ++i)
-            drawing.addOwned(dictionary, i < 2 ? inner : 0x43, dictionaryOf({}, HandleReference::SoftOwner));
+            drawing.addOwned(DictionaryType, i < 2 ? inner : 0x43, dictionaryOf({}, HandleReference::SoftOwner));
         const ReadBack read = readBack(drawing);
         std::string order;
         for (const TextNode &node : read.tree.nodes)

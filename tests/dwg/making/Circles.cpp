@@ -1,15 +1,15 @@
 #include "tests/dwg/making/Circles.h"
 
 #include "tests/dwg/making/MadeDrawing.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 namespace host::dwg::test {
 
 FileBytes circlesFile(Release release, int whole, int damaged)
 {
-    constexpr int circle = 0x12;
     MadeDrawing drawing(release);
     for (int i = 0; i < whole + damaged; ++i)
-        drawing.addEntity(circle, [isWhole = i < whole](ObjectWriter &o) {
+        drawing.addEntity(CircleType, [isWhole = i < whole](ObjectWriter &o) {
             o.point({1.0, 2.0, 0.0});
             if (!isWhole)
                 return;

@@ -2,19 +2,13 @@
 
 #include "host/dwg/contents/HeaderTable.h"
 #include "host/dwg/objects/TableTypes.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 namespace host::dwg::test {
 
 namespace {
 
 constexpr int firstClassNumber = 500;
-constexpr int layerType = 0x33;
-constexpr int styleType = 0x35;
-constexpr int linetypeType = 0x39;
-constexpr int applicationType = 0x43;
-constexpr int beginType = 0x04;
-constexpr int endType = 0x05;
-constexpr int dictionaryType = 0x2a;
 
 struct TableRow
 {
@@ -25,13 +19,13 @@ struct TableRow
 
 constexpr TableRow tables[] = {
     {blockTableType, MadeHandles::BlockTable, blockType},
-    {layerTableType, MadeHandles::LayerTable, layerType},
-    {styleTableType, MadeHandles::StyleTable, styleType},
-    {linetypeTableType, MadeHandles::LinetypeTable, linetypeType},
+    {layerTableType, MadeHandles::LayerTable, LayerType},
+    {styleTableType, MadeHandles::StyleTable, StyleType},
+    {linetypeTableType, MadeHandles::LinetypeTable, LinetypeType},
     {viewTableType, MadeHandles::ViewTable, 0x3d},
     {coordinateSystemTableType, MadeHandles::SystemTable, 0x3f},
     {viewportTableType, MadeHandles::ViewportTable, 0x41},
-    {applicationTableType, MadeHandles::ApplicationTable, applicationType},
+    {applicationTableType, MadeHandles::ApplicationTable, ApplicationType},
     {dimensionStyleTableType, MadeHandles::DimensionStyleTable, dimensionStyleType},
 };
 
@@ -202,16 +196,16 @@ void MadeDrawing::addTables()
 {
     for (const TableRow &row : tables)
         add(row.type, false, row.handle, 0, [this, row](ObjectWriter &o) { writeTable(o, row.type, row.handle); });
-    add(dictionaryType, false, MadeHandles::NamedObjects, 0, [this](ObjectWriter &o) { writeNamedObjects(o); });
+    add(DictionaryType, false, MadeHandles::NamedObjects, 0, [this](ObjectWriter &o) { writeNamedObjects(o); });
     const auto entry = [this](int type, std::uint64_t handle, Write write) {
         add(type, false, handle, tableFor(type), std::move(write));
     };
-    entry(layerType, MadeHandles::LayerZero, writeLayerZero);
-    entry(styleType, MadeHandles::TextStyle, writeTextStyle);
-    entry(applicationType, MadeHandles::Application, writeApplication);
-    entry(linetypeType, MadeHandles::ByBlock, [](ObjectWriter &o) { writeLinetype(o, "ByBlock"); });
-    entry(linetypeType, MadeHandles::ByLayer, [](ObjectWriter &o) { writeLinetype(o, "ByLayer"); });
-    entry(linetypeType, MadeHandles::Continuous, [](ObjectWriter &o) { writeLinetype(o, "Continuous"); });
+    entry(LayerType, MadeHandles::LayerZero, writeLayerZero);
+    entry(StyleType, MadeHandles::TextStyle, writeTextStyle);
+    entry(ApplicationType, MadeHandles::Application, writeApplication);
+    entry(LinetypeType, MadeHandles::ByBlock, [](ObjectWriter &o) { writeLinetype(o, "ByBlock"); });
+    entry(LinetypeType, MadeHandles::ByLayer, [](ObjectWriter &o) { writeLinetype(o, "ByLayer"); });
+    entry(LinetypeType, MadeHandles::Continuous, [](ObjectWriter &o) { writeLinetype(o, "Continuous"); });
     m_entries[MadeHandles::LayerTable] = {MadeHandles::LayerZero};
     m_entries[MadeHandles::StyleTable] = {MadeHandles::TextStyle};
     m_entries[MadeHandles::ApplicationTable] = {MadeHandles::Application};
@@ -223,8 +217,8 @@ void MadeDrawing::addSpace(std::uint64_t handle, const char *name, bool isPaper)
     add(blockType, false, handle, MadeHandles::BlockTable,
         [this, name, handle, isPaper](ObjectWriter &o) { writeBlock(o, name, handle, isPaper); });
     const int space = isPaper ? 1 : 2;
-    add(beginType, true, handle + 1, handle, [name](ObjectWriter &o) { o.text(name); }).head.space = space;
-    add(endType, true, handle + 2, handle, nullptr).head.space = space;
+    add(BeginType, true, handle + 1, handle, [name](ObjectWriter &o) { o.text(name); }).head.space = space;
+    add(EndType, true, handle + 2, handle, nullptr).head.space = space;
 }
 
 std::uint64_t MadeDrawing::addEntity(const Type &type, Write write)
