@@ -127,6 +127,22 @@ TEST(DwgFiles, ThatCannotBeReadAtAllAreRefused)
     }
 }
 
+TEST(DwgFiles, WhoseTextIsNoDrawingNameNoLineOfIt)
+{
+    MadeDrawing made(Release::R2000);
+    made.addObject(xrecordType, "BROKEN", [](ObjectWriter &o) {
+        o.int32(2 + 2 + 1);  // bytes of one text under its code
+        o.values().raw16(0); // the code of a record's type
+        o.values().raw16(0);
+        o.values().rawBytes("\x1e"); // the code page
+        o.int16(1);
+    });
+    const ReadResult read = Drawing::fromBytes(bytesOf(made.file()));
+    ASSERT_FALSE(read);
+    EXPECT_EQ(read.error.line, 0);
+    EXPECT_TRUE(read.isDamaged && read.error.text.startsWith(u"this DWG file cannot be read: "_s));
+}
+
 TEST(DwgFiles, GiveTheirRecordsAndTakeNone)
 {
     const QTemporaryDir folder;

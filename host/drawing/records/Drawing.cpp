@@ -62,6 +62,9 @@ ReadResult Drawing::fromDwg(QByteArrayView bytes)
     if (result) {
         result.drawing->d->isFromDwg = true;
         result.drawing->d->notes = std::move(dwg.notes);
+    } else {
+        // The line is none of the file.
+        result.error = {0, DrawingTexts::tr("this DWG file cannot be read: %1").arg(result.error.text)};
     }
     return result;
 }
