@@ -215,10 +215,16 @@ void noteRecordData(BitReader &data, Fields &fields)
 {
     while (data.left() >= 16) {
         const std::size_t before = fields.mark();
-        if (!noteRecordValue(data.raw16(), data, fields) || data.hasFailed()) {
+        const int code = data.raw16();
+        if (!noteRecordValue(code, data, fields) || data.hasFailed()) {
             fields.drop(before);
             fields.fail();
             return;
+        }
+        // It would begin another record.
+        if (code == 0) {
+            fields.drop(before);
+            fields.doubt("A value under a code that no record may have is left out.");
         }
     }
 }
