@@ -350,4 +350,42 @@ TEST(HostileDwg, AWrongChecksumIsToldAndReadingGoesOn)
     }
 }
 
+TEST(HostileDwg, AnObjectIsReadUnderOneHandle)
+{
+    // A map that names one large object a thousand times: what each reading takes is the file's size each time.
+    MadeDrawing drawing(Release::R2018);
+    const std::uint64_t large = drawing.addObject(0x4f, "LARGE", [](ObjectWriter &o) {
+        constexpr int numbers = 16000;
+        o.int32(6 * numbers);
+        for (int i = 0; i < numbers; ++i) {
+            o.values().raw16(90);
+            o.values().raw32(static_cast<std::uint32_t>(i));
+        }
+        o.int16(1);
+    });
+    const MadeParts parts = drawing.parts();
+    std::vector<MadeSection> sections = sectionsOf(parts);
+    std::vector<MadeParts::Object> objects = parts.objects;
+    std::vector<std::size_t> places;
+    std::size_t place = 4; // behind the mark of the section
+    for (const MadeParts::Object &object : parts.objects) {
+        places.push_back(place);
+        place += object.bytes.size();
+    }
+    ASSERT_EQ(objects.back().handle, large);
+    constexpr std::size_t added = 1000;
+    for (std::size_t i = 1; i <= added; ++i) {
+        objects.push_back({large + i, {}});
+        places.push_back(places[parts.objects.size() - 1]);
+    }
+    for (MadeSection &section : sections) {
+        if (section.name == "AcDb:Handles")
+            section.bytes = objectMap(objects, places);
+    }
+    const ReadBack read = readBack(pagedFile(Release::R2018, sections));
+    EXPECT_EQ(read.drawing.problems.count(Problem::Kind::Lost), added);
+    EXPECT_EQ(read.drawing.problems.list().front().message(), "object 41: There is no object at its place.");
+    EXPECT_TRUE(read.lastPart(large).ends_with("90 15998|90 15999|"));
+}
+
 } // namespace host::dwg::test
