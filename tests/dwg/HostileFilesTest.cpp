@@ -4,6 +4,7 @@
 #include "host/dwg/container/Pages.h"
 #include "host/dwg/drawing/DrawingText.h"
 #include "tests/dwg/making/ReadBack.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -333,6 +334,41 @@ TEST(HostileDwg, MemoryStaysWithinAMultipleOfTheFile)
     EXPECT_EXIT(readWithin(bombs, 1 << 20), testing::ExitedWithCode(1), "");
 }
 #endif
+
+TEST(HostileDwg, WhatHoldsOthersTogetherIsMadeWhereItCannotBeRead)
+{
+    constexpr std::uint64_t begin = MadeHandles::ModelSpace + 1;
+    constexpr std::uint64_t end = MadeHandles::ModelSpace + 2;
+    const auto countOf = [](const std::string &text, const std::string &type) {
+        std::size_t count = 0;
+        for (std::size_t at = 0; (at = text.find("  0\n" + type + '\n', at)) != std::string::npos; ++at)
+            ++count;
+        return count;
+    };
+    for (const Release release : {Release::R14, Release::R2000, Release::R2010}) {
+        for (const std::vector<std::uint64_t> &gone :
+             {std::vector<std::uint64_t>{begin}, {end}, {begin, end}, {begin, MadeHandles::PaperSpace + 2}}) {
+            MadeDrawing drawing(release);
+            drawing.addEntity(CircleType, [](ObjectWriter &o) {
+                o.point({1.0, 2.0, 0.0});
+                o.real(5.0);
+                o.thickness(0.0);
+                o.extrusion();
+            });
+            MadeParts parts = drawing.parts();
+            const auto isGone = [&gone](const MadeParts::Object &object) {
+                return std::ranges::find(gone, object.handle) != gone.end();
+            };
+            EXPECT_EQ(std::erase_if(parts.objects, isGone), gone.size());
+            const ReadBack read = readBack(madeFile(parts));
+            const std::string &text = read.drawing.text;
+            EXPECT_EQ(countOf(text, "BLOCK"), 2u);
+            EXPECT_EQ(countOf(text, "ENDBLK"), 2u);
+            EXPECT_EQ(countOf(text, "CIRCLE"), 1u);
+            EXPECT_EQ(read.drawing.problems.count(Problem::Kind::Warning), gone.size()) << read.problems();
+        }
+    }
+}
 
 TEST(HostileDwg, AWrongChecksumIsToldAndReadingGoesOn)
 {

@@ -108,7 +108,7 @@ Container openContainer(Bytes file, Problems &problems)
     Container container;
     container.release = releaseOf(file);
     if (container.release < Release::R13) {
-        problems.lose("The file is no drawing of R13 to R2018.");
+        problems.lose("The file is of a release that is not read.");
         return container;
     }
     container.maintenance = file[0x0b];

@@ -9,6 +9,59 @@ namespace {
 /// How deep lists may stand in one another: blocks have polylines and inserts, which have vertices and attributes.
 constexpr int deepestList = 4;
 
+// Records that hold others together: the text form is no drawing without them, and with them at another place.
+struct Mark
+{
+    int type;
+    const char *name;
+    const char *subclass; ///< null for none
+};
+
+constexpr Mark blockBegin = {0x04, "BLOCK", "AcDbBlockBegin"};
+constexpr Mark blockEnd = {0x05, "ENDBLK", "AcDbBlockEnd"};
+constexpr Mark listEnd = {0x06, "SEQEND", nullptr};
+
+bool isMark(int type)
+{
+    return type == blockBegin.type || type == blockEnd.type || type == listEnd.type;
+}
+
+/// Whether an object of the type may stand in a list, or outside of all.
+bool mayStand(int type, bool isInList)
+{
+    constexpr int attribute = 0x02;
+    constexpr int firstVertex = 0x0a;
+    constexpr int lastVertex = 0x0e;
+    const bool isVertex = type >= firstVertex && type <= lastVertex;
+    return isInList ? isVertex || type == attribute : !isVertex;
+}
+
+/// Notes what stands for a mark that cannot be read, and tells it. `handle` is 0 where another object has it.
+void noteStandIn(DrawingObjects &objects, Fields &fields, const Mark &mark, std::uint64_t handle, std::uint64_t owner)
+{
+    objects.warn(handle, mark.type, "It cannot be read; one like it was made.");
+    fields.start({}, {}, {});
+    if (handle != 0)
+        fields.noteHandle(5, handle);
+    if (fields.since(Release::R2000))
+        fields.noteHandle(330, owner);
+    fields.subclass("AcDbEntity");
+    fields.note(8, "0");
+    if (mark.subclass)
+        fields.subclass(mark.subclass);
+}
+
+/// Writes an end, as it is in the file or one that stands for it.
+void writeEnd(DrawingObjects &objects, RecordWriter &records, const Mark &mark, const Relations &of)
+{
+    const auto frame = objects.peek(of.end);
+    if (frame && frame->type == mark.type && records.writeObject(of.end))
+        return;
+    const std::uint64_t handle = frame && frame->type != mark.type ? 0 : of.end;
+    noteStandIn(objects, records.fields(), mark, handle, of.handle);
+    records.writeFields(mark.name);
+}
+
 /// Writes what a block, a polyline or an insert has.
 class OwnedEntities
 {
@@ -29,9 +82,15 @@ private:
     /// False when nothing more follows from there.
     bool writeEntity(std::uint64_t handle)
     {
+        if (const auto seen = m_objects.peek(handle); seen && isMark(seen->type))
+            return false;
         const auto frame = m_objects.take(handle);
         if (!frame)
             return false;
+        if (!mayStand(frame->type, m_depth > 0)) {
+            m_objects.lose(handle, frame->type, "The object stands outside of what it belongs to.");
+            return false;
+        }
         const Relations &relations = m_records.fields().relations();
         m_records.fields().relations().clear();
         const bool isWritten = m_records.writeFrame(handle, *frame);
@@ -48,7 +107,7 @@ private:
         ++m_depth;
         write(relations);
         --m_depth;
-        m_records.writeObject(relations.end);
+        writeEnd(m_objects, m_records, listEnd, relations);
     }
 
     DrawingObjects &m_objects;
@@ -60,13 +119,18 @@ private:
 
 void writeBlockBegin(DrawingParts &parts, const DrawingBlock &block)
 {
-    const auto frame = parts.objects.take(block.relations.begin);
-    if (!frame)
-        return;
     Fields &fields = parts.records.fields();
     const BlockHead &head = block.head;
-    parts.records.readHead(*frame, "BLOCK", true);
-    fields.subclass("AcDbBlockBegin");
+    const Relations &relations = block.relations;
+    const auto seen = parts.objects.peek(relations.begin);
+    const auto frame = seen && seen->type == blockBegin.type ? parts.objects.take(relations.begin) : std::nullopt;
+    if (frame)
+        parts.records.readHead(*frame, blockBegin.name, true);
+    const bool isRead = frame && !fields.hasFailed();
+    if (isRead)
+        fields.subclass(blockBegin.subclass);
+    else
+        noteStandIn(parts.objects, fields, blockBegin, seen && !frame ? 0 : relations.begin, relations.handle);
     fields.note(2, head.entry.name);
     fields.note(70, (head.isAnonymous ? 1 : 0) | (head.hasAttributes ? 2 : 0) | (head.isExternal ? 4 : 0) |
                         (head.isOverlay ? 8 : 0) | head.entry.flags);
@@ -75,7 +139,10 @@ void writeBlockBegin(DrawingParts &parts, const DrawingBlock &block)
     fields.note(1, head.path);
     if (!head.description.empty())
         fields.note(4, head.description);
-    parts.records.writeNoted("BLOCK");
+    if (isRead)
+        parts.records.writeNoted(blockBegin.name);
+    else
+        parts.records.writeFields(blockBegin.name);
 }
 
 } // namespace
@@ -90,7 +157,7 @@ void writeBlocksSection(DrawingParts &parts)
         const std::uint64_t handle = block.relations.handle;
         if (handle != spaces.model && handle != spaces.paper)
             entities.write(block.relations);
-        parts.records.writeObject(block.relations.end);
+        writeEnd(parts.objects, parts.records, blockEnd, block.relations);
     }
     parts.records.endSection();
 }

@@ -59,15 +59,14 @@ char *putCode(int code, char *to)
     return to;
 }
 
-/// Whole numbers whose shortest form is their digits: no more than four zeros at the end, or it would be one with an
-/// exponent.
+/// Whole numbers that are exact, which are quicker written as such.
 bool hasPlainDigits(double value)
 {
     constexpr double exact = 1e15;
     if (!(std::abs(value) < exact) || std::signbit(value) != (value < 0.0))
         return false;
     const auto whole = static_cast<std::int64_t>(value);
-    return static_cast<double>(whole) == value && (whole == 0 || whole % 100000 != 0);
+    return static_cast<double>(whole) == value;
 }
 
 char *putReal(double value, char *to)
@@ -81,7 +80,12 @@ char *putReal(double value, char *to)
         to = std::to_chars(to, to + mostOfANumber, static_cast<std::int64_t>(value)).ptr;
         return std::copy(fraction.begin(), fraction.end(), to);
     }
-    char *const end = std::to_chars(to, to + mostOfANumber, std::isfinite(value) ? value : 0.0).ptr;
+    // Powers of ten stand where other programs have them, which write 16 digits.
+    const double size = std::isfinite(value) ? std::abs(value) : 0.0;
+    const bool isFixed = size == 0.0 || (size >= 1e-4 && size < 1e16);
+    char *const end = std::to_chars(to, to + mostOfANumber, std::isfinite(value) ? value : 0.0,
+                                    isFixed ? std::chars_format::fixed : std::chars_format::scientific)
+                          .ptr;
     const bool isWhole = std::none_of(to, end, [](char c) { return c == '.' || c == 'e'; });
     return isWhole ? std::copy(fraction.begin(), fraction.end(), end) : end;
 }
