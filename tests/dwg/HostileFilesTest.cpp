@@ -252,6 +252,15 @@ File ringOfEntities()
     return madeFile(parts);
 }
 
+/// Extended data that goes on as line spacing, which ends within a text.
+File endlessSpacing()
+{
+    MadeDrawing drawing(Release::R14);
+    const std::string spacing("\0\12\0\0MTEXTBEGIN\0\xff\0\0cut", 21);
+    drawing.head(drawing.addEntity(0x12, writeCircleAtOrigin)).extensions = {{MadeHandles::Application, spacing}};
+    return drawing.file();
+}
+
 const HostileRow hostileRows[] = {
     {"a section of a terabyte",
      [] {
@@ -277,6 +286,7 @@ const HostileRow hostileRows[] = {
     {"one place for all objects", oneObjectForAll, "There is no object at its place."},
     {"one page for all parts of a section", onePageForAll, "A page of the section AcDb:AcDbObjects cannot be read."},
     {"pages in pages", pagesInPages, "The map of the file's sections cannot be read."},
+    {"extended data without an end", endlessSpacing, ""},
     {"a dictionary of itself", dictionaryOfItself, ""},
     {"a chain of dictionaries", chainOfDictionaries, ""},
     {"a ring of entities", ringOfEntities, "There is no object at its place."},

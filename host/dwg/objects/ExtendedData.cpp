@@ -185,7 +185,7 @@ bool skipLaterValues(BitReader &reader, Fields &fields)
         return false;
     const std::size_t before = fields.mark();
     bool isLast = false;
-    for (int count = 0; !isLast && reader.left() >= 8; ++count) {
+    for (int count = 0; !isLast && !reader.hasFailed() && reader.left() >= 8; ++count) {
         isLast = isOne ? count == 1 : aheadText(reader, fields.release()) == "MTEXTEND";
         if (!noteExtensionValue(reader, fields))
             break;
