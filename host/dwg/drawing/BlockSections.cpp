@@ -21,11 +21,6 @@ constexpr Mark blockBegin = {0x04, "BLOCK", "AcDbBlockBegin"};
 constexpr Mark blockEnd = {0x05, "ENDBLK", "AcDbBlockEnd"};
 constexpr Mark listEnd = {0x06, "SEQEND", nullptr};
 
-bool isMark(int type)
-{
-    return type == blockBegin.type || type == blockEnd.type || type == listEnd.type;
-}
-
 /// Whether an object of the type may stand in a list, or outside of all.
 bool mayStand(int type, bool isInList)
 {
@@ -33,7 +28,8 @@ bool mayStand(int type, bool isInList)
     constexpr int firstVertex = 0x0a;
     constexpr int lastVertex = 0x0e;
     const bool isVertex = type >= firstVertex && type <= lastVertex;
-    return isInList ? isVertex || type == attribute : !isVertex;
+    const bool isMark = type == blockBegin.type || type == blockEnd.type || type == listEnd.type;
+    return isInList ? isVertex || type == attribute : !isVertex && !isMark;
 }
 
 /// Notes what stands for a mark that cannot be read, and tells it. `handle` is 0 where another object has it.
@@ -82,8 +78,6 @@ private:
     /// False when nothing more follows from there.
     bool writeEntity(std::uint64_t handle)
     {
-        if (const auto seen = m_objects.peek(handle); seen && isMark(seen->type))
-            return false;
         const auto frame = m_objects.take(handle);
         if (!frame)
             return false;
