@@ -380,6 +380,16 @@ TEST(HostileDwg, WhatHoldsOthersTogetherIsMadeWhereItCannotBeRead)
     }
 }
 
+TEST(HostileDwg, APasswordIsTold)
+{
+    for (const Release release : {Release::R2000, Release::R2004, Release::R2007, Release::R2018}) {
+        FileBytes file = MadeDrawing(release).file();
+        file[0x18] |= 1;
+        const bool isTold = readBack(file).problems().find("protected by a password") != std::string::npos;
+        EXPECT_EQ(isTold, release >= Release::R2004);
+    }
+}
+
 TEST(HostileDwg, AWrongChecksumIsToldAndReadingGoesOn)
 {
     for (File file : samples()) {

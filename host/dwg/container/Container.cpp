@@ -101,6 +101,13 @@ Bytes previewOf(Bytes file)
     return hasPictures && size <= content.size() - sizeLength ? content.first(sizeLength + size) : Bytes();
 }
 
+bool isProtected(Bytes file, Release release)
+{
+    constexpr std::size_t place = 0x18;
+    constexpr int isDataEncrypted = 1;
+    return release >= Release::R2004 && file.size() > place && (file[place] & isDataEncrypted) != 0;
+}
+
 } // namespace
 
 Container openContainer(Bytes file, Problems &problems)
@@ -113,6 +120,9 @@ Container openContainer(Bytes file, Problems &problems)
     }
     container.maintenance = file[0x0b];
     container.codePage = file[0x13] | file[0x14] << 8;
+    // Read on all the same: a byte that is damaged says so as well.
+    if (isProtected(file, container.release))
+        problems.lose("The file is protected by a password.");
     if (container.release <= Release::R2000)
         openLocatorContainer(file, container, problems);
     else if (container.release == Release::R2007)
