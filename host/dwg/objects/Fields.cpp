@@ -94,13 +94,6 @@ Point Fields::rawFlatPoint(int code)
     return point;
 }
 
-Point Fields::flatPoint(int code)
-{
-    const Point point{real(), real(), 0.0};
-    noteFlat(code, point);
-    return point;
-}
-
 double Fields::angle(int code)
 {
     const double radians = real();

@@ -160,7 +160,6 @@ public:
     double rawReal(int code, Unless unless) { return noteUnless(code, rawReal(), unless); }
     Point rawPoint(int code);     ///< three raw numbers
     Point rawFlatPoint(int code); ///< two of them
-    Point flatPoint(int code);    ///< two coded numbers
     double angle(int code);       ///< in radians, noted in degrees
     double angle(int code, Unless unless);
     Point extrusion();  ///< 210, unless it is the z axis

@@ -48,6 +48,23 @@ bool addHook(LeaderLine &line, double arrow)
     return true;
 }
 
+/// What is no more than its style has; the colour, for a style that leaves that to the block, is told up to R14.
+int readLeaderStyle(Fields &f)
+{
+    int colour = 0;
+    f.int16();
+    if (f.until(Release::R14)) {
+        f.real();
+        f.flag();
+        f.flag();
+        f.int16();
+        colour = f.int16();
+    }
+    f.flag();
+    f.flag();
+    return colour;
+}
+
 void readLeader(Fields &f)
 {
     f.subclass("AcDbLeader");
@@ -72,21 +89,7 @@ void readLeader(Fields &f)
     }
     line.hooksAlong = f.flag(74);
     f.flag(71, {1});
-    int colour = 0; // for a dimension style that leaves it to the block
-    if (f.until(Release::R14)) {
-        f.int16();
-        f.real();
-        f.flag();
-        f.flag();
-        f.int16();
-        colour = f.int16();
-        f.flag();
-        f.flag();
-    } else {
-        f.int16();
-        f.flag();
-        f.flag();
-    }
+    const int colour = readLeaderStyle(f);
     const std::uint64_t annotation = f.reference();
     const std::uint64_t style = f.reference();
     f.note(3, f.nameOf(style));

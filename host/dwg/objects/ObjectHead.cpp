@@ -5,6 +5,7 @@
 #include "host/dwg/objects/ExtendedData.h"
 
 #include <algorithm>
+#include <array>
 
 namespace host::dwg {
 
@@ -50,6 +51,104 @@ bool beginsWith(std::string_view name, std::string_view beginning)
     return name.size() >= beginning.size() &&
            std::equal(beginning.begin(), beginning.end(), name.begin(),
                       [](char upper, char c) { return upper == (c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c); });
+}
+
+/// What every entity has among its values, and what of it is referred to.
+struct EntityValues
+{
+    std::int32_t reactorCount = 0;
+    bool hasNoDictionary = false;
+    bool hasNoLinks = false;
+    EntityColour colour;
+    double scale = 1.0;
+    int linetype = 0;
+    int plotStyle = 0;
+    int material = 0;
+    int shadow = 0;
+    std::array<bool, 3> hasVisualStyle{};
+    int invisible = 0;
+    int weight = -1;
+    std::uint64_t layer = 0;
+    std::uint64_t linetypeReference = 0;
+    std::uint64_t colourName = 0;
+};
+
+EntityValues readEntityValues(Fields &fields)
+{
+    EntityValues entity;
+    BitReader &values = fields.values();
+    entity.reactorCount = values.longInteger();
+    entity.hasNoDictionary = fields.since(Release::R2004) && values.bit();
+    if (fields.since(Release::R2013))
+        fields.relations().hasStoredData = values.bit();
+    const bool isByLayer = fields.until(Release::R14) && values.bit();
+    entity.hasNoLinks = fields.until(Release::R2000) && values.bit();
+    entity.colour = readEntityColour(fields);
+    entity.scale = values.real();
+    const bool hasFlags = fields.since(Release::R2000);
+    entity.linetype = hasFlags ? values.pair() : isByLayer ? 0 : fromReference;
+    entity.plotStyle = hasFlags ? values.pair() : 0;
+    entity.material = fields.since(Release::R2007) ? values.pair() : 0;
+    entity.shadow = fields.since(Release::R2007) ? values.byte() : 0;
+    if (fields.since(Release::R2010)) {
+        for (bool &has : entity.hasVisualStyle)
+            has = values.bit();
+    }
+    entity.invisible = values.shortInteger();
+    entity.weight = hasFlags ? lineWeight(values.byte()) : -1;
+    return entity;
+}
+
+/// Up to R14 the layer stands in front of the neighbours, later behind them and the colour's name.
+void readEntityReferences(Fields &fields, EntityValues &entity)
+{
+    const auto readLayer = [&] {
+        entity.layer = fields.reference();
+        if (entity.linetype == fromReference)
+            entity.linetypeReference = fields.reference();
+    };
+    const bool isLayerFirst = fields.until(Release::R14);
+    if (isLayerFirst)
+        readLayer();
+    if (fields.until(Release::R2000)) {
+        if (!entity.hasNoLinks)
+            fields.reference();
+        const std::uint64_t next = entity.hasNoLinks ? fields.relations().handle + 1 : fields.reference();
+        fields.relations().next = next;
+    }
+    entity.colourName = entity.colour.isNamed ? fields.reference() : 0;
+    if (!isLayerFirst)
+        readLayer();
+}
+
+/// Notes it, and reads the references that are left: to a material, a plot style and visual styles.
+void noteEntity(Fields &fields, const EntityValues &entity)
+{
+    fields.note(8, fields.nameOf(entity.layer));
+    if (entity.linetype != 0)
+        fields.note(6, entity.linetype == 1   ? std::string_view("ByBlock")
+                       : entity.linetype == 2 ? std::string_view("Continuous")
+                                              : fields.nameOf(entity.linetypeReference));
+    if (entity.material == fromReference)
+        fields.reference(347);
+    else if (entity.material == 1 || entity.material == 2)
+        fields.noteHandle(347, 0);
+    const std::uint64_t plotStyle = entity.plotStyle == fromReference ? fields.reference() : 0;
+    const EntityColour &colour = entity.colour;
+    if (colour.index != 256 || colour.rgb != 0 || colour.isNamed)
+        fields.noteColour(62, colour.index, colour.rgb, fields.nameOf(entity.colourName));
+    if (colour.transparency != 0)
+        fields.note(440, static_cast<std::int32_t>(colour.transparency));
+    fields.noteUnless(48, entity.scale, {1.0});
+    fields.noteUnless(60, entity.invisible & 1, {0});
+    fields.noteUnless(370, entity.weight, {-1});
+    if (plotStyle != 0)
+        fields.noteHandle(390, plotStyle);
+    fields.noteUnless(284, entity.shadow, {0});
+    for (const bool has : entity.hasVisualStyle) {
+        if (has)
+            fields.reference(348);
+    }
 }
 
 } // namespace
@@ -165,75 +264,14 @@ void ObjectHead::readEntityHead(Fields &fields)
     if (fields.until(Release::R14))
         fields.splitAt(values.raw32());
     m_space = values.pair();
-    const std::int32_t reactorCount = values.longInteger();
-    const bool hasNoDictionary = fields.since(Release::R2004) && values.bit();
-    if (fields.since(Release::R2013))
-        fields.relations().hasStoredData = values.bit();
-    const bool isByLayer = fields.until(Release::R14) && values.bit();
-    const bool hasNoLinks = fields.until(Release::R2000) && values.bit();
-    const EntityColour colour = readEntityColour(fields);
-    const double scale = values.real();
-    const bool hasFlags = fields.since(Release::R2000);
-    const int linetype = hasFlags ? values.pair() : isByLayer ? 0 : fromReference;
-    const int plotStyle = hasFlags ? values.pair() : 0;
-    const int material = fields.since(Release::R2007) ? values.pair() : 0;
-    const int shadow = fields.since(Release::R2007) ? values.byte() : 0;
-    std::array<bool, 3> hasVisualStyle{};
-    if (fields.since(Release::R2010)) {
-        for (bool &has : hasVisualStyle)
-            has = values.bit();
-    }
-    const int invisible = values.shortInteger();
-    const int weight = hasFlags ? lineWeight(values.byte()) : -1;
-
-    readRelations(fields, reactorCount, hasNoDictionary);
-    std::uint64_t layer = 0;
-    std::uint64_t linetypeReference = 0;
-    const auto readLayer = [&] {
-        layer = fields.reference();
-        if (linetype == fromReference)
-            linetypeReference = fields.reference();
-    };
-    if (!hasFlags)
-        readLayer();
-    if (fields.until(Release::R2000)) {
-        if (!hasNoLinks)
-            fields.reference();
-        const std::uint64_t next = hasNoLinks ? fields.relations().handle + 1 : fields.reference();
-        fields.relations().next = next;
-    }
-    const std::uint64_t colourName = colour.isNamed ? fields.reference() : 0;
-    if (hasFlags)
-        readLayer();
-
+    EntityValues entity = readEntityValues(fields);
+    readRelations(fields, entity.reactorCount, entity.hasNoDictionary);
+    readEntityReferences(fields, entity);
     noteRelations(fields);
     fields.subclass("AcDbEntity");
     if (isInPaperSpace(fields))
         fields.note(67, 1);
-    fields.note(8, fields.nameOf(layer));
-    if (linetype != 0)
-        fields.note(6, linetype == 1   ? std::string_view("ByBlock")
-                       : linetype == 2 ? std::string_view("Continuous")
-                                       : fields.nameOf(linetypeReference));
-    if (material == fromReference)
-        fields.reference(347);
-    else if (material == 1 || material == 2)
-        fields.noteHandle(347, 0);
-    const std::uint64_t plotStyleReference = plotStyle == fromReference ? fields.reference() : 0;
-    if (colour.index != 256 || colour.rgb != 0 || colour.isNamed)
-        fields.noteColour(62, colour.index, colour.rgb, fields.nameOf(colourName));
-    if (colour.transparency != 0)
-        fields.note(440, static_cast<std::int32_t>(colour.transparency));
-    fields.noteUnless(48, scale, {1.0});
-    fields.noteUnless(60, invisible & 1, {0});
-    fields.noteUnless(370, weight, {-1});
-    if (plotStyleReference != 0)
-        fields.noteHandle(390, plotStyleReference);
-    fields.noteUnless(284, shadow, {0});
-    for (std::size_t i = 0; i < hasVisualStyle.size(); ++i) {
-        if (hasVisualStyle[i])
-            fields.reference(348);
-    }
+    noteEntity(fields, entity);
     m_graphicsMark = fields.mark();
     // Tables that stand as inserts are drawn by their blocks.
     if (!m_graphics.empty() && fields.typeName() != "INSERT") {
