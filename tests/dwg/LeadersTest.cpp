@@ -1,5 +1,6 @@
 // Leaders: the vertex of the hook line that files do not have, and the size of the text that they lead to.
 
+#include "tests/dwg/making/Paragraphs.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <gtest/gtest.h>
@@ -111,24 +112,9 @@ void writeLeader(ObjectWriter &o, const LeaderRow &row, std::uint64_t text, std:
 
 void writeText(ObjectWriter &o)
 {
-    o.point({10.0, 0.0, 0.0});
-    o.point({0.0, 0.0, 1.0});
-    o.point({1.0, 0.0, 0.0});
-    o.real(7.0);
-    if (o.since(Release::R2007))
-        o.real(0.0);
-    o.real(0.5);
-    o.int16(1);
-    o.int16(5);
-    o.real(0.5);
-    o.real(4.0);
-    o.text("ab");
-    o.int16(1);
-    o.real(1.0);
-    o.flag(false);
+    writeParagraphs(o, {10.0, 0.0, 0.0}, 0.5, 4.0, "ab");
     if (o.since(Release::R2004))
         o.int32(0);
-    o.reference(MadeHandles::TextStyle);
 }
 
 /// Extended data of ACAD that give an arrow the size of 0.5: DSTYLE, its braces, 41 and the size.

@@ -1,5 +1,6 @@
 // Texts of paragraphs and attributes, as releases from R2004 on have them.
 
+#include "tests/dwg/making/Paragraphs.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <gtest/gtest.h>
@@ -8,26 +9,7 @@ namespace host::dwg::test {
 
 namespace {
 
-/// What every release of MTEXT has in front of its background.
-void writeParagraphs(ObjectWriter &o, std::string_view text)
-{
-    o.point({1.0, 2.0, 0.0});
-    o.point({0.0, 0.0, 1.0});
-    o.point({1.0, 0.0, 0.0});
-    o.real(7.0);
-    if (o.since(Release::R2007))
-        o.real(0.0);
-    o.real(0.5);
-    o.int16(1);
-    o.int16(5);
-    o.real(0.25);
-    o.real(6.5);
-    o.text(text);
-    o.int16(1);
-    o.real(1.0);
-    o.flag(false);
-    o.reference(MadeHandles::TextStyle);
-}
+constexpr Point placeOfParagraphs = {1.0, 2.0, 0.0};
 
 constexpr const char *paragraphTags = "10 1.0|20 2.0|30 0.0|40 0.5|41 7.0|46 0.0|71 1|72 5|1 ";
 
@@ -141,7 +123,7 @@ void writeParagraphAttribute(ObjectWriter &o, bool isDefinition)
     o.small(0);
     o.small(isDefinition ? 4 : 2);
     writeEmbeddedHead(o);
-    writeParagraphs(o, "a\\Pb");
+    writeParagraphs(o, placeOfParagraphs, 0.25, 6.5, "a\\Pb");
     o.int32(0);
     writePlaceAgain(o, 0);
     o.int16(3);
@@ -162,7 +144,7 @@ TEST(DwgTexts, ParagraphsHaveTheColumnsOfR2018)
     for (const ColumnsRow &row : columnsRows) {
         MadeDrawing drawing(Release::R2018);
         const std::uint64_t text = drawing.addEntity(0x2c, [&row](ObjectWriter &o) {
-            writeParagraphs(o, "ab");
+            writeParagraphs(o, placeOfParagraphs, 0.25, 6.5, "ab");
             o.int32(0);
             row.write(o);
         });
