@@ -136,6 +136,40 @@ Number checksumBitByBit(Bytes bytes, Number sum, Number polynomial)
     return sum;
 }
 
+/// The order of bytes in checksums of R2007: where each byte of a whole stands in it.
+std::size_t placeInPairs(std::size_t i, std::size_t size)
+{
+    const std::size_t eights = size / 8 * 8;
+    if (i < eights)
+        return i / 8 * 8 + (7 - i % 8) / 2 * 2 + i % 2;
+    const bool isOfFour = i < eights + 4 && size - eights >= 4;
+    return isOfFour ? eights + ((i - eights) ^ 2) : i;
+}
+
+std::vector<std::uint8_t> orderedOf2007(const std::vector<std::uint8_t> &bytes)
+{
+    std::vector<std::uint8_t> ordered(bytes.size());
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        ordered[placeInPairs(i, bytes.size())] = bytes[i];
+    return ordered;
+}
+
+/// A checksum whose highest bit is first is one whose lowest is, of all bits turned round.
+std::uint64_t turned(std::uint64_t value, int bits = 64)
+{
+    std::uint64_t result = 0;
+    for (int i = 0; i < bits; ++i)
+        result = result << 1 | (value >> i & 1);
+    return result;
+}
+
+std::uint64_t highestFirst(std::vector<std::uint8_t> bytes, std::uint64_t sum, std::uint64_t polynomial)
+{
+    for (std::uint8_t &byte : bytes)
+        byte = static_cast<std::uint8_t>(turned(byte, 8));
+    return turned(checksumBitByBit<std::uint64_t>(bytes, turned(sum), turned(polynomial)));
+}
+
 } // namespace
 
 TEST(DwgBits, AreTheSameAtAnyPlace)
@@ -186,6 +220,16 @@ TEST(DwgChecksums, AreThoseOfTheirDefinitions)
         const std::vector<std::uint8_t> bytes = anyBytes(size, random);
         EXPECT_EQ(checksum16(bytes, 0xc0c1), checksumBitByBit<std::uint16_t>(bytes, 0xc0c1, 0xa001)) << size;
         EXPECT_EQ(checksum32(bytes, 7), ~checksumBitByBit<std::uint32_t>(bytes, ~7U, 0xedb88320)) << size;
+        const std::vector<std::uint8_t> ordered = orderedOf2007(bytes);
+        const std::uint64_t first = size * 214013 + 2531011;
+        const std::uint64_t second = first * 214013 + 2531011;
+        const std::uint64_t ofPage = (second & 0xffffffff) << 32 | first;
+        EXPECT_EQ(pageChecksum2007(bytes), pageChecksum(ordered, static_cast<std::uint32_t>(first))) << size;
+        EXPECT_EQ(packedChecksum2007(bytes), checksumBitByBit<std::uint64_t>(ordered, ~ofPage, 0x95ac9329ac4bc9b5))
+            << size;
+        EXPECT_EQ(headerChecksum2007(bytes),
+                  ~highestFirst(ordered, ~((first << 32) + second + size), 0x42f0e1eba9ea3693))
+            << size;
     }
 }
 

@@ -1,7 +1,8 @@
 // Damage to what holds a drawing together, in files that are made here: what can be put right is, the rest is told, and
 // everything that is not hit comes out.
 
-#include "host/dwg/bits/ErrorCorrection.h"
+#include "host/dwg/bits/Checksums.h"
+#include "host/dwg/container/CorrectedPages.h"
 #include "host/dwg/container/Pages.h"
 #include "tests/dwg/making/ReadBack.h"
 
@@ -56,6 +57,41 @@ void invert(FileBytes &file, std::size_t from, std::size_t count)
         file[i] ^= 0xff;
 }
 
+/// Changes the own bytes of a page of R2007 and makes its blocks anew, so that nothing is put right.
+void rewritePage(FileBytes &file, std::size_t place, std::size_t blocks, ErrorCode code,
+                 const std::function<void(FileBytes &)> &change)
+{
+    const Bytes page = Bytes(file).subspan(place, blocks * correctedBlock);
+    FileBytes own = ownBytesOf(page, code);
+    change(own);
+    std::ranges::copy(correctedBlocks(code, own), file.begin() + static_cast<std::ptrdiff_t>(place));
+}
+
+constexpr std::size_t correctedHead = 32; ///< in front of the header's numbers
+
+/// Changes a byte of the header of R2007, in front and in its copy at the end.
+void changeHeaders(FileBytes &file, const std::function<void(FileBytes &)> &change)
+{
+    for (const std::size_t place : {std::size_t(0x80), file.size() - 0x400})
+        rewritePage(file, place, 3, ErrorCode::Maps, change);
+}
+
+/// A number of the header, with checksums that fit.
+void changeNumber(FileBytes &file, std::size_t number)
+{
+    changeHeaders(file, [number](FileBytes &own) {
+        own[correctedHead + 8 * number] ^= 1;
+        const auto plain = own.begin() + correctedHead;
+        const auto store = [](std::uint64_t value, FileBytes::iterator to) {
+            for (int i = 0; i < 8; ++i)
+                *to++ = static_cast<std::uint8_t>(value >> 8 * i);
+        };
+        store(0, plain + 33 * 8);
+        store(headerChecksum2007({plain, 34 * 8}), plain + 33 * 8);
+        store(headerChecksum2007({plain, 34 * 8}), own.begin() + 16);
+    });
+}
+
 const DamageRow correctedRows[] = {
     {"a byte of the header", Release::R2007, [](FileBytes &file) { file[0x90] ^= 1; },
      "1 damaged bytes were put right.\n"},
@@ -70,6 +106,29 @@ const DamageRow correctedRows[] = {
      },
      "The header of the file cannot be read.\nThe file has no map of its objects.\nThe file has no objects.\n", false},
     {"the file is cut behind its pages", Release::R2007, [](FileBytes &file) { file.resize(file.size() - 0x400); }, ""},
+    {"a number of the header that its blocks do not tell", Release::R2007,
+     [](FileBytes &file) {
+         rewritePage(file, 0x80, 3, ErrorCode::Maps, [](FileBytes &own) { own[correctedHead + 8] ^= 1; });
+     },
+     "The header of the file is damaged; its copy was read.\n"},
+    {"the same in its copy", Release::R2007,
+     [](FileBytes &file) { changeHeaders(file, [](FileBytes &own) { own[correctedHead + 8] ^= 1; }); },
+     "The checksum of the file's header does not fit.\n"},
+    {"the checksum of the packed header", Release::R2007,
+     [](FileBytes &file) { changeHeaders(file, [](FileBytes &own) { own[16] ^= 1; }); },
+     "The checksum of the file's header does not fit.\n"},
+    {"the checksum of the packed map of pages", Release::R2007, [](FileBytes &file) { changeNumber(file, 2); },
+     "The checksum of the map of pages does not fit.\n"},
+    {"the checksum of the map of sections", Release::R2007, [](FileBytes &file) { changeNumber(file, 21); },
+     "The checksum of the map of sections does not fit.\n"},
+    {"a byte behind what a page has", Release::R2007,
+     [](FileBytes &file) { rewritePage(file, 0x480, 2, ErrorCode::Data, [](FileBytes &own) { own[499] ^= 1; }); }, ""},
+    {"a byte of a page that its blocks do not tell", Release::R2007,
+     [](FileBytes &file) { rewritePage(file, 0x480, 2, ErrorCode::Data, [](FileBytes &own) { own[0] ^= 1; }); },
+     "The checksum of a page of the section AcDb:Header does not fit.\n"
+     "The mark in front of the header's variables is missing.\nThe header's variables cannot be read.\n"
+     "The header does not tell where the tables are; they were looked for.\n",
+     false},
     // The header's variables are the first page, of two blocks.
     {"two bytes of each block of a page", Release::R2007, [](FileBytes &file) { invert(file, 0x480, 2 * 2); },
      "4 damaged bytes were put right.\n"},

@@ -1,7 +1,7 @@
 #include "host/dwg/bits/Checksums.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <array>
 
 namespace host::dwg {
 
@@ -34,6 +34,7 @@ constexpr ChecksumTables<Number> checksumTables()
 
 constexpr auto tables16 = checksumTables<std::uint16_t, 0xa001>();
 constexpr auto tables32 = checksumTables<std::uint32_t, 0xedb88320>();
+constexpr auto tables64 = checksumTables<std::uint64_t, 0x95ac9329ac4bc9b5>();
 
 template <typename Number>
 Number checksumOf(Bytes bytes, Number sum, const ChecksumTables<Number> &tables)
@@ -55,18 +56,18 @@ Number checksumOf(Bytes bytes, Number sum, const ChecksumTables<Number> &tables)
 class PageSums
 {
 public:
-    /// As many bytes as can be summed before the second sum has to be reduced; a multiple of 8.
+    /// As many bytes as can be summed before the second sum has to be reduced.
     static constexpr std::size_t run = 0x15b0;
 
     explicit PageSums(std::uint32_t seed) : m_first(seed & 0xffff), m_second(seed >> 16) {}
 
-    void add(std::uint8_t byte)
+    /// At most as many as a run has.
+    void add(Bytes bytes)
     {
-        m_first += byte;
-        m_second += m_first;
-    }
-    void reduce()
-    {
+        for (const std::uint8_t byte : bytes) {
+            m_first += byte;
+            m_second += m_first;
+        }
         m_first %= modulus;
         m_second %= modulus;
     }
@@ -79,20 +80,30 @@ private:
     std::uint32_t m_second;
 };
 
-/// The order that R2007 takes bytes in: the pairs of eight backwards, those of four changed.
-void addInPairs(Bytes part, PageSums &sums)
+/// Gives the bytes, some at a time, in the order that R2007 takes them in: the pairs of eight backwards, then those of
+/// four, then the rest.
+template <typename Take>
+void takeInPairs(Bytes bytes, Take take)
 {
-    const auto add = [&](std::initializer_list<std::size_t> order) {
-        for (const std::size_t i : order)
-            sums.add(part[i]);
-        part = part.subspan(order.size());
-    };
-    while (part.size() >= 8)
-        add({6, 7, 4, 5, 2, 3, 0, 1});
-    if (part.size() >= 4)
-        add({2, 3, 0, 1});
-    while (!part.empty())
-        add({0});
+    std::array<std::uint8_t, 0x400> ordered{};
+    while (!bytes.empty()) {
+        const Bytes part = bytes.first(std::min(ordered.size(), bytes.size()));
+        std::copy(part.begin(), part.end(), ordered.begin());
+        const std::size_t eights = part.size() / 8 * 8;
+        for (std::size_t i = 0; i < eights; ++i)
+            ordered[i] = part[i ^ 6];
+        const std::size_t fours = part.size() / 4 * 4;
+        for (std::size_t i = eights; i < fours; ++i)
+            ordered[i] = part[i ^ 2];
+        take(Bytes(ordered).first(part.size()));
+        bytes = bytes.subspan(part.size());
+    }
+}
+
+/// The next number of the row that the checksums of R2007 begin with, made of the length.
+constexpr std::uint64_t nextOfRow(std::uint64_t number)
+{
+    return number * 0x343fd + 0x269ec3;
 }
 
 } // namespace
@@ -112,9 +123,7 @@ std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed)
     PageSums sums(seed);
     while (!bytes.empty()) {
         const Bytes part = bytes.first(std::min(PageSums::run, bytes.size()));
-        for (const std::uint8_t byte : part)
-            sums.add(byte);
-        sums.reduce();
+        sums.add(part);
         bytes = bytes.subspan(part.size());
     }
     return sums.value();
@@ -122,14 +131,32 @@ std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed)
 
 std::uint32_t pageChecksum2007(Bytes bytes)
 {
-    PageSums sums(static_cast<std::uint32_t>(bytes.size()) * 0x343fd + 0x269ec3);
-    while (!bytes.empty()) {
-        const Bytes part = bytes.first(std::min(PageSums::run, bytes.size()));
-        addInPairs(part, sums);
-        sums.reduce();
-        bytes = bytes.subspan(part.size());
-    }
+    PageSums sums(static_cast<std::uint32_t>(nextOfRow(bytes.size())));
+    takeInPairs(bytes, [&](Bytes part) { sums.add(part); });
     return sums.value();
+}
+
+std::uint64_t packedChecksum2007(Bytes bytes)
+{
+    const auto first = static_cast<std::uint32_t>(nextOfRow(bytes.size()));
+    const auto second = static_cast<std::uint32_t>(nextOfRow(first));
+    std::uint64_t sum = ~(std::uint64_t(second) << 32 | first);
+    takeInPairs(bytes, [&](Bytes part) { sum = checksumOf(part, sum, tables64); });
+    return sum;
+}
+
+std::uint64_t headerChecksum2007(Bytes bytes)
+{
+    const std::uint64_t first = nextOfRow(bytes.size());
+    std::uint64_t sum = ~((first << 32) + nextOfRow(first) + bytes.size());
+    takeInPairs(bytes, [&](Bytes part) {
+        for (const std::uint8_t byte : part) {
+            sum ^= std::uint64_t(byte) << 56;
+            for (int bit = 0; bit < 8; ++bit)
+                sum = sum << 1 ^ ((sum >> 63) != 0 ? 0x42f0e1eba9ea3693 : 0);
+        }
+    });
+    return ~sum;
 }
 
 } // namespace host::dwg

@@ -1,99 +1,13 @@
 #include "host/dwg/bits/Checksums.h"
-#include "host/dwg/bits/ErrorCorrection.h"
 #include "host/dwg/container/Container.h"
+#include "host/dwg/container/CorrectedHeader.h"
 #include "host/dwg/container/Growth.h"
-#include "host/dwg/container/PageCompression2007.h"
-
-#include <algorithm>
 
 namespace host::dwg {
 
 namespace {
 
-using PageBytes = std::vector<std::uint8_t>;
-
-constexpr std::size_t headerPlace = 0x80;
-constexpr std::size_t pagesPlace = 0x480;
-
-/// The bytes that were put right in a page, and whether there were more.
-struct Correction
-{
-    std::size_t count = 0;
-    bool isWhole = true;
-};
-
-/// Puts each block of a page right. Their bytes stand in turn: the first of each, then the second of each.
-Correction correctPage(PageBytes &page, ErrorCode code)
-{
-    Correction correction;
-    const std::size_t blocks = page.size() / correctedBlock;
-    std::array<std::uint8_t, correctedBlock> block{};
-    for (std::size_t one = 0; one < blocks; ++one) {
-        for (std::size_t i = 0; i < correctedBlock; ++i)
-            block[i] = page[one + i * blocks];
-        const auto count = correctBlock(code, block);
-        correction.count += count.value_or(0);
-        correction.isWhole = correction.isWhole && count.has_value();
-        for (std::size_t i = 0; count.value_or(0) > 0 && i < correctedBlock; ++i)
-            page[one + i * blocks] = block[i];
-    }
-    return correction;
-}
-
-/// The blocks' own bytes, one block behind the other.
-PageBytes ownBytesOf(Bytes page, ErrorCode code)
-{
-    const std::size_t blocks = page.size() / correctedBlock;
-    PageBytes bytes(blocks * ownBytes(code));
-    auto to = bytes.begin();
-    for (std::size_t one = 0; one < blocks; ++one) {
-        for (std::size_t i = 0; i < ownBytes(code); ++i)
-            *to++ = page[one + i * blocks];
-    }
-    return bytes;
-}
-
-/// A number of bytes as they fill whole blocks.
-std::size_t blocksFor(std::uint64_t size, ErrorCode code)
-{
-    return (size + ownBytes(code) - 1) / ownBytes(code);
-}
-
-/// The bytes of a page: unpacked where they take less room than they say to be. False where they are damaged; what is
-/// in front of the damage is in `page` then.
-bool unpackInto(std::span<std::uint8_t> page, Bytes packed, std::uint64_t packedSize)
-{
-    if (packedSize > packed.size())
-        return false;
-    if (packedSize < page.size())
-        return unpackPage2007(packed.first(packedSize), page);
-    std::copy_n(packed.begin(), page.size(), page.begin());
-    return true;
-}
-
-std::optional<PageBytes> unpacked(Bytes packed, std::uint64_t packedSize, std::uint64_t size)
-{
-    if (packedSize > packed.size())
-        return std::nullopt;
-    PageBytes page(size);
-    return unpackInto(page, packed, packedSize) ? std::optional(std::move(page)) : std::nullopt;
-}
-
-/// Where one of the two maps is. Each has a copy.
-struct MapPlace
-{
-    std::uint64_t place = 0; ///< the number of its page for the map of sections
-    std::uint64_t copy = 0;
-    std::uint64_t packedSize = 0;
-    std::uint64_t size = 0;
-    std::uint64_t repeat = 0; ///< how often the bytes stand in the page
-};
-
-struct Maps2007
-{
-    MapPlace pages;
-    MapPlace sections;
-};
+constexpr std::size_t pagesPlace = CorrectedHeader::place + CorrectedHeader::room;
 
 struct Section2007
 {
@@ -113,18 +27,15 @@ public:
 
     void read(Container &container)
     {
-        const std::optional<Maps2007> maps = findHeader();
-        if (!maps)
+        const std::optional<CorrectedHeader> header = findHeader();
+        if (!header)
             return m_problems.lose("The header of the file cannot be read.");
-        auto pages = mapAt(maps->pages.place, maps->pages);
-        if (!pages)
-            pages = mapAt(maps->pages.copy, maps->pages);
+        const auto pages = findMap(header->pages, "pages", [](std::uint64_t place) { return std::optional(place); });
         if (!pages)
             return m_problems.lose("The map of the file's pages cannot be read.");
         readPageMap(*pages);
-        auto sections = mapOfPage(maps->sections.place, maps->sections);
-        if (!sections)
-            sections = mapOfPage(maps->sections.copy, maps->sections);
+        const auto sections =
+            findMap(header->sections, "sections", [this](std::uint64_t number) { return placeOfPage(number); });
         if (!sections)
             return m_problems.lose("The map of the file's sections cannot be read.");
         BitReader reader(*sections);
@@ -135,46 +46,30 @@ public:
     }
 
 private:
-    static constexpr std::size_t headerBlocks = 3;
-    static constexpr std::size_t headerRoom = 0x400; ///< in the file
-
-    /// The header in front, else its copy at the end of the file.
-    std::optional<Maps2007> findHeader()
+    /// The header in front, else its copy at the end of the file, else the one of both that can be read at all.
+    std::optional<CorrectedHeader> findHeader()
     {
         if (m_file.size() < pagesPlace)
             return std::nullopt;
-        auto maps = readHeader(m_file.subspan(headerPlace, headerBlocks * correctedBlock));
-        if (!maps && m_file.size() >= pagesPlace + headerRoom) {
-            maps = readHeader(m_file.last(headerRoom).first(headerBlocks * correctedBlock));
-            if (maps)
-                m_problems.warn("The header of the file is damaged; its copy was read.");
+        const auto header = headerAt(CorrectedHeader::place);
+        if (header && header->checksumFits)
+            return header;
+        const bool hasCopy = m_file.size() >= pagesPlace + CorrectedHeader::room;
+        const auto copy = hasCopy ? headerAt(m_file.size() - CorrectedHeader::room) : std::nullopt;
+        if (copy && (copy->checksumFits || !header)) {
+            m_problems.warn("The header of the file is damaged; its copy was read.");
+            return copy;
         }
-        return maps;
+        if (header)
+            m_problems.warn("The checksum of the file's header does not fit.");
+        return header;
     }
 
-    std::optional<Maps2007> readHeader(Bytes bytes)
+    std::optional<CorrectedHeader> headerAt(std::size_t place)
     {
-        constexpr std::size_t headSize = 32;
-        constexpr std::size_t unpackedSize = 0x110;
-        const auto page = correctedPage(bytes, ErrorCode::Maps);
-        if (!page)
-            return std::nullopt;
-        BitReader head(*page);
-        head.seek(24 * 8);
-        // Below 0 for one that is not packed.
-        const auto packedSize = static_cast<std::int32_t>(head.raw32());
-        const std::uint64_t size = static_cast<std::uint64_t>(packedSize < 0 ? -std::int64_t(packedSize) : packedSize);
-        const Bytes content = Bytes(*page).subspan(headSize);
-        const bool isPlain = packedSize < 0;
-        const auto plain = !isPlain || size >= unpackedSize ? unpacked(content, size, unpackedSize) : std::nullopt;
-        if (!plain)
-            return std::nullopt;
-        std::array<std::uint64_t, unpackedSize / 8> numbers{};
-        BitReader reader(*plain);
-        for (std::uint64_t &number : numbers)
-            number = reader.raw64();
-        return Maps2007{{numbers[7], numbers[5], numbers[10], numbers[11], numbers[3]},
-                        {numbers[24], numbers[23], numbers[22], numbers[25], numbers[27]}};
+        const auto page =
+            correctedPage(m_file.subspan(place, CorrectedHeader::blocks * correctedBlock), ErrorCode::Maps);
+        return page ? readCorrectedHeader(*page) : std::nullopt;
     }
 
     /// The bytes of a page's blocks, put right; nothing where they are damaged beyond that.
@@ -188,20 +83,50 @@ private:
         return ownBytesOf(page, code);
     }
 
-    std::optional<PageBytes> mapAt(std::uint64_t place, const MapPlace &map)
+    /// A map where its checksums fit, else its copy, else the one of both that can be read at all. `placeOf` makes
+    /// places of what the header has.
+    template <typename PlaceOf>
+    std::optional<PageBytes> findMap(const MapPlace &map, std::string_view name, PlaceOf placeOf)
+    {
+        std::optional<PageBytes> found;
+        for (const std::uint64_t told : {map.place, map.copy}) {
+            const auto place = placeOf(told);
+            auto read = place ? mapAt(*place, map) : std::nullopt;
+            if (read && read->checksumFits)
+                return std::move(read->bytes);
+            if (read && !found)
+                found = std::move(read->bytes);
+        }
+        if (found)
+            m_problems.warn("The checksum of the map of " + std::string(name) + " does not fit.");
+        return found;
+    }
+
+    struct Map
+    {
+        PageBytes bytes;
+        bool checksumFits = false;
+    };
+
+    std::optional<Map> mapAt(std::uint64_t place, const MapPlace &map)
     {
         if (map.packedSize > m_file.size() || map.size > largestMap(m_file.size()) || map.repeat > 1000)
             return std::nullopt;
         const Bytes bytes =
             pageAt(place, blocksFor((map.packedSize + 7) / 8 * 8 * map.repeat, ErrorCode::Maps) * correctedBlock);
         const auto page = bytes.empty() ? std::nullopt : correctedPage(bytes, ErrorCode::Maps);
-        return page ? unpacked(*page, map.packedSize, map.size) : std::nullopt;
+        auto plain = page ? unpacked(*page, map.packedSize, map.size) : std::nullopt;
+        if (!plain)
+            return std::nullopt;
+        const bool fits = packedChecksum2007(Bytes(*page).first(map.packedSize)) == map.packedChecksum &&
+                          packedChecksum2007(*plain) == map.checksum;
+        return Map{std::move(*plain), fits};
     }
 
-    std::optional<PageBytes> mapOfPage(std::uint64_t number, const MapPlace &map)
+    std::optional<std::uint64_t> placeOfPage(std::uint64_t number) const
     {
         const auto found = m_pages.find(static_cast<std::int64_t>(number));
-        return found != m_pages.end() ? mapAt(found->second, map) : std::nullopt;
+        return found != m_pages.end() ? std::optional(found->second) : std::nullopt;
     }
 
     /// Empty when the file ends before.
@@ -255,33 +180,63 @@ private:
         constexpr std::uint64_t withCorrection = 4;
         const std::uint64_t start = reader.raw64();
         reader.raw64(); // its size in the file
-        const auto number = static_cast<std::int64_t>(reader.raw64());
+        const auto place = placeOfPage(reader.raw64());
         const std::uint64_t size = reader.raw64();
-        const std::uint64_t packedSize = reader.raw64();
-        const auto checksum = static_cast<std::uint32_t>(reader.raw64());
-        reader.raw64(); // another one, of 64 bits
-        const auto found = m_pages.find(number);
-        if (found == m_pages.end() || start > bytes.size() || size > bytes.size() - start ||
-            packedSize > m_file.size() || !m_work.take(size + packedSize))
+        PackedPage packed;
+        packed.size = reader.raw64();
+        packed.checksum = static_cast<std::uint32_t>(reader.raw64());
+        packed.packedChecksum = reader.raw64();
+        if (!place || start > bytes.size() || size > bytes.size() - start || packed.size > m_file.size() ||
+            !m_work.take(size + packed.size))
             return false;
+        packed.place = *place;
         const auto page = bytes.subspan(start, size);
-        const bool isUnpacked = section.encoding == withCorrection
-                                    ? readBlocks(found->second, packedSize, page, checksum)
-                                    : unpackInto(page, pageAt(found->second, packedSize), packedSize);
-        if (isUnpacked && pageChecksum2007(page) != checksum)
+        const PageState state = section.encoding == withCorrection ? readBlocks(packed, page) : readPlain(packed, page);
+        if (state == PageState::Doubtful)
             m_problems.warn("The checksum of a page of the section " + section.name + " does not fit.");
-        return isUnpacked;
+        return state != PageState::Damaged;
     }
 
-    /// Blocks are looked at for damaged bytes only where the checksum tells that there are any.
-    bool readBlocks(std::uint64_t place, std::uint64_t packedSize, std::span<std::uint8_t> page, std::uint32_t checksum)
+    /// Where a page stands, and the checksums of its two forms.
+    struct PackedPage
     {
-        const Bytes bytes = pageAt(place, blocksFor((packedSize + 7) / 8 * 8, ErrorCode::Data) * correctedBlock);
-        if (unpackInto(page, ownBytesOf(bytes, ErrorCode::Data), packedSize) && pageChecksum2007(page) == checksum)
-            return true;
+        std::uint64_t place = 0;
+        std::uint64_t size = 0;
+        std::uint32_t checksum = 0; ///< of what it unpacks to
+        std::uint64_t packedChecksum = 0;
+    };
+
+    enum class PageState
+    {
+        Whole,
+        Doubtful, ///< a checksum does not fit
+        Damaged,  ///< only what is in front of the damage was read
+    };
+
+    static PageState unpackPage(const PackedPage &packed, Bytes own, std::span<std::uint8_t> page)
+    {
+        if (!unpackInto(page, own, packed.size))
+            return PageState::Damaged;
+        const bool fits = pageChecksum2007(page) == packed.checksum &&
+                          packedChecksum2007(own.first(packed.size)) == packed.packedChecksum;
+        return fits ? PageState::Whole : PageState::Doubtful;
+    }
+
+    PageState readPlain(const PackedPage &packed, std::span<std::uint8_t> page) const
+    {
+        return unpackPage(packed, pageAt(packed.place, packed.size), page);
+    }
+
+    /// Blocks are looked at for damaged bytes only where the checksums tell that there are any.
+    PageState readBlocks(const PackedPage &packed, std::span<std::uint8_t> page)
+    {
+        const Bytes bytes =
+            pageAt(packed.place, blocksFor((packed.size + 7) / 8 * 8, ErrorCode::Data) * correctedBlock);
+        if (unpackPage(packed, ownBytesOf(bytes, ErrorCode::Data), page) == PageState::Whole)
+            return PageState::Whole;
         PageBytes blocks(bytes.begin(), bytes.end());
         m_corrected += correctPage(blocks, ErrorCode::Data).count;
-        return unpackInto(page, ownBytesOf(blocks, ErrorCode::Data), packedSize);
+        return unpackPage(packed, ownBytesOf(blocks, ErrorCode::Data), page);
     }
 
     Bytes m_file;

@@ -109,6 +109,9 @@ public:
         numbers[23] = sectionPages[1];
         numbers[24] = sectionPages[0];
         numbers[27] = 1;
+        numbers[2] = numbers[16] = packedChecksum2007(pages);
+        numbers[21] = numbers[26] = packedChecksum2007(sectionMap);
+        numbers[33] = headerChecksum2007(bytesOf(numbers));
         return wholeFile(headerPage(numbers));
     }
 
@@ -117,14 +120,23 @@ private:
 
     static FileBytes mapPage(const FileBytes &content) { return correctedBlocks(ErrorCode::Maps, content); }
 
+    static FileBytes bytesOf(std::span<const std::uint64_t> numbers)
+    {
+        BitWriter writer;
+        for (const std::uint64_t number : numbers)
+            writer.raw64(number);
+        return writer.bytes();
+    }
+
     static FileBytes headerPage(const std::array<std::uint64_t, 34> &numbers)
     {
+        const FileBytes plain = bytesOf(numbers);
         BitWriter header;
-        header.append(FileBytes(24, 0));
-        header.raw32(static_cast<std::uint32_t>(-static_cast<int>(sizeof numbers))); // not packed
+        header.append(FileBytes(16, 0));
+        header.raw64(headerChecksum2007(plain));
+        header.raw32(static_cast<std::uint32_t>(-static_cast<int>(plain.size()))); // not packed
         header.raw32(0);
-        for (const std::uint64_t number : numbers)
-            header.raw64(number);
+        header.append(plain);
         FileBytes content = header.bytes();
         content.resize(3 * ownBytes(ErrorCode::Maps));
         FileBytes page = correctedBlocks(ErrorCode::Maps, content);
@@ -173,7 +185,7 @@ private:
         description.raw64(size);
         description.raw64(size); // not packed
         description.raw64(pageChecksum2007(content));
-        description.raw64(0);
+        description.raw64(packedChecksum2007(content));
     }
 
     std::size_t addPage(FileBytes page)
