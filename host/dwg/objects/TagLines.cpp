@@ -1,10 +1,11 @@
 #include "host/dwg/objects/TagLines.h"
 
+#include "host/dwg/objects/RealText.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
-#include <cmath>
 #include <cstring>
 #include <numeric>
 
@@ -57,37 +58,6 @@ char *putCode(int code, char *to)
     to = std::copy(text.begin(), text.end(), to);
     *to++ = '\n';
     return to;
-}
-
-/// Whole numbers that are exact, which are quicker written as such.
-bool hasPlainDigits(double value)
-{
-    constexpr double exact = 1e15;
-    if (!(std::abs(value) < exact) || std::signbit(value) != (value < 0.0))
-        return false;
-    const auto whole = static_cast<std::int64_t>(value);
-    return static_cast<double>(whole) == value;
-}
-
-char *putReal(double value, char *to)
-{
-    constexpr std::string_view fraction = ".0";
-    if (std::bit_cast<std::uint64_t>(value) == 0) {
-        *to++ = '0';
-        return std::copy(fraction.begin(), fraction.end(), to);
-    }
-    if (hasPlainDigits(value)) {
-        to = std::to_chars(to, to + mostOfANumber, static_cast<std::int64_t>(value)).ptr;
-        return std::copy(fraction.begin(), fraction.end(), to);
-    }
-    // Powers of ten stand where other programs have them, which write 16 digits.
-    const double size = std::isfinite(value) ? std::abs(value) : 0.0;
-    const bool isFixed = size == 0.0 || (size >= 1e-4 && size < 1e16);
-    char *const end = std::to_chars(to, to + mostOfANumber, std::isfinite(value) ? value : 0.0,
-                                    isFixed ? std::chars_format::fixed : std::chars_format::scientific)
-                          .ptr;
-    const bool isWhole = std::none_of(to, end, [](char c) { return c == '.' || c == 'e'; });
-    return isWhole ? std::copy(fraction.begin(), fraction.end(), end) : end;
 }
 
 bool needsCaret(char c)
@@ -165,7 +135,7 @@ void TagLines::addInteger(int code, std::int64_t value)
 
 void TagLines::addReal(int code, double value)
 {
-    finish(code, putReal(value, begin(code, mostOfANumber)));
+    finish(code, writeReal(value, begin(code, mostOfAReal)));
 }
 
 void TagLines::addHandle(int code, std::uint64_t handle)
