@@ -56,17 +56,40 @@ std::uint64_t HandleReference::from(std::uint64_t from) const
 void BitReader::seek(std::size_t position)
 {
     if (position > m_end)
-        m_hasFailed = true;
+        fail();
     else
-        m_at = position;
+        moveTo(position);
 }
 
 void BitReader::endAt(std::size_t position)
 {
-    if (position < m_at || position > m_end)
-        m_hasFailed = true;
-    else
-        m_end = position;
+    if (position < m_at || position > m_end) {
+        fail();
+        return;
+    }
+    m_end = position;
+    moveTo(m_at);
+}
+
+bool BitReader::lookAhead(std::size_t count)
+{
+    if (!isThere(count))
+        return false;
+    m_ahead = ahead();
+    m_seen = std::min(m_at / 8 * 8 + wordBits, m_end);
+    return true;
+}
+
+std::uint64_t BitReader::raw64()
+{
+    if (!isThere(wordBits))
+        return 0;
+    // The last bits stand in a ninth byte, unless the first one begins a byte.
+    const std::uint64_t last = m_bytes[(m_at + wordBits - 1) / 8] >> (8 - m_at % 8);
+    const std::uint64_t value = ahead() | last;
+    moveTo(m_at + wordBits);
+    return static_cast<std::uint64_t>(lowestFirst(static_cast<std::uint32_t>(value))) << 32 |
+           lowestFirst(static_cast<std::uint32_t>(value >> 32));
 }
 
 std::uint64_t BitReader::aheadInFewBytes() const
@@ -86,13 +109,13 @@ std::string BitReader::rawBytes(std::size_t count)
 
 void BitReader::appendRawBytes(std::size_t count, std::string &bytes)
 {
-    if (count > left() / 8 || !take(count * 8)) {
-        m_hasFailed = true;
+    if (count > left() / 8 || !isThere(count * 8)) {
+        fail();
         return;
     }
     const std::uint8_t *from = m_bytes + m_at / 8;
     const unsigned shift = m_at % 8;
-    m_at += count * 8;
+    moveTo(m_at + count * 8);
     if (shift == 0) {
         bytes.append(reinterpret_cast<const char *>(from), count);
         return;
@@ -162,7 +185,7 @@ std::uint64_t BitReader::modularUnsigned()
         if ((next & 0x80) == 0)
             return value;
     }
-    m_hasFailed = true;
+    fail();
     return 0;
 }
 
@@ -177,7 +200,7 @@ std::int64_t BitReader::modularSigned()
         }
         value |= (next & 0x7f) << shift;
     }
-    m_hasFailed = true;
+    fail();
     return 0;
 }
 
@@ -190,7 +213,7 @@ std::uint32_t BitReader::modularShort()
         if ((next & 0x8000) == 0)
             return value;
     }
-    m_hasFailed = true;
+    fail();
     return 0;
 }
 
@@ -201,7 +224,7 @@ HandleReference BitReader::handle()
     const std::uint64_t word = ahead();
     const std::size_t size = word >> 56 & 0xf;
     if (size <= mostInAWord && left() >= headBits + 8 * size && !m_hasFailed) {
-        m_at += headBits + 8 * size;
+        moveTo(m_at + headBits + 8 * size);
         return {static_cast<int>(word >> 60), word << headBits >> 1 >> (63 - 8 * size)};
     }
     return longHandle();
@@ -214,7 +237,7 @@ HandleReference BitReader::longHandle()
     reference.kind = static_cast<int>(bits(4));
     const int count = static_cast<int>(bits(4));
     if (count > 8) {
-        m_hasFailed = true;
+        fail();
         return {};
     }
     if (count > mostAtOnce)
@@ -265,7 +288,7 @@ std::size_t BitReader::takeAscii(std::size_t units, std::string &text)
         text[taken] = static_cast<char>(next >> 40);
         text[taken + 1] = static_cast<char>(next >> 24);
         text[taken + 2] = static_cast<char>(next >> 8);
-        m_at += 16 * unitsAtOnce;
+        moveTo(m_at + 16 * unitsAtOnce);
     }
     text.resize(taken);
     return taken;
@@ -274,7 +297,7 @@ std::size_t BitReader::takeAscii(std::size_t units, std::string &text)
 std::string BitReader::utf16(std::size_t units)
 {
     if (m_hasFailed || units > left() / 16) {
-        m_hasFailed = true;
+        fail();
         return {};
     }
     std::string text;

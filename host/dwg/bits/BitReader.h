@@ -80,7 +80,7 @@ public:
     /// The bits from `first` to before `end`; both are cut to what is there.
     BitReader(Bytes bytes, std::size_t first, std::size_t end)
         : m_bytes(bytes.data()), m_size(bytes.size()), m_at(std::min(first, bytes.size() * 8)),
-          m_end(std::clamp(end, m_at, bytes.size() * 8))
+          m_end(std::clamp(end, m_at, bytes.size() * 8)), m_seen(m_at)
     {
     }
 
@@ -92,25 +92,31 @@ public:
     void seek(std::size_t position);
     void skip(std::size_t bits)
     {
-        if (take(bits))
-            m_at += bits;
+        if (isThere(bits))
+            moveTo(m_at + bits);
     }
     /// To the next whole byte.
-    void align() { m_at = std::min((m_at + 7) / 8 * 8, m_end); }
+    void align() { moveTo(std::min((m_at + 7) / 8 * 8, m_end)); }
     /// Ends earlier, at a bit counted from the first of all bytes; fails when that is behind.
     void endAt(std::size_t position);
-    void fail() { m_hasFailed = true; }
+    void fail()
+    {
+        m_hasFailed = true;
+        m_seen = m_at;
+    }
 
     // Raw values: the bits as they are.
     bool bit() { return bits(1) != 0; }
     /// Up to 32 bits, the first one the highest.
     std::uint32_t bits(int count)
     {
-        if (!take(static_cast<std::size_t>(count)))
+        const auto wanted = static_cast<std::size_t>(count);
+        if (wanted > m_seen - m_at && !lookAhead(wanted))
             return 0;
         // In two steps, as no bit at all would have to be shifted by all 64.
-        const auto value = static_cast<std::uint32_t>(ahead() >> 1 >> (63 - count));
-        m_at += static_cast<std::size_t>(count);
+        const auto value = static_cast<std::uint32_t>(m_ahead >> 1 >> (63 - count));
+        m_ahead <<= count;
+        m_at += wanted;
         return value;
     }
     std::uint8_t byte() { return static_cast<std::uint8_t>(bits(8)); }
@@ -120,13 +126,7 @@ public:
         return static_cast<std::uint16_t>(value >> 8 | value << 8);
     }
     std::uint32_t raw32() { return lowestFirst(bits(32)); }
-    std::uint64_t raw64()
-    {
-        if (!take(64))
-            return 0;
-        const std::uint64_t low = raw32();
-        return low | static_cast<std::uint64_t>(raw32()) << 32;
-    }
+    std::uint64_t raw64();
     double rawReal() { return std::bit_cast<double>(raw64()); }
     /// `count` bytes, whole or none.
     std::string rawBytes(std::size_t count);
@@ -197,14 +197,24 @@ public:
     std::string utf16(std::size_t units);
 
 private:
-    bool take(std::size_t count)
+    static constexpr std::size_t wordBits = 64;
+
+    /// Whether as many bits are left; fails otherwise.
+    bool isThere(std::size_t count)
     {
         if (m_hasFailed || count > m_end - m_at)
-            m_hasFailed = true;
+            fail();
         return !m_hasFailed;
     }
+    /// Takes as many bits into m_ahead as it has room for. Fails where they are less than `count`.
+    bool lookAhead(std::size_t count);
+    void moveTo(std::size_t position)
+    {
+        m_at = position;
+        m_seen = position;
+    }
 
-    /// The bits from here on in the highest places: 57 or more of them, as far as there are bytes.
+    /// The bits from here on in the highest places: to the end of the eighth byte, as far as there are bytes.
     std::uint64_t ahead() const
     {
         constexpr std::size_t wordSize = sizeof(std::uint64_t);
@@ -232,6 +242,9 @@ private:
     std::size_t m_size = 0; ///< in bytes
     std::size_t m_at = 0;
     std::size_t m_end = 0;
+    // The bits from here to before m_seen, in the highest places, so that most calls look at nothing else.
+    std::uint64_t m_ahead = 0;
+    std::size_t m_seen = 0;
     bool m_hasFailed = false;
 };
 
