@@ -153,6 +153,57 @@ TEST(DwgFiles, ThatAreDamagedMakeDrawingsOrNothing)
         expectDrawingsOfChanged(contents(corpus + u"/../dwg/"_s + name), 20, name.toStdString());
 }
 
+struct PageRow
+{
+    int number;
+    const char *bytes;
+    QString text;
+};
+
+TEST(DwgFiles, HaveTextsInThePageThatTheyTell)
+{
+    const PageRow rows[] = {
+        {3, "\xF8", u"ř"_s},
+        {11, "\x8E\x94\xE1\x82", u"Äößé"_s},
+        {12, "\x8E\x94\xE1\x82\x9B", u"Äößéø"_s},
+        {13, "\xFD", u"ř"_s},
+        {22, "\x83\x5E", u"タ"_s},
+        {23, "\x80", u"Ä"_s},
+        {24, "\xA6\x5E", u"回"_s},
+        {25, "\xC7\xD1", u"한"_s},
+        {26, "\xD0\x65", u"한"_s},
+        {27, "\x91", u"С"_s},
+        {28, "\xF8", u"ř"_s},
+        {29, "\xD1", u"С"_s},
+        {30, "\xC4", u"Ä"_s},
+        {31, "\xD6\xD0", u"中"_s},
+        {32, "\xC1", u"Α"_s},
+        {33, "\xFD", u"ı"_s},
+        {34, "\xF9", u"ש"_s},
+        {35, "\xC7", u"ا"_s},
+        {36, "\xE0", u"ą"_s},
+        {37, "\xA1", u"ก"_s},
+        {38, "\x95\x5C\x83\x5E^", u"表タ^"_s},
+        {39, "\xD6\xD0\xB6^", u"中禴"_s},
+        {40, "\xC7\xD1", u"한"_s},
+        {41, "\xA4\xA4", u"中"_s},
+        {42, "\xD0\x65", u"한"_s},
+        {44, "\xD0", u"Đ"_s},
+    };
+    for (const Release release : {Release::R13, Release::R2000, Release::R2004}) {
+        for (const PageRow &row : rows) {
+            MadeDrawing made(release);
+            made.setCodePage(row.number);
+            made.addText(row.bytes, row.bytes);
+            const ReadResult read = Drawing::fromBytes(bytesOf(made.file()));
+            ASSERT_TRUE(read) << read.error.message().toStdString();
+            EXPECT_FALSE(read.drawing->readingNotes().hasFaults());
+            const Dictionaries &dictionaries = read.drawing->dictionaries();
+            EXPECT_EQ(dictionaries.xrecord(dictionaries.root(), row.text), FieldList({{1, row.text}})) << row.number;
+        }
+    }
+}
+
 TEST(DwgFiles, HaveNoRecordsWithinRecords)
 {
     MadeDrawing made(Release::R2000);

@@ -260,14 +260,16 @@ int BitReader::objectType(Release release)
     }
 }
 
+std::string BitReader::rawText(std::size_t count)
+{
+    std::string text = rawBytes(count);
+    text.resize(std::min(text.size(), text.find('\0')));
+    return text;
+}
+
 std::string BitReader::text8()
 {
-    const auto length = static_cast<std::uint16_t>(shortInteger());
-    std::string text = rawBytes(length);
-    // Some writers count a zero at the end.
-    while (!text.empty() && text.back() == '\0')
-        text.pop_back();
-    return text;
+    return rawText(static_cast<std::uint16_t>(shortInteger()));
 }
 
 std::string BitReader::text16()
@@ -318,8 +320,7 @@ std::string BitReader::utf16(std::size_t units)
     }
     if (pending != 0)
         appendUtf8(text, 0xfffd);
-    while (!text.empty() && text.back() == '\0')
-        text.pop_back();
+    text.resize(std::min(text.size(), text.find('\0')));
     return text;
 }
 

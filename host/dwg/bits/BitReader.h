@@ -132,6 +132,8 @@ public:
     std::string rawBytes(std::size_t count);
     /// The same, put behind what is in `bytes`.
     void appendRawBytes(std::size_t count, std::string &bytes);
+    /// `count` bytes that are a text: a zero ends it.
+    std::string rawText(std::size_t count);
 
     // Coded values.
     int pair() { return static_cast<int>(bits(2)); }
@@ -189,9 +191,10 @@ public:
     HandleReference handle();
     /// A type of an object: a short integer before R2010.
     int objectType(Release release);
-    /// A text with its length in front, in the file's code page.
+    // Texts, which a zero ends wherever it stands: it ends them in programs that write drawings.
+    /// With its length in front, in the file's code page.
     std::string text8();
-    /// A text of UTF-16, as UTF-8. Halves of pairs that stand alone become U+FFFD.
+    /// Of UTF-16, as UTF-8. Halves of pairs that stand alone become U+FFFD.
     std::string text16();
     /// `units` units of UTF-16 without a length.
     std::string utf16(std::size_t units);

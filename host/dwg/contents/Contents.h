@@ -66,7 +66,4 @@ struct FileProperty
 /// its revision, then those with names of their own; as many as can be read.
 std::vector<FileProperty> readSummary(const Container &container);
 
-/// The name that $DWGCODEPAGE has for the number of a code page.
-std::string_view codePageName(int number);
-
 } // namespace host::dwg

@@ -18,10 +18,7 @@ namespace {
 std::string summaryText(BitReader &reader, Release release)
 {
     const std::size_t length = reader.raw16();
-    std::string text = release >= Release::R2007 ? reader.utf16(length) : std::string(reader.rawBytes(length));
-    while (!text.empty() && text.back() == '\0')
-        text.pop_back();
-    return text;
+    return release >= Release::R2007 ? reader.utf16(length) : reader.rawText(length);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "host/dwg/bits/CodePages.h"
 #include "host/dwg/contents/HeaderTable.h"
 #include "host/dwg/drawing/DrawingRoots.h"
 #include "host/dwg/drawing/ObjectNames.h"
@@ -39,8 +40,23 @@ void addDerivedValues(Release release, HeaderValues &values)
         values["$HANDLING"] = tagLines(70, "1");
 }
 
+/// The page of the file's texts, and of the text form's up to R2004.
+std::string codePageOf(const Container &container, Problems &problems)
+{
+    std::string name(codePageName(container.codePage));
+    if (name.empty()) {
+        name = "ANSI_1252";
+        if (container.release <= Release::R2004)
+            problems.warn("The code page has the number " + std::to_string(container.codePage) +
+                          ", which is none that is known; texts are read as ANSI_1252.");
+    }
+    if (container.release == Release::R13)
+        std::ranges::transform(name, name.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? c | 0x20 : c; });
+    return name;
+}
+
 /// Variables that files have outside their header.
-void addFileValues(const Container &container, HeaderValues &values)
+void addFileValues(const Container &container, HeaderValues &values, Problems &problems)
 {
     const Release release = container.release;
     const auto measurement = readMeasurement(container);
@@ -49,10 +65,7 @@ void addFileValues(const Container &container, HeaderValues &values)
     values["$ACADVER"] = tagLines(1, "AC" + std::to_string(static_cast<int>(release)));
     if (release >= Release::R14)
         values["$ACADMAINTVER"] = tagLines(release >= Release::R2018 ? 90 : 70, std::to_string(container.maintenance));
-    std::string codePage(codePageName(container.codePage));
-    if (release == Release::R13)
-        std::ranges::transform(codePage, codePage.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? c | 0x20 : c; });
-    values["$DWGCODEPAGE"] = tagLines(3, codePage);
+    values["$DWGCODEPAGE"] = tagLines(3, codePageOf(container, problems));
 }
 
 /// The properties of the file that are not empty; who saved it last stands there in any case.
@@ -149,7 +162,7 @@ void writeHeaderSection(DrawingParts &parts)
     findRoots(parts.objects, records.names(), records.fields(), parts.header);
     records.setSpaces({parts.header.modelSpace, parts.header.paperSpace});
     addDerivedValues(parts.container.release, values);
-    addFileValues(parts.container, values);
+    addFileValues(parts.container, values, parts.objects.problems());
     addSummary(parts.container, records.fields(), values);
     addUsualStyles(parts, values);
     addCompanions(parts, values);

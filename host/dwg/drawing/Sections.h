@@ -18,6 +18,8 @@ struct DrawingParts
     DrawingParts(const Container &file, Problems &problems, std::string &text)
         : container(file), objects(file, problems), records(objects, text)
     {
+        if (file.release <= Release::R2004)
+            records.fields().setDoubleBytes(doubleBytesOf(file.codePage));
     }
 
     const Container &container;

@@ -1,5 +1,6 @@
 #include "host/dwg/early/EarlyDrawing.h"
 
+#include "host/dwg/early/EarlyCodePage.h"
 #include "host/dwg/early/EarlyFrames.h"
 #include "host/dwg/early/EarlyHeader.h"
 #include "host/dwg/early/EarlyRecord.h"
@@ -47,7 +48,7 @@ public:
     {
         if (m_file.release < Release::R9)
             m_problems.warn("The file is of a release before R9, and read by the layout of R9.");
-        writeEarlyHeader(m_file, m_names, m_text);
+        const std::size_t variables = writeEarlyHeader(m_file, m_names, m_text);
         writeEarlyTables(m_file, m_names, m_text, m_problems);
         beginSection("BLOCKS");
         for (const EarlyBlock &block : readEarlyBlocks(m_file, m_names))
@@ -57,6 +58,7 @@ public:
         writeRecords(m_file.entities.begin);
         writeMark("ENDSEC");
         writeMark("EOF");
+        tellCodePage(variables);
     }
 
 private:
@@ -67,6 +69,19 @@ private:
         Open,
         Dropped ///< of an entity that is deleted or lost
     };
+
+    /// Puts the variable that names the page to its place, where the texts tell it.
+    void tellCodePage(std::size_t place)
+    {
+        const EarlyCodePage page = earlyCodePageOf(m_text);
+        if (page == EarlyCodePage::Dos) {
+            m_text.insert(place, "  9\n$DWGCODEPAGE\n  3\ndos850\n");
+            m_problems.warn("The file does not tell the code page of its texts, which is one of DOS by their letters; "
+                            "they are read as dos850.");
+        } else if (page == EarlyCodePage::Unknown) {
+            m_problems.warn("The file does not tell the code page of its texts; they are read as ANSI_1252.");
+        }
+    }
 
     void writeMark(const char *type)
     {

@@ -25,7 +25,7 @@ private:
         constexpr int base = 1000;
         const int group = base + code;
         if (code == 0)
-            f.note(group, m_data.rawBytes(m_data.byte()));
+            f.note(group, m_data.rawText(m_data.byte()));
         else if (code == 1)
             noteName(group, EarlyTableKind::Applications);
         else if (code == 2)

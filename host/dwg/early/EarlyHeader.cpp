@@ -226,7 +226,7 @@ public:
             f.rawPoint(row.code);
             return;
         case EarlyKind::Text:
-            f.note(row.code, takeEarlyName(f.values(), earlyTextSize(row.name)));
+            f.note(row.code, f.values().rawText(earlyTextSize(row.name)));
             return;
         case EarlyKind::Date: {
             constexpr double millisecondsOfADay = 86400000.0;
@@ -267,7 +267,7 @@ private:
 
 } // namespace
 
-void writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::string &text)
+std::size_t writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::string &text)
 {
     const Names noNames;
     Fields fields(file.release, noNames);
@@ -277,6 +277,7 @@ void writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::strin
     fields.note(9, "$ACADVER");
     fields.note(1, "AC" + std::to_string(static_cast<int>(file.release)));
     fields.write(text);
+    const std::size_t place = text.size();
     EarlyHeaderReader reader(fields, names);
     for (const EarlyHeaderRow &row : earlyHeaderRows) {
         if (file.release < row.first || file.release > row.last)
@@ -291,6 +292,7 @@ void writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::strin
     fields.start({}, {}, {});
     fields.note(0, "ENDSEC");
     fields.write(text);
+    return place;
 }
 
 } // namespace host::dwg

@@ -4,7 +4,8 @@
 
 namespace host::dwg {
 
-/// Adds the section HEADER to `text`: the variables that the file's release has in the text form.
-void writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::string &text);
+/// Adds the section HEADER to `text`: the variables that the file's release has in the text form. Returns where
+/// the code page stands among them, which only texts tell.
+std::size_t writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::string &text);
 
 } // namespace host::dwg

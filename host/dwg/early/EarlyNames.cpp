@@ -13,17 +13,10 @@ EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table
     EarlyTableRecord record;
     record.body = BitReader(file.bytes, begin * 8, end * 8);
     record.flags = record.body.byte();
-    record.name = takeEarlyName(record.body, earlyNameSize);
+    record.name = record.body.rawText(earlyNameSize);
     if (file.isChecked())
         record.body.raw16();
     return record;
-}
-
-std::string takeEarlyName(BitReader &reader, std::size_t size)
-{
-    std::string name = reader.rawBytes(size);
-    name.resize(std::min(name.size(), name.find('\0')));
-    return name;
 }
 
 std::uint64_t takeEarlyHandle(BitReader &reader, int bytes)

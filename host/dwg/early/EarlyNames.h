@@ -33,9 +33,6 @@ private:
     std::array<std::vector<std::string>, static_cast<std::size_t>(EarlyTableKind::Count)> m_names;
 };
 
-/// A text of up to `size` bytes that ends early with a zero.
-std::string takeEarlyName(BitReader &reader, std::size_t size);
-
 /// A handle of up to eight bytes, the highest first.
 std::uint64_t takeEarlyHandle(BitReader &reader, int bytes);
 

@@ -161,7 +161,7 @@ void EarlyRecord::spacePoint(int code)
 
 std::string EarlyRecord::takeText()
 {
-    return f.values().rawBytes(f.values().raw16());
+    return f.values().rawText(f.values().raw16());
 }
 
 const EarlyType *earlyType(int number)

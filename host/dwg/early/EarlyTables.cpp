@@ -14,7 +14,7 @@ struct EarlyTableFields
     void byte(int code) { f.note(code, static_cast<int>(f.values().byte())); }
     void number(int code) { f.note(code, static_cast<std::int16_t>(f.values().raw16())); }
     void angle(int code) { f.noteAngle(code, f.rawReal()); }
-    void text(int code, std::size_t size) { f.note(code, takeEarlyName(f.values(), size)); }
+    void text(int code, std::size_t size) { f.note(code, f.values().rawText(size)); }
 };
 
 void readEarlyViewport(EarlyTableFields &r)

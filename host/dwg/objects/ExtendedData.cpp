@@ -20,7 +20,7 @@ std::string extensionText(BitReader &reader, Release release)
         return reader.utf16(reader.raw16());
     const std::size_t length = reader.byte();
     reader.skip(16);
-    return reader.rawBytes(length);
+    return reader.rawText(length);
 }
 
 bool noteExtensionValue(BitReader &reader, Fields &fields)
@@ -120,7 +120,7 @@ std::string recordText(BitReader &data, Release release)
     if (release >= Release::R2007)
         return data.utf16(length);
     data.skip(8); // the code page
-    return data.rawBytes(length);
+    return data.rawText(length);
 }
 
 /// The handle of eight bytes, the lowest first.

@@ -264,8 +264,8 @@ void Fields::noteLong(int code, int part, std::string_view text)
 {
     constexpr std::size_t mostOfATag = 250;
     while (text.size() > mostOfATag) {
-        std::size_t length = mostOfATag;
         // A character of several bytes is not cut.
+        std::size_t length = wholeCharacters(text, m_tags.doubleBytes(), mostOfATag);
         while (since(Release::R2007) && length > mostOfATag - 4 && (text[length] & 0xc0) == 0x80)
             --length;
         note(part, text.substr(0, length));

@@ -78,6 +78,9 @@ public:
 
     Fields(Release release, const Names &names) : m_release(release), m_names(names) {}
 
+    /// Which texts have characters of two bytes; up to R2004.
+    void setDoubleBytes(DoubleBytes page) { m_tags.setDoubleBytes(page); }
+
     /// Asks another object for its size; nothing where it is no text of paragraphs.
     using AskSize = std::function<std::optional<TextSize>(std::uint64_t)>;
     /// Where sizeOf() asks. Without it no object has a size.

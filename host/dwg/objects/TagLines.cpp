@@ -74,11 +74,18 @@ bool needsNoCaret(std::string_view text)
     return found == 0;
 }
 
-char *putText(std::string_view text, char *to)
+char *putText(std::string_view text, DoubleBytes page, char *to)
 {
     if (needsNoCaret(text))
         return std::copy(text.begin(), text.end(), to);
-    for (const char c : text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        // The second byte of a character may look like a sign.
+        if (beginsWithTwoBytes(text.substr(i), page)) {
+            *to++ = c;
+            *to++ = text[++i];
+            continue;
+        }
         // What would end the line, and the sign that stands for it.
         if (needsCaret(c))
             *to++ = '^';
@@ -149,7 +156,7 @@ void TagLines::addHandle(int code, std::uint64_t handle)
 
 void TagLines::addText(int code, std::string_view text)
 {
-    finish(code, putText(text, begin(code, 2 * text.size())));
+    finish(code, putText(text, m_doubleBytes, begin(code, 2 * text.size())));
 }
 
 void TagLines::addBytes(int code, std::string_view bytes)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/dwg/bits/CodePages.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -19,6 +21,9 @@ class TagLines
 public:
     /// Takes all tags back; keeps their room. Tags that would make the lines longer than `most` bytes are left out.
     void clear(std::size_t most = ~std::size_t(0));
+    /// Texts from now on are in such a code page.
+    void setDoubleBytes(DoubleBytes page) { m_doubleBytes = page; }
+    DoubleBytes doubleBytes() const { return m_doubleBytes; }
     /// Whether tags were left out.
     bool isFull() const { return m_isFull; }
 
@@ -75,6 +80,7 @@ private:
     std::size_t m_size = 0;
     std::size_t m_most = ~std::size_t(0); ///< bytes
     bool m_isFull = false;
+    DoubleBytes m_doubleBytes = DoubleBytes::None;
     std::vector<Tag> m_tags;
     bool m_isInOrder = true; ///< the tags are all that is in the lines, in their order
     // For arrange(), kept for their room.

@@ -246,6 +246,19 @@ std::uint64_t MadeDrawing::addOwned(const Type &type, std::uint64_t owner, Write
     return m_nextHandle++;
 }
 
+std::uint64_t MadeDrawing::addText(const std::string &name, const std::string &text)
+{
+    return addObject(XrecordType, name, [this, text](ObjectWriter &o) {
+        o.int32(static_cast<std::int32_t>(2 + 2 + 1 + text.size()));
+        o.values().raw16(1);
+        o.values().raw16(static_cast<std::uint32_t>(text.size()));
+        o.values().byte(m_codePage);
+        o.values().rawBytes(text);
+        if (o.since(Release::R2000))
+            o.int16(1);
+    });
+}
+
 std::uint64_t MadeDrawing::addEntry(int type, Write write)
 {
     const std::uint64_t table = tableFor(type);
@@ -389,7 +402,7 @@ std::vector<MadeDrawing::Object> MadeDrawing::linkedObjects() const
 
 MadeParts MadeDrawing::parts() const
 {
-    MadeParts parts{m_release, headerBytes(), classesBytes(), {}};
+    MadeParts parts{m_release, m_codePage, headerBytes(), classesBytes(), {}};
     for (const Object &object : linkedObjects()) {
         ObjectWriter o(m_release, object.head);
         if (object.write)

@@ -65,6 +65,8 @@ public:
     explicit MadeDrawing(Release release);
 
     Release release() const { return m_release; }
+    /// By its number; 30, which is ANSI_1252, unless it is set.
+    void setCodePage(int codePage) { m_codePage = codePage; }
 
     // Each gives the handle of what it adds.
 
@@ -76,6 +78,8 @@ public:
     std::uint64_t addObject(const Type &type, const std::string &name, Write write);
     /// Another object that no dictionary names.
     std::uint64_t addOwned(const Type &type, std::uint64_t owner, Write write);
+    /// An extension record with one text, in the dictionary of named objects. Up to R2004.
+    std::uint64_t addText(const std::string &name, const std::string &text);
     /// An entry of the table that is for this type: a layer, a block, a style of dimensions and so on.
     std::uint64_t addEntry(int type, Write write);
 
@@ -114,6 +118,7 @@ private:
     };
 
     Release m_release;
+    int m_codePage = 30;
     std::uint64_t m_nextHandle = MadeHandles::First;
     std::map<std::uint64_t, Object> m_objects;
     std::map<std::uint64_t, std::vector<std::uint64_t>> m_entries; ///< by the table's handle

@@ -9,7 +9,6 @@ namespace host::dwg::test {
 namespace {
 
 constexpr std::uint16_t checksumSeed = 0xc0c1;
-constexpr int codePage = 30;
 
 constexpr std::array<std::array<std::uint8_t, 16>, 2> beginMarks = {{
     {0xcf, 0x7b, 0x1f, 0x23, 0xfd, 0xde, 0x38, 0xa9, 0x5f, 0x7c, 0x68, 0xb8, 0x4e, 0x6d, 0x33, 0x5f},
@@ -39,15 +38,15 @@ struct Located
     std::uint32_t size = 0;
 };
 
-FileBytes headOf(Release release, const std::vector<Located> &table)
+FileBytes headOf(const MadeParts &parts, const std::vector<Located> &table)
 {
     BitWriter out;
-    out.rawBytes(versionOf(release));
+    out.rawBytes(versionOf(parts.release));
     out.append(FileBytes(6, 0));
     out.byte(1);
     out.raw32(0); // no preview
     out.raw16(0);
-    out.raw16(codePage);
+    out.raw16(static_cast<std::uint32_t>(parts.codePage));
     out.raw32(static_cast<std::uint32_t>(table.size()));
     for (const Located &one : table) {
         out.byte(one.number);
@@ -62,15 +61,15 @@ FileBytes headOf(Release release, const std::vector<Located> &table)
 }
 
 /// What tells at the end of the file again where the sections are.
-FileBytes secondHeader(Release release, std::uint32_t at, const std::vector<Located> &table)
+FileBytes secondHeader(const MadeParts &parts, std::uint32_t at, const std::vector<Located> &table)
 {
     BitWriter content;
     content.longInteger(static_cast<std::int32_t>(at));
-    content.rawBytes(versionOf(release));
+    content.rawBytes(versionOf(parts.release));
     content.append(FileBytes(6, 0));
     content.byte(1);
     content.shortInteger(0x0621);
-    content.raw16(codePage);
+    content.raw16(static_cast<std::uint32_t>(parts.codePage));
     content.longInteger(static_cast<std::int32_t>(table.size()));
     for (const Located &one : table) {
         content.byte(one.number);
@@ -79,7 +78,7 @@ FileBytes secondHeader(Release release, std::uint32_t at, const std::vector<Loca
     }
     content.shortInteger(0); // no handles of tables
     content.align();
-    const std::size_t junk = release == Release::R13 ? 0 : 8;
+    const std::size_t junk = parts.release == Release::R13 ? 0 : 8;
     BitWriter out;
     out.raw32(static_cast<std::uint32_t>(4 + content.bytes().size() + 2 + junk));
     out.append(Bytes(content.bytes()));
@@ -104,7 +103,7 @@ FileBytes locatorFile(const MadeParts &parts)
 {
     // Header, classes and map, a part that nothing is read from, units of patterns, and from R2000 on another one.
     std::vector<Located> table(parts.release >= Release::R2000 ? 6 : 5);
-    FileBytes file = headOf(parts.release, table);
+    FileBytes file = headOf(parts, table);
     file.resize(0x100);
     table[0] = append(file, 0, sectionBetweenMarks(parts.release, headerMark, parts.header));
     table[1] = append(file, 1, sectionBetweenMarks(parts.release, classesMark, parts.classes));
@@ -118,9 +117,9 @@ FileBytes locatorFile(const MadeParts &parts)
     table[4] = append(file, 4, {0, 0, 1, 0});
     if (table.size() > 5)
         table[5] = append(file, 5, FileBytes(123, 0));
-    const FileBytes second = secondHeader(parts.release, static_cast<std::uint32_t>(file.size()), table);
+    const FileBytes second = secondHeader(parts, static_cast<std::uint32_t>(file.size()), table);
     file.insert(file.end(), second.begin(), second.end());
-    const FileBytes head = headOf(parts.release, table);
+    const FileBytes head = headOf(parts, table);
     std::copy(head.begin(), head.end(), file.begin());
     return file;
 }
@@ -180,8 +179,12 @@ FileBytes madeFile(const MadeParts &parts)
 {
     if (parts.release <= Release::R2000)
         return locatorFile(parts);
-    return parts.release == Release::R2007 ? correctedFile(sectionsOf(parts))
-                                           : pagedFile(parts.release, sectionsOf(parts));
+    if (parts.release == Release::R2007)
+        return correctedFile(sectionsOf(parts));
+    FileBytes file = pagedFile(parts.release, sectionsOf(parts));
+    constexpr std::size_t codePagePlace = 0x13;
+    file[codePagePlace] = static_cast<std::uint8_t>(parts.codePage);
+    return file;
 }
 
 std::vector<MadeSection> sectionsOf(const MadeParts &parts)

@@ -19,6 +19,7 @@ struct MadeParts
     };
 
     Release release = Release::R2000;
+    int codePage = 30; ///< told up to R2004
     FileBytes header;  ///< the variables, without length, checksum and marks
     FileBytes classes; ///< the same
     std::vector<Object> objects;

@@ -1,6 +1,8 @@
-#include "host/dwg/contents/Contents.h"
+#include "host/dwg/bits/CodePages.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace host::dwg {
 
@@ -18,7 +20,41 @@ std::string_view codePageName(int number)
         {41, "ANSI_950"},  {42, "ANSI_1361"}, {43, "ANSI_1200"}, {44, "ANSI_1258"},
     };
     const auto found = std::ranges::find(names, number, &std::pair<int, std::string_view>::first);
-    return found != std::end(names) ? found->second : "ANSI_1252";
+    return found != std::end(names) ? found->second : std::string_view();
+}
+
+DoubleBytes doubleBytesOf(int codePage)
+{
+    switch (codePage) {
+    case 22: // DOS932
+    case 38: // ANSI_932
+        return DoubleBytes::Japanese;
+    case 24: // BIG5
+    case 25: // KSC5601
+    case 26: // JOHAB
+    case 31: // GB2312
+    case 39: // ANSI_936
+    case 40: // ANSI_949
+    case 41: // ANSI_950
+    case 42: // ANSI_1361
+        return DoubleBytes::Asian;
+    default:
+        return DoubleBytes::None;
+    }
+}
+
+std::size_t wholeCharacters(std::string_view text, DoubleBytes page, std::size_t most)
+{
+    if (page == DoubleBytes::None)
+        return std::min(text.size(), most);
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const std::size_t next = end + (beginsWithTwoBytes(text.substr(end), page) ? 2 : 1);
+        if (next > most)
+            break;
+        end = next;
+    }
+    return end;
 }
 
 } // namespace host::dwg

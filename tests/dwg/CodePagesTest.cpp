@@ -1,0 +1,125 @@
+// Texts in code pages: which page the text form names, and that their bytes come through it whole.
+
+#include "tests/dwg/making/EarlyFileMaker.h"
+#include "tests/dwg/making/Paragraphs.h"
+#include "tests/dwg/making/ReadBack.h"
+
+#include <gtest/gtest.h>
+
+namespace host::dwg::test {
+
+namespace {
+
+constexpr Release releasesWithPages[] = {Release::R13, Release::R14, Release::R2000, Release::R2004};
+
+struct PageTextRow
+{
+    int codePage;
+    std::string text;
+    std::string expected;
+};
+
+// In pages with characters of two bytes the second one may be a ^, which begins an escape in the text form.
+const PageTextRow pageTextRows[] = {
+    {38, "\x83\x5e", "\x83\x5e"},
+    {38, "\xb6^\x83^^", "\xb6^ \x83^^ "},
+    {22, "\x83\x5e", "\x83\x5e"},
+    {39, "\xb6^^", "\xb6^^ "},
+    {24, "\xa6\x5e\n", "\xa6\x5e^J"},
+    {42, "\xa6\n", "\xa6^J"},
+    {40, "\xa6", "\xa6"},
+    {30, "\xb6^", "\xb6^ "},
+    {30, std::string("before\0behind", 13), "before"},
+    {30, "\\U+2205 %%c", "\\U+2205 %%c"},
+};
+
+std::string textOf(const ReadBack &read, std::uint64_t handle)
+{
+    const std::string part = read.lastPart(handle);
+    const std::size_t begin = part.find("|1 ") + 3;
+    return part.substr(begin, part.find('|', begin) - begin);
+}
+
+std::string earlyPage(Release release, std::string_view layer)
+{
+    EarlyFileMaker maker(release);
+    maker.addRecord(EarlyTableKind::Layers, 0, layer, "w7 w0");
+    const ReadBack read = readBack(maker.file());
+    EXPECT_NE(read.drawing.text.find(layer), std::string::npos);
+    EXPECT_EQ(read.problems().find("does not tell the code page") != std::string::npos,
+              layer.find_first_not_of("LAYER") != std::string_view::npos);
+    return read.variable("$DWGCODEPAGE");
+}
+
+} // namespace
+
+TEST(DwgCodePages, BytesOfTextsComeThrough)
+{
+    for (const Release release : releasesWithPages) {
+        for (const PageTextRow &row : pageTextRows) {
+            MadeDrawing drawing(release);
+            drawing.setCodePage(row.codePage);
+            const std::uint64_t text = drawing.addText("NAME", row.text);
+            const ReadBack read = readBack(drawing);
+            EXPECT_EQ(read.problems(), "");
+            EXPECT_EQ(textOf(read, text), row.expected) << static_cast<int>(release) << ", page " << row.codePage;
+        }
+    }
+}
+
+TEST(DwgCodePages, LongTextsAreCutBetweenCharacters)
+{
+    const std::pair<int, std::size_t> rows[] = {{30, 250}, {38, 249}};
+    for (const auto &[codePage, length] : rows) {
+        MadeDrawing drawing(Release::R2000);
+        drawing.setCodePage(codePage);
+        std::string text = "a";
+        for (int i = 0; i < 130; ++i)
+            text += "\x83\x41";
+        const std::uint64_t handle = drawing.addEntity(0x2c, [&text](ObjectWriter &o) {
+            writeParagraphs(o, {1.0, 2.0, 0.0}, 0.25, 6.5, text);
+        });
+        const ReadBack read = readBack(drawing);
+        EXPECT_EQ(read.problems(), "");
+        EXPECT_NE(read.lastPart(handle).find("|3 " + text.substr(0, length) + "|1 " + text.substr(length) + '|'),
+                  std::string::npos);
+    }
+}
+
+TEST(DwgCodePages, NumbersThatNoPageHasAreTold)
+{
+    for (const int codePage : {0, 45, 200}) {
+        MadeDrawing drawing(Release::R2000);
+        drawing.setCodePage(codePage);
+        const ReadBack read = readBack(drawing);
+        EXPECT_EQ(read.problems(), "The code page has the number " + std::to_string(codePage) +
+                                       ", which is none that is known; texts are read as ANSI_1252.\n");
+        EXPECT_EQ(read.variable("$DWGCODEPAGE"), "9 $DWGCODEPAGE|3 ANSI_1252|");
+    }
+}
+
+TEST(DwgCodePages, BeforeR13LettersTellThem)
+{
+    const std::string dos = "9 $DWGCODEPAGE|3 dos850|";
+    const std::pair<const char *, std::string> rows[] = {
+        {"LAYER", ""},
+        {"H\x94he", dos},
+        {"H\x99HE", dos},
+        {"T\x9aR", dos},
+        {"caf\x82s", dos},
+        {"\x84u\xe1"
+         "ere",
+         ""},                      // no letter with others on both sides
+        {"H\xf6he", ""},           // Windows
+        {"pe\x9aka", ""},          // Windows, in small letters
+        {"\x93word\x94 \x97", ""}, // quotes and a dash
+        {"\x82\x61\x82\x62\x82\x63", ""},
+        {"\x8f\xa5\xad", ""},
+    };
+    for (const auto &[layer, expected] : rows) {
+        for (const Release release : {Release::R9, Release::R10, Release::R12})
+            EXPECT_EQ(earlyPage(release, layer), expected) << layer;
+    }
+}
+
+} // namespace host::dwg::test
