@@ -1,11 +1,14 @@
 #include "host/drawing/tags/TextCodec.h"
 
+#include "files/TextEncoding.h"
+
 #include <QHash>
 #include <QStringDecoder>
 
 #include <array>
 #include <cerrno>
 #include <iconv.h>
+#include <string>
 
 namespace host::drawing {
 
@@ -57,36 +60,19 @@ private:
     iconv_t m_handle;
 };
 
+/// By the name that drawings have for it, or that people who wrote one gave it.
 QByteArray systemName(QByteArrayView codePage)
 {
-    QByteArray name = codePage.trimmed().toByteArray().toUpper();
-    if (name.startsWith("ANSI_"))
-        name = name.mid(5);
-    else if (name.startsWith("DOS"))
-        name = name.mid(3);
-    else if (name.startsWith("ISO8859-"))
-        return "ISO-8859-" + name.mid(8);
-    else if (name == "ISO_8859-1")
-        return "ISO-8859-1";
-    else if (name == "MAC-ROMAN")
-        return "MACINTOSH";
-    else if (name == "ASCII" || name == "US_ASCII")
-        return "ASCII";
-    else if (name == "BIG5")
-        return "CP950";
-    else if (name == "KSC5601")
-        return "CP949";
-    else if (name == "GB2312")
-        return "CP936";
-    else if (name == "JOHAB")
-        return "JOHAB";
-    if (name == "1361")
-        return "JOHAB";
-    static const QList<QByteArray> known = {"437",  "720",  "737",  "775",  "850",  "852",  "855",  "857",
-                                            "858",  "860",  "861",  "862",  "863",  "864",  "865",  "866",
-                                            "869",  "874",  "932",  "936",  "949",  "950",  "1250", "1251",
-                                            "1252", "1253", "1254", "1255", "1256", "1257", "1258"};
-    return "CP" + (known.contains(name) ? name : QByteArray("1252"));
+    static const QHash<QByteArray, QByteArray> ofDrawings = {{"US_ASCII", "ASCII"},
+                                                             {"MAC-ROMAN", "MACINTOSH"},
+                                                             {"KSC5601", "CP949"},
+                                                             {"1361", "JOHAB"},
+                                                             {"ANSI_1361", "JOHAB"}};
+    const QByteArray name = codePage.trimmed().toByteArray().toUpper();
+    const std::string known = files::codePageName(ofDrawings.value(name, name).toStdString());
+    // Texts of drawings are bytes without zeros.
+    const bool isWide = known.starts_with("UTF-16") || known.starts_with("UTF-32") || known.starts_with("UCS");
+    return known.empty() || isWide ? QByteArray("CP1252") : QByteArray::fromStdString(known);
 }
 
 /// Value of `count` hexadecimal digits at `position`; -1 when there are fewer.

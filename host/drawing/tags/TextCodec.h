@@ -22,7 +22,8 @@ public:
     TextCodec &operator=(const TextCodec &);
 
     /// The codec for a $DWGCODEPAGE value in any letter case (ANSI_1250-1258, 874, 932, 936, 949, 950, 1361, DOS437,
-    /// DOS850 ..., ISO8859-1 ..., ASCII). An unknown name gives ANSI_1252.
+    /// DOS850 ..., ISO8859-1 ..., ASCII), or another name that files/TextEncoding.h knows: CP850, UTF-8. An unknown
+    /// name gives ANSI_1252.
     static TextCodec forCodePage(QByteArrayView name);
 
     /// Never fails: bytes that are not valid in the encoding are read one by one as Latin-1. encode() does not always
