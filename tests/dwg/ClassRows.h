@@ -11,11 +11,8 @@ namespace host::dwg::test {
 struct ClassRow
 {
     const char *name = nullptr;
-    /// The fields in the order of the file, with blanks between them: a letter and a value. b flag, c small, s int16,
-    /// l int32, d real, r raw real, w raw int16, p point, f flat raw point (x,y), t text ("_" a blank), h reference
-    /// (hexadecimal), C colour, K long colour.
-    std::string fields;
-    std::string tags; ///< behind the head; for entities behind the layer
+    std::string fields; ///< as FieldWords.h has them
+    std::string tags;   ///< behind the head; for entities behind the layer
     bool isEntity = false;
     Release first = Release::R2000;
     Release last = Release::R2018;

@@ -2,6 +2,7 @@
 // order of the text form. Bits that are left over make a proxy of the object.
 
 #include "tests/dwg/ClassRows.h"
+#include "tests/dwg/FieldWords.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <algorithm>
@@ -17,80 +18,6 @@ namespace {
 
 constexpr Release releases[] = {Release::R2000, Release::R2004, Release::R2007,
                                 Release::R2010, Release::R2013, Release::R2018};
-
-std::vector<std::string> wordsOf(std::string_view text, char separator)
-{
-    std::vector<std::string> words;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(separator), text.size());
-        if (end > 0)
-            words.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return words;
-}
-
-Point pointOf(const std::string &text)
-{
-    const std::vector<std::string> parts = wordsOf(text, ',');
-    const auto at = [&parts](std::size_t i) { return i < parts.size() ? std::stod(parts[i]) : 0.0; };
-    return {at(0), at(1), at(2)};
-}
-
-/// A colour that is coded as from R2004 on in every release.
-void writeLongColour(ObjectWriter &o, int index)
-{
-    constexpr std::uint32_t byIndex = 0xc3000000;
-    o.int16(0);
-    o.int32(static_cast<std::int32_t>(byIndex | static_cast<std::uint32_t>(index)));
-    o.small(0);
-}
-
-void writeField(ObjectWriter &o, char kind, const std::string &value)
-{
-    const auto number = [&value] { return std::stoi(value); };
-    switch (kind) {
-    case 'b':
-        return o.flag(number() != 0);
-    case 'c':
-        return o.small(number());
-    case 's':
-        return o.int16(number());
-    case 'l':
-        return o.int32(number());
-    case 'd':
-        return o.real(std::stod(value));
-    case 'r':
-        return o.rawReal(std::stod(value));
-    case 'w':
-        return o.values().raw16(static_cast<std::uint32_t>(number()));
-    case 'p':
-        return o.point(pointOf(value));
-    case 'f':
-        return o.rawFlatPoint(pointOf(value).x, pointOf(value).y);
-    case 't': {
-        std::string text = value;
-        std::replace(text.begin(), text.end(), '_', ' ');
-        return o.text(text);
-    }
-    case 'h':
-        return o.reference(std::stoull(value, nullptr, 16));
-    case 'C':
-        return o.colour(number());
-    case 'K':
-        return writeLongColour(o, number());
-    default:
-        FAIL() << "no kind of field: " << kind;
-    }
-}
-
-MadeDrawing::Write writerOf(const std::string &fields)
-{
-    return [fields](ObjectWriter &o) {
-        for (const std::string &word : wordsOf(fields, ' '))
-            writeField(o, word[0], word.substr(1));
-    };
-}
 
 std::uint64_t add(MadeDrawing &drawing, const ClassRow &row, const std::string &fields)
 {

@@ -1,5 +1,6 @@
 // Splines and the planes that they are in, viewports and their numbers.
 
+#include "tests/dwg/FieldWords.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <gtest/gtest.h>
@@ -105,6 +106,17 @@ TEST(DwgCurves, ViewportsAreNumberedInTheirLayout)
             << read.lastPart(viewport);
         EXPECT_NE(read.lastPart(viewport).find("|331 10|90 32864|"), std::string::npos) << "its frozen layer";
     }
+}
+
+TEST(DwgCurves, ViewportsOfLayoutsThatAreNotShownHaveNoNumber)
+{
+    MadeDrawing drawing(Release::R2010);
+    const std::uint64_t layout =
+        drawing.addEntry(0x31, writerOf("n*Paper_Space b0 b0 b0 b0 b0 l1 p0,0,0 t c0 t l0 s0 b1 c0 h0 h0 h41 h0 h0"));
+    const std::uint64_t viewport = drawing.addPart(0x22, layout, writeViewport);
+    const ReadBack read = readBack(drawing);
+    EXPECT_NE(read.record(viewport).find("|330 40|100 AcDbEntity|67 1|"), std::string::npos) << read.record(viewport);
+    EXPECT_NE(read.lastPart(viewport).find("|68 0|69 0|"), std::string::npos) << read.lastPart(viewport);
 }
 
 } // namespace host::dwg::test

@@ -226,7 +226,9 @@ void Fields::wholeColour(int code)
 void Fields::noteColour(int code, int index, std::uint32_t rgb, std::string_view name)
 {
     note(code, index);
-    // 62 goes with 420 and 430, 63 with 421 and 431, and so on.
+    // 62 goes with 420 and 430, 63 with 421 and 431, and so on; variables of dimensions have the index alone.
+    if (code < 60 || code > 69)
+        return;
     const int further = code + 358;
     if (isTrueColour(rgb))
         note(further, static_cast<int>(rgb & 0xffffff));

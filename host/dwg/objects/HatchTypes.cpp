@@ -168,8 +168,11 @@ void readHatch(Fields &f)
     f.note(98, seeds);
     for (std::size_t i = 0; i < seeds; ++i)
         f.rawFlatPoint(10);
-    // The gradient stands first in the file and last in the text form.
+    // The gradient stands first in the file and last in the text form, which has it for solid hatches alone.
+    const std::size_t gradient = gradientEnd - begin;
     f.moveForward(gradientEnd, begin);
+    if (!isSolid)
+        f.drop(f.mark() - gradient);
 }
 
 } // namespace

@@ -58,8 +58,8 @@ void readPolyface(Fields &f)
     f.note(66, 1);
     f.note(10, Point());
     f.note(70, 64);
-    f.int16(71);
-    f.int16(72);
+    f.int16(71, {0});
+    f.int16(72, {0});
     readVertexList(f);
 }
 

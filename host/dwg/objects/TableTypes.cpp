@@ -50,10 +50,13 @@ void readLayer(Fields &f)
         (bits & LayerBits::frozen) | (bits & LayerBits::frozenInNew ? 2 : 0) | (bits & LayerBits::locked ? 4 : 0);
     noteEntry(f, "AcDbLayerTableRecord", entry);
     const std::size_t begin = f.mark();
-    const int colour = f.colour(62);
-    if (isOff) {
-        f.drop(begin);
-        f.note(62, -colour);
+    const int sign = isOff ? -1 : 1;
+    if (f.since(Release::R2004)) {
+        NotedColour colour = f.longColour();
+        colour.index *= sign;
+        f.note(62, colour);
+    } else {
+        f.note(62, sign * f.int16());
     }
     f.reference(); // of the external drawing it came from
     const std::uint64_t plotStyle = f.since(Release::R2000) ? f.reference() : 0;
@@ -69,7 +72,7 @@ void readLayer(Fields &f)
         f.noteHandle(347, material);
     if (f.since(Release::R2013))
         f.reference(348);
-    f.arrange(begin, {62, 6, 290, 370, 390, 347, 348, 420, 430});
+    f.arrange(begin, {62, 420, 430, 6, 290, 370, 390, 347, 348});
 }
 
 void readStyle(Fields &f)
@@ -242,7 +245,8 @@ void readView(Fields &f)
     const std::size_t head = f.mark();
     noteEntry(f, "AcDbViewTableRecord", entry);
     f.moveForward(head, begin);
-    f.arrange(begin, {100, 100, 2, 70, 40, 10, 20, 41, 11, 21, 31, 12, 22, 32, 42, 43, 44, 50, 71, 281, 72});
+    f.arrange(begin, {100, 100, 2,  70,  40,  10,  20,  41,  11,  21,  31,  12,  22,  32,  42,  43, 44,  50,  71,
+                      281, 72,  73, 332, 348, 361, 110, 120, 130, 111, 121, 131, 112, 122, 132, 79, 146, 345, 346});
 }
 
 void readCoordinateSystem(Fields &f)
@@ -254,16 +258,17 @@ void readCoordinateSystem(Fields &f)
     f.point(12);
     if (!f.since(Release::R2000))
         return;
-    const double elevation = f.real();
+    const std::size_t begin = f.mark();
+    f.real(146);
     f.int16(79);
     const std::size_t others = f.smallCount(6);
-    f.note(146, elevation);
     for (std::size_t i = 0; i < others; ++i) {
         f.int16(71);
         f.point(13);
     }
     f.reference();
     f.referenceUnlessNull(346);
+    f.arrange(begin, {79, 146, 346});
 }
 
 void readViewport(Fields &f)
@@ -388,7 +393,7 @@ BlockHead readBlockHead(Fields &f)
         while (f.small() != 0 && !f.hasFailed())
             ++inserts;
         block.description = f.text();
-        f.values().rawBytes(f.count(8));
+        block.preview = f.values().rawBytes(f.count(8));
     }
     if (f.since(Release::R2007)) {
         block.units = f.int16();
@@ -423,16 +428,17 @@ void noteBlockRecord(Fields &f, const BlockHead &block)
     f.note(2, block.entry.name);
     if (f.since(Release::R2000))
         f.noteHandle(340, block.layout);
-    if (f.since(Release::R2007)) {
-        f.note(70, block.units);
-        f.note(280, block.isExplodable);
-        f.note(281, block.isScaledEvenly);
-    }
+    f.noteBinary(310, block.preview);
     if (!block.inserts.empty()) {
         f.note(102, "{BLKREFS");
         for (const std::uint64_t insert : block.inserts)
             f.noteHandle(331, insert);
         f.note(102, "}");
+    }
+    if (f.since(Release::R2007)) {
+        f.note(70, block.units);
+        f.note(280, block.isExplodable);
+        f.note(281, block.isScaledEvenly);
     }
 }
 

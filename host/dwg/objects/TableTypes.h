@@ -39,6 +39,7 @@ struct BlockHead
     Point base;
     std::string path;
     std::string description;
+    std::string preview; ///< a picture, as its bytes
     int units = 0;
     bool isExplodable = true;
     bool isScaledEvenly = false;

@@ -1,8 +1,17 @@
+#include "host/dwg/objects/ObjectHead.h"
 #include "host/dwg/objects/TypeTable.h"
 
 namespace host::dwg {
 
 namespace {
+
+/// Of all layouts one is shown, or was shown last: its block has no number behind its name.
+bool isInHiddenLayout(const Fields &f)
+{
+    constexpr std::string_view shown = "*Paper_Space";
+    const std::string_view name = f.nameOf(f.relations().owner);
+    return isPaperSpace(name) && name.size() > shown.size();
+}
 
 void readViewportEntity(Fields &f)
 {
@@ -14,7 +23,7 @@ void readViewportEntity(Fields &f)
     f.real(40);
     f.real(41);
     // Programs number the viewports of a layout when they show it; the first one is the paper itself.
-    const int number = f.takeNumber();
+    const int number = isInHiddenLayout(f) ? 0 : f.takeNumber();
     f.note(68, number);
     f.note(69, number);
     if (f.until(Release::R14)) {
