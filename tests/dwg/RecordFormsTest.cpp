@@ -29,8 +29,8 @@ struct FormRow
 };
 
 // A layer, behind its name: what it is, its colour, what it refers to.
-const std::string layerOff = "s18 K#c2ff0000 h0 h0 h0 h16";
-const std::string layerOn = "s16 K#c2ff0000 h0 h0 h0 h16";
+const std::string layerOff = "s18 K#c2139b48 h0 h0 h0 h16";
+const std::string layerOn = "s16 K#c2a953a0 h0 h0 h0 h16";
 
 // A block without entities up to its preview, and behind it.
 const std::string blockHead = "nB b0 b0 b0 b0 b0 ";
@@ -49,11 +49,16 @@ const std::string axesTags = "110 0.0|120 0.0|130 0.0|111 1.0|121 0.0|131 0.0|11
 const std::string viewTags = "2 V|70 0|40 2.0|10 5.0|20 6.0|41 3.0|11 0.0|21 0.0|31 1.0|12 0.0|22 0.0|32 0.0|42 50.0|"
                              "43 0.0|44 0.0|50 0.0|71 0|281 0|72 1|";
 
+const std::string lineStyle = "tM t s0 C256 d0 d0 c2 d0.5 C1 s32766 d-0.5 C2 s0";
+const std::string lineStyleTags =
+    "2 M|70 0|3 |62 256|51 0.0|52 0.0|71 2|49 0.5|62 1|6 BYBLOCK|49 -0.5|62 2|6 Continuous|";
+
 const FormRow formRows[] = {
+    {"a line of a style with a linetype of the table", Release::R2004, Place::Object, 0x49, lineStyle, lineStyleTags},
     {"a layer that is off keeps its colour", Release::R2007, Place::Entry, LayerType, "nL " + layerOff,
-     "2 L|70 0|62 -1|420 16711680|6 Continuous|370 0|390 0|"},
+     "2 L|70 0|62 -114|420 1284936|6 Continuous|370 0|390 0|"},
     {"a layer that is on", Release::R2007, Place::Entry, LayerType, "nL " + layerOn,
-     "2 L|70 0|62 1|420 16711680|6 Continuous|370 0|390 0|"},
+     "2 L|70 0|62 215|420 11096992|6 Continuous|370 0|390 0|"},
     {"the preview of a block", Release::R2000, Place::Entry, 0x31, blockHead + blockPreview + blockLinks,
      "2 B|340 52|310 2800FF|102 {BLKREFS|331 51|102 }|"},
     {"what insertions of a block may do", Release::R2010, Place::Entry, 0x31,
@@ -92,6 +97,21 @@ TEST(DwgRecordForms, AreThoseOfTheirRelease)
         const ReadBack read = readBack(drawing);
         EXPECT_EQ(read.lastPart(handle), row.tags) << row.name;
         EXPECT_EQ(read.problems().find("IT "), std::string::npos) << read.problems();
+    }
+}
+
+TEST(DwgRecordForms, HaveEmptyTextsOfDimensionsFromTheFirstProgramsOfR2000Alone)
+{
+    for (const auto &[release, maintenance, hasText] :
+         {std::tuple{Release::R2000, 6, true}, {Release::R2000, 15, false}, {Release::R2004, 0, false}}) {
+        MadeDrawing drawing(release);
+        const std::uint64_t radius = drawing.addEntity(
+            0x19, writerOf("p0,0,1 f2,3 d0 c2 t d0 d0 p1,1,1 d0 s5 s1 d1 d5 f0,0 p0,0,0 p3,4,0 d1 h0 h1D"));
+        FileBytes file = drawing.file();
+        file[0x0b] = static_cast<std::uint8_t>(maintenance);
+        const std::string text = hasText ? "1 |" : "";
+        EXPECT_NE(readBack(file).record(radius).find("|70 164|" + text + "71 5|42 5.0|3 |"), std::string::npos)
+            << static_cast<int>(release) << ' ' << maintenance << readBack(file).record(radius);
     }
 }
 

@@ -15,6 +15,7 @@ public:
     DrawingObjects(const Container &container, Problems &problems);
 
     Release release() const { return m_container.release; }
+    int maintenance() const { return m_container.maintenance; }
     /// How many bytes their records may have together.
     std::uint64_t mostText() const { return m_container.mostText; }
     const std::vector<ObjectClass> &classes() const { return m_classes; }

@@ -43,6 +43,7 @@ std::string tagLines(int code, std::string_view value)
 RecordWriter::RecordWriter(DrawingObjects &objects, std::string &text)
     : m_objects(objects), m_text(text), m_fields(objects.release(), m_names), m_head({}), m_arrowSizes(objects, m_names)
 {
+    m_fields.setMaintenance(objects.maintenance());
     m_fields.setAskSize([this](std::uint64_t handle) { return sizeOfText(handle); });
     m_fields.setAskArrowSize([this](std::uint64_t style) { return m_arrowSizes.sizeOf(style, m_head); });
 }

@@ -71,6 +71,9 @@ void writeTable(DrawingParts &parts, const char *name, std::uint64_t handle)
     // Later releases count what was erased as well.
     if (records.fields().until(Release::R14))
         std::erase_if(entries, [&parts](std::uint64_t entry) { return !parts.objects.peek(entry); });
+    constexpr std::ptrdiff_t always = 2; // they stand in front here
+    if (frame->type == linetypeTableType && entries.size() >= always)
+        records.fields().setLinetypes({entries.begin() + always, entries.end()});
     noteTable(records.fields(), frame->type, entries.size(), further);
     records.writeNoted("TABLE", tagLines(2, name));
     for (const std::uint64_t entry : entries) {

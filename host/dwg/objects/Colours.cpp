@@ -15,10 +15,11 @@ struct Rgb
     int blue;
 };
 
-/// The colours 10 to 249: 24 hues of ten, each with five brightnesses, full and pale in turn.
+/// The colours 10 to 249: 24 hues of ten, each with five brightnesses, full and pale in turn. Brightnesses differ among
+/// programs; these are those by which full ones choose the index that stands beside a colour.
 constexpr Rgb wheelColour(int index)
 {
-    constexpr std::array<int, 5> brightness = {255, 165, 127, 76, 38};
+    constexpr std::array<int, 5> brightness = {255, 204, 153, 127, 76};
     const int value = brightness[static_cast<std::size_t>(index % 10 / 2)];
     const int low = index % 2 == 1 ? value / 2 : 0;
     const int hue = index / 10 - 1; // in steps of 15 degrees from red
@@ -53,7 +54,7 @@ constexpr Rgb indexColour(int index)
                                             {255, 255, 255},
                                             {128, 128, 128},
                                             {192, 192, 192}}};
-    constexpr std::array<int, 6> greys = {51, 80, 105, 130, 190, 255};
+    constexpr std::array<int, 6> greys = {51, 91, 132, 173, 214, 255};
     if (index < 10)
         return first[static_cast<std::size_t>(index)];
     if (index < 250)

@@ -75,6 +75,13 @@ int dimensionType(Measured measured, int flags)
     return static_cast<int>(measured) | ((flags & 1) == 0 ? ownPlace : 0) | ((flags & 2) != 0 ? ownBlock : 0);
 }
 
+/// Whether the program that wrote the file was one of the first of R2000: those have a group for a text that is empty.
+bool writesEmptyText(const Fields &f)
+{
+    constexpr int lastOfFirst = 6;
+    return f.release() == Release::R2000 && f.maintenance() <= lastOfFirst;
+}
+
 void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point definition)
 {
     const std::string_view style = f.nameOf(f.reference());
@@ -87,8 +94,7 @@ void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point def
     if (head.place.x != 0.0 || head.place.y != 0.0)
         f.note(12, head.place);
     f.note(70, type);
-    // An empty text stands there in the releases between.
-    if (!head.text.empty() || (f.since(Release::R2000) && f.until(Release::R2004)))
+    if (!head.text.empty() || writesEmptyText(f))
         f.note(1, head.text);
     if (f.since(Release::R2000)) {
         f.note(71, head.attachment);

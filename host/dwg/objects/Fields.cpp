@@ -159,6 +159,12 @@ std::string_view Fields::name(int code)
     return name;
 }
 
+std::string_view Fields::linetypeAt(int place) const
+{
+    const auto index = static_cast<std::size_t>(place);
+    return place >= 0 && index < m_linetypes.size() ? nameOf(m_linetypes[index]) : std::string_view();
+}
+
 std::string_view Fields::nameOf(std::uint64_t handle) const
 {
     const auto found = m_names.find(handle);

@@ -93,6 +93,15 @@ public:
     /// 0 where it is not known.
     double arrowSizeOf(std::uint64_t style) const { return m_askArrowSize ? m_askArrowSize(style) : 0.0; }
 
+    /// The number that tells minor changes of the release apart: later programs, too, write releases under high ones.
+    void setMaintenance(int number) { m_maintenance = number; }
+    int maintenance() const { return m_maintenance; }
+
+    /// The linetypes of the table in its order, without the two that every drawing has.
+    void setLinetypes(std::vector<std::uint64_t> linetypes) { m_linetypes = std::move(linetypes); }
+    /// The name of the one at this place; empty where there is none.
+    std::string_view linetypeAt(int place) const;
+
     /// Which one the object is of those in its owner that asked for a number, from 1.
     int takeNumber() { return ++m_numbers[m_relations.owner]; }
 
@@ -255,6 +264,7 @@ private:
     int noteLongColour(int code, int unless);
 
     Release m_release;
+    int m_maintenance = 0;
     const Names &m_names;
     AskSize m_askSize;
     AskArrowSize m_askArrowSize;
@@ -263,6 +273,7 @@ private:
     BitReader m_references;
     Relations m_relations;
     std::unordered_set<std::uint64_t> m_leftOut;
+    std::vector<std::uint64_t> m_linetypes;
     std::unordered_set<std::uint64_t> m_extensionDictionaries;
     std::vector<std::size_t> *m_textPlaces = nullptr;
     std::string_view m_typeName;

@@ -58,7 +58,7 @@ std::string_view linetypeByNumber(Fields &f, int number)
         const std::string_view name = f.nameOf(f.reference());
         return name == "ByLayer" ? "BYLAYER" : name == "ByBlock" ? "BYBLOCK" : name;
     }
-    return number == byBlock ? "BYBLOCK" : number == byLayer ? "BYLAYER" : "";
+    return number == byBlock ? "BYBLOCK" : number == byLayer ? "BYLAYER" : f.linetypeAt(number);
 }
 
 void readMultiLineStyle(Fields &f)
@@ -71,7 +71,7 @@ void readMultiLineStyle(Fields &f)
     f.colour(62);
     f.angle(51);
     f.angle(52);
-    f.arrange(begin, {2, 70, 3, 62, 420, 51, 52});
+    f.arrange(begin, {2, 70, 3, 62, 420, 430, 51, 52});
     const int lines = f.small(71);
     for (int i = 0; i < lines && !f.hasFailed(); ++i) {
         f.real(49);
