@@ -97,9 +97,8 @@ struct ModelRow
     std::string problem;
 };
 
-const char *const noBinary =
-    "3DSOLID 40: The model has a binary form; the text that this release has of it is not made of that.\n"
-    "REGION 41: The model has a binary form; the text that this release has of it is not made of that.\n";
+const char *const noBinary = "3DSOLID 40: The model has a binary form that has no text here; it is kept as its bytes.\n"
+                             "REGION 41: The model has a binary form that has no text here; it is kept as its bytes.\n";
 const std::string lines = "70 1|1 noi mi n o|1 =0;& {rn|";
 const std::string revision = "290 0|2 {01020304-0506-0708-6162-636465666768}|";
 
@@ -280,7 +279,7 @@ DataStore storeOf(const FileBytes &bytes, Problems &problems)
 
 } // namespace
 
-TEST(DwgSolids, ModelsAreTextOrToldAsBinary)
+TEST(DwgSolids, ModelsAreTextOrKept)
 {
     for (const ModelRow &row : modelRows) {
         MadeDrawing drawing(row.release);

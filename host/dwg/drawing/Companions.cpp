@@ -8,7 +8,6 @@ namespace host::dwg {
 
 namespace {
 
-constexpr std::string_view mapName = "ACAD_ROUNDTRIP_2008_TABLESTYLE_CELLSTYLEMAP";
 constexpr std::string_view listName = "ACDB_RECOMPOSE_DATA";
 
 bool comesBefore(std::string_view one, std::string_view other)
@@ -63,32 +62,79 @@ Companions::Record recordOf(const char *type, const Fields &fields)
 
 } // namespace
 
+const Companions::Kind Companions::cellStyleMap = {"ACAD_ROUNDTRIP_2008_TABLESTYLE_CELLSTYLEMAP", "CELLSTYLEMAP"};
+const Companions::Kind Companions::keptModel = {"ORTAKIT_MODEL", "XRECORD"};
+
 Companions::Companions(const DrawingObjects &objects, std::uint64_t namedObjects, std::uint64_t firstFree,
                        Fields &fields)
     : m_release(objects.release()), m_namedObjects(namedObjects), m_firstFree(firstFree)
 {
-    const auto one = std::ranges::find(objects.classes(), "TABLESTYLE", &ObjectClass::name);
-    if (m_release < Release::R2010 || one == objects.classes().end())
-        return;
     if (!objects.map().empty())
         m_firstFree = std::max(m_firstFree, objects.map().back().handle + 1);
+    if (m_release >= Release::R2010)
+        findStyles(objects, fields);
+    if (m_release >= Release::R2007)
+        findKeptModels(objects, fields);
+}
+
+void Companions::addPlace(std::uint64_t handle, const Kind &kind, std::uint64_t dictionary)
+{
+    Place &place = m_places[handle];
+    place.kind = &kind;
+    place.dictionary = dictionary;
+    place.hasNewDictionary = dictionary == 0;
+    if (place.hasNewDictionary)
+        place.dictionary = m_firstFree++;
+    else
+        m_dictionaries[dictionary] = handle;
+    place.record = m_firstFree++;
+}
+
+void Companions::findStyles(const DrawingObjects &objects, Fields &fields)
+{
+    const auto one = std::ranges::find(objects.classes(), "TABLESTYLE", &ObjectClass::name);
+    if (one == objects.classes().end())
+        return;
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
         const auto frame = objects.peek(entry);
         if (!frame || frame->type != one->number)
             continue;
         head.read(*frame, false, fields);
-        Style &style = m_styles[entry.handle];
-        style.dictionary = fields.relations().dictionary;
-        style.hasNewDictionary = style.dictionary == 0;
-        if (style.hasNewDictionary)
-            style.dictionary = m_firstFree++;
-        style.map = m_firstFree++;
-        if (!style.hasNewDictionary)
-            m_dictionaries[style.dictionary] = style.map;
+        addPlace(entry.handle, cellStyleMap, fields.relations().dictionary);
     }
-    if (!m_styles.empty())
+    if (!m_places.empty())
         findList(objects, fields);
+}
+
+/// Reads all solids, since whether a model has a text is known at its end. Objects do not overlap: what has more bytes
+/// than all of them is not looked at.
+void Companions::findKeptModels(const DrawingObjects &objects, Fields &fields)
+{
+    constexpr int firstSolid = 0x25;
+    constexpr int lastSolid = 0x27;
+    std::size_t left = objects.byteCount();
+    ObjectHead head({});
+    for (const MapEntry &entry : objects.map()) {
+        const auto frame = objects.peek(entry);
+        if (!frame || frame->type < firstSolid || frame->type > lastSolid)
+            continue;
+        if (frame->bytes.size() > left)
+            break;
+        left -= frame->bytes.size();
+        head.read(*frame, true, fields);
+        if (fields.relations().hasStoredData)
+            continue;
+        objects.typeOf(frame->type)->read(fields);
+        if (!fields.hasFailed() && fields.companion() != fields.mark())
+            addPlace(entry.handle, keptModel, fields.relations().dictionary);
+    }
+}
+
+std::size_t Companions::mapCount() const
+{
+    return static_cast<std::size_t>(
+        std::ranges::count(m_places, &cellStyleMap, [](const auto &place) { return place.second.kind; }));
 }
 
 void Companions::findList(const DrawingObjects &objects, Fields &fields)
@@ -102,19 +148,23 @@ void Companions::findList(const DrawingObjects &objects, Fields &fields)
 void Companions::complete(Fields &fields) const
 {
     const std::uint64_t handle = fields.relations().handle;
-    if (const auto style = m_styles.find(handle); style != m_styles.end() && style->second.hasNewDictionary) {
+    if (const auto place = m_places.find(handle); place != m_places.end() && place->second.hasNewDictionary) {
         const std::size_t mark = fields.mark();
         const std::size_t companion = fields.companion();
         fields.note(102, "{ACAD_XDICTIONARY");
-        fields.noteHandle(360, style->second.dictionary);
+        fields.noteHandle(360, place->second.dictionary);
         fields.note(102, "}");
         const std::size_t count = fields.mark() - mark;
         fields.moveForward(mark, 1);
         fields.beginCompanion(companion + count);
-        fields.relations().dictionary = style->second.dictionary;
+        fields.relations().dictionary = place->second.dictionary;
     }
-    if (const auto dictionary = m_dictionaries.find(handle); dictionary != m_dictionaries.end())
-        addEntry(fields, mapName, 360, dictionary->second);
+    if (const auto dictionary = m_dictionaries.find(handle); dictionary != m_dictionaries.end()) {
+        const Place &place = m_places.at(dictionary->second);
+        addEntry(fields, place.kind->name, 360, place.record);
+    }
+    if (m_list == 0)
+        return;
     if (handle == m_namedObjects && m_hasNewList)
         addEntry(fields, listName, 350, m_list);
     if (handle == m_list && !m_hasNewList)
@@ -135,8 +185,10 @@ void Companions::noteList(Fields &fields) const
         else if (code == handleCode && begin != 0)
             handles.push_back(std::strtoull(std::string(value).c_str(), nullptr, 16));
     });
-    for (const auto &[handle, style] : m_styles)
-        handles.push_back(handle);
+    for (const auto &[style, where] : m_places) {
+        if (where.kind == &cellStyleMap)
+            handles.push_back(style);
+    }
     std::ranges::sort(handles);
     handles.erase(std::unique(handles.begin(), handles.end()), handles.end());
     if (begin != 0)
@@ -160,21 +212,21 @@ void Companions::make(const Fields &fields, std::size_t begin)
         noteList(record);
         m_records[m_list] = recordOf("XRECORD", record);
     }
-    const auto found = m_styles.find(handle);
-    if (found == m_styles.end() || begin == fields.mark())
+    const auto found = m_places.find(handle);
+    if (found == m_places.end() || begin == fields.mark())
         return;
-    const Style &style = found->second;
-    if (style.hasNewDictionary) {
-        noteHead(record, style.dictionary, handle, false);
+    const Place &place = found->second;
+    if (place.hasNewDictionary) {
+        noteHead(record, place.dictionary, handle, false);
         record.subclass("AcDbDictionary");
         record.note(280, 1);
         record.note(281, 1);
-        addEntry(record, mapName, 360, style.map);
-        m_records[style.dictionary] = recordOf("DICTIONARY", record);
+        addEntry(record, place.kind->name, 360, place.record);
+        m_records[place.dictionary] = recordOf("DICTIONARY", record);
     }
-    noteHead(record, style.map, style.dictionary, true);
-    m_records[style.map] = recordOf("CELLSTYLEMAP", record);
-    fields.write(m_records[style.map].lines, begin, fields.mark());
+    noteHead(record, place.record, place.dictionary, true);
+    m_records[place.record] = recordOf(place.kind->type, record);
+    fields.write(m_records[place.record].lines, begin, fields.mark());
 }
 
 std::optional<Companions::Record> Companions::take(std::uint64_t handle)

@@ -123,7 +123,7 @@ void addUsualStyles(DrawingParts &parts, HeaderValues &values)
 std::vector<ObjectClass> classesOf(const DrawingParts &parts)
 {
     std::vector<ObjectClass> classes = parts.objects.classes();
-    const auto added = static_cast<int>(parts.records.companions().count());
+    const auto added = static_cast<int>(parts.records.companions().mapCount());
     if (added == 0)
         return classes;
     auto found = std::ranges::find(classes, "CELLSTYLEMAP", &ObjectClass::name);
@@ -142,7 +142,7 @@ void addCompanions(DrawingParts &parts, HeaderValues &values)
     const std::uint64_t firstFree = parts.header.firstFree;
     parts.records.setCompanions({parts.objects, parts.header.namedObjects, firstFree, parts.records.fields()});
     const Companions &companions = parts.records.companions();
-    if (companions.count() == 0)
+    if (companions.isEmpty())
         return;
     Fields &fields = parts.records.fields();
     fields.start({}, {}, {});

@@ -1,3 +1,5 @@
+#include "host/dwg/objects/ModelText.h"
+#include "host/dwg/objects/ModelValues.h"
 #include "host/dwg/objects/TypeTable.h"
 
 #include <cstdio>
@@ -5,6 +7,16 @@
 namespace host::dwg {
 
 namespace {
+
+void noteModelLine(Fields &f, std::string_view line)
+{
+    constexpr std::size_t mostOfATag = 255;
+    f.note(1, line.substr(0, mostOfATag));
+    while (line.size() > mostOfATag) {
+        line.remove_prefix(mostOfATag);
+        f.note(3, line.substr(0, mostOfATag));
+    }
+}
 
 /// The model's lines, in pieces of any length, as they are: text files have them in the same disguise.
 void readModelText(Fields &f)
@@ -20,34 +32,39 @@ void readModelText(Fields &f)
         // Blanks at the end of a line mean nothing in text files.
         while (!line.empty() && (line.back() == '\r' || line.back() == ' '))
             line.remove_suffix(1);
-        constexpr std::size_t mostOfATag = 255;
-        f.note(1, line.substr(0, mostOfATag));
-        while (line.size() > mostOfATag) {
-            line.remove_prefix(mostOfATag);
-            f.note(3, line.substr(0, mostOfATag));
-        }
+        noteModelLine(f, line);
     }
 }
 
-/// The bytes of a model in binary form, which tells its end by its last record alone.
+/// A model in binary form, as text. Gives it back where no text is known for it.
 std::string readBinaryModel(Fields &f)
 {
-    constexpr std::string_view ends[] = {"\x0e\x03"
-                                         "End\x0e\x02of\x0e\x04"
-                                         "ACIS\x0d\x04"
-                                         "data",
-                                         "\x0e\x03"
-                                         "End\x0e\x02of\x0e\x03"
-                                         "ASM\x0d\x04"
-                                         "data"};
     BitReader ahead = f.values();
-    const std::string rest = ahead.rawBytes(ahead.left() / 8);
-    for (const std::string_view end : ends) {
-        if (const std::size_t at = rest.find(end); at != std::string::npos)
-            return f.values().rawBytes(at + end.size());
+    const std::size_t size = binaryModelSize(ahead.rawBytes(ahead.left() / 8));
+    if (size == 0) {
+        f.fail();
+        return {};
     }
-    f.fail();
+    std::string model = f.values().rawBytes(size);
+    const auto lines = modelLines(model);
+    if (!lines)
+        return model;
+    f.note(70, 1);
+    for (const std::string &line : *lines)
+        noteModelLine(f, disguisedLine(line));
     return {};
+}
+
+/// A record of its own in the extension dictionary (drawing/Companions.h).
+void keepModel(Fields &f, std::string_view model)
+{
+    if (!f.since(Release::R2007))
+        return f.doubt("The model has a binary form that has no text here; it is left out.");
+    f.doubt("The model has a binary form that has no text here; it is kept as its bytes.");
+    f.beginCompanion(f.mark());
+    f.subclass("AcDbXrecord");
+    f.note(280, 1);
+    f.noteBinary(310, model);
 }
 
 /// A line that is drawn of a model.
@@ -124,17 +141,16 @@ std::string readRevision(Fields &f)
 }
 
 /// The model itself: as text, or in binary form, which stands here up to R2010 and outside the object from R2013 on.
-void readGeometry(Fields &f)
+/// Gives back what stays in binary form.
+std::string readGeometry(Fields &f)
 {
     f.flag();
     const int version = f.int16();
-    if (version == 1) {
-        f.note(70, version);
-        readModelText(f);
-    } else if (!f.relations().hasStoredData) {
-        readBinaryModel(f);
-        f.doubt("The model has a binary form; the text that this release has of it is not made of that.");
-    }
+    if (version != 1)
+        return f.relations().hasStoredData ? std::string() : readBinaryModel(f);
+    f.note(70, version);
+    readModelText(f);
+    return {};
 }
 
 /// What follows the model.
@@ -169,17 +185,18 @@ void readModel(Fields &f, bool isSolid)
 {
     f.subclass("AcDbModelerGeometry");
     const bool isEmpty = f.flag();
-    if (!isEmpty)
-        readGeometry(f);
+    const std::string kept = isEmpty ? std::string() : readGeometry(f);
     const std::size_t mark = f.mark();
     const BitReader values = f.values();
     const BitReader references = f.references();
     readBehindModel(f, isSolid);
-    if (f.isUsedUp())
-        return;
-    f.drop(mark);
-    f.values() = values;
-    f.references() = references;
+    if (!f.isUsedUp()) {
+        f.drop(mark);
+        f.values() = values;
+        f.references() = references;
+    }
+    if (!kept.empty())
+        keepModel(f, kept);
 }
 
 void readRegion(Fields &f)

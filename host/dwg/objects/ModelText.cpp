@@ -1,0 +1,211 @@
+#include "host/dwg/objects/ModelText.h"
+
+#include "host/dwg/objects/ModelWords.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace host::dwg {
+
+namespace {
+
+// From these versions of models on: words for logical values, and two more lines of head; a sign in front of texts.
+constexpr std::int64_t withWords = 200;
+constexpr std::int64_t withSign = 700;
+
+bool isPlainLetter(char c)
+{
+    return c > ' ' && c <= '~';
+}
+
+/// Puts together the lines of one model. False, once and for good, for what has no text.
+class ModelLines
+{
+public:
+    explicit ModelLines(std::string_view model) : m_reader(model), m_version(m_reader.head()[0]) {}
+
+    bool read()
+    {
+        if (m_reader.hasFailed() || !readHead())
+            return false;
+        while (readRecord()) {
+            if (m_isClosed)
+                return m_reader.isAtEnd();
+        }
+        return false;
+    }
+
+    std::vector<std::string> take() { return std::move(m_lines); }
+
+private:
+    /// The lines in front of the records: numbers, what wrote the model, units and tolerances.
+    bool readHead()
+    {
+        for (const std::int64_t number : m_reader.head())
+            addWord(std::to_string(number));
+        closeLine();
+        for (int i = 0; i < 6 && m_version >= withWords; ++i) {
+            const bool isTextLine = i < 3;
+            if (!m_reader.next(m_value) || (isTextLine ? !m_value.isText() : m_value.tag != ModelTag::Real) ||
+                !addValue(m_value))
+                return false;
+            if (i == 2 || i == 5)
+                closeLine();
+        }
+        return true;
+    }
+
+    bool readRecord()
+    {
+        const std::optional<std::string> name = readName();
+        if (!name)
+            return false;
+        addWord(*name);
+        m_isClosed = endsModel(*name);
+        const bool isRead = m_isClosed || (readValues() && addValues(*name));
+        closeLine();
+        return isRead;
+    }
+
+    std::optional<std::string> readName()
+    {
+        std::string name;
+        while (m_reader.next(m_value) && m_value.tag == ModelTag::NamePart)
+            name += m_value.text + '-';
+        name += m_value.text;
+        const bool isName = m_value.tag == ModelTag::Name && !m_reader.hasFailed();
+        return isName && std::ranges::all_of(name, isPlainLetter) ? std::optional(name) : std::nullopt;
+    }
+
+    /// All values of the record, with its end.
+    bool readValues()
+    {
+        m_values.clear();
+        do {
+            if (!m_reader.next(m_value))
+                return false;
+            m_values.push_back(m_value);
+        } while (m_value.tag != ModelTag::EndOfRecord);
+        return true;
+    }
+
+    bool addValues(std::string_view name)
+    {
+        const bool hasWords = m_version >= withWords;
+        const auto words = hasWords ? logicalWords(name, m_values) : std::vector<std::string_view>();
+        if (!words)
+            return false;
+        auto word = words->begin();
+        for (const ModelValue &value : m_values) {
+            if (value.isLogical() && hasWords)
+                addWord(*word++);
+            else if (!addValue(value))
+                return false;
+        }
+        return true;
+    }
+
+    bool addValue(const ModelValue &value)
+    {
+        switch (value.tag) {
+        case ModelTag::Int16:
+        case ModelTag::Int32:
+        case ModelTag::Int64:
+        case ModelTag::Enumeration: // a number in versions that have no words
+            addWord(std::to_string(value.number));
+            return true;
+        case ModelTag::Reference:
+            addWord('$' + std::to_string(value.number));
+            return true;
+        case ModelTag::True:
+        case ModelTag::False:
+            addWord(value.tag == ModelTag::True ? "1" : "0");
+            return true;
+        case ModelTag::Open:
+            addWord("{");
+            return true;
+        case ModelTag::Close:
+            addWord("}");
+            return true;
+        case ModelTag::EndOfRecord:
+            addWord("#");
+            return true;
+        case ModelTag::Name:
+            return addName(value.text);
+        case ModelTag::NamePart: // known in names of records alone
+        case ModelTag::Character:
+            return false;
+        default:
+            return value.isText() ? addText(value.text) : addReals(value);
+        }
+    }
+
+    bool addName(std::string_view name)
+    {
+        addWord(name);
+        return std::ranges::all_of(name, isPlainLetter);
+    }
+
+    bool addText(std::string_view text)
+    {
+        if (!std::ranges::all_of(text, [](char c) { return c == ' ' || isPlainLetter(c); }))
+            return false;
+        addWord((m_version >= withSign ? "@" : "") + std::to_string(text.size()));
+        addWord(text);
+        return true;
+    }
+
+    bool addReals(const ModelValue &value)
+    {
+        const int digits = value.tag == ModelTag::Float ? 9 : 17;
+        for (std::size_t i = 0; i < value.realCount; ++i) {
+            if (!std::isfinite(value.reals[i]))
+                return false;
+            char text[40];
+            const auto end =
+                std::to_chars(text, text + sizeof text, value.reals[i], std::chars_format::general, digits);
+            addWord({text, end.ptr});
+        }
+        return true;
+    }
+
+    void addWord(std::string_view word)
+    {
+        if (!m_line.empty())
+            m_line += ' ';
+        m_line += word;
+    }
+
+    void closeLine()
+    {
+        m_lines.push_back(std::move(m_line));
+        m_line.clear();
+    }
+
+    ModelReader m_reader;
+    std::int64_t m_version;
+    ModelValue m_value;
+    std::vector<ModelValue> m_values; ///< of the record
+    std::string m_line;
+    std::vector<std::string> m_lines;
+    bool m_isClosed = false;
+};
+
+} // namespace
+
+std::optional<std::vector<std::string>> modelLines(std::string_view model)
+{
+    ModelLines lines(model);
+    return lines.read() ? std::optional(lines.take()) : std::nullopt;
+}
+
+std::string disguisedLine(std::string line)
+{
+    constexpr int sum = 159;
+    for (char &c : line)
+        c = isPlainLetter(c) ? static_cast<char>(sum - c) : c;
+    return line;
+}
+
+} // namespace host::dwg
