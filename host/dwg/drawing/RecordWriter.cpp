@@ -45,6 +45,7 @@ RecordWriter::RecordWriter(DrawingObjects &objects, std::string &text)
 {
     m_fields.setMaintenance(objects.maintenance());
     m_fields.setAskSize([this](std::uint64_t handle) { return sizeOfText(handle); });
+    m_fields.setAskColour([this](std::uint64_t handle) { return bookColour(handle); });
     m_fields.setAskArrowSize([this](std::uint64_t style) { return m_arrowSizes.sizeOf(style, m_head); });
 }
 
@@ -64,6 +65,23 @@ std::optional<TextSize> RecordWriter::sizeOfText(std::uint64_t handle)
     if (!fields.hasFailed())
         size = read;
     return size;
+}
+
+std::optional<NotedColour> RecordWriter::bookColour(std::uint64_t handle)
+{
+    const auto known = m_bookColours.find(handle);
+    if (known != m_bookColours.end())
+        return known->second;
+    std::optional<NotedColour> &colour = m_bookColours[handle];
+    const auto frame = m_objects.peek(handle);
+    if (!frame || m_objects.typeNameOf(frame->type) != "DBCOLOR")
+        return colour;
+    Fields fields(m_objects.release(), m_names);
+    ObjectHead({}).read(*frame, false, fields);
+    const NotedColour read = fields.longColour();
+    if (fields.isUsedUp())
+        colour = read;
+    return colour;
 }
 
 void RecordWriter::setSpaces(const ObjectHead::Spaces &spaces)

@@ -61,6 +61,7 @@ private:
     void noteOwned();
     bool writeUnlessFailed();
     std::optional<TextSize> sizeOfText(std::uint64_t handle);
+    std::optional<NotedColour> bookColour(std::uint64_t handle);
 
     DrawingObjects &m_objects;
     std::string &m_text;
@@ -70,6 +71,7 @@ private:
     ObjectHead m_head;
     ArrowSizes m_arrowSizes;
     std::unordered_map<std::uint64_t, std::optional<TextSize>> m_textSizes; ///< as they were asked for
+    std::unordered_map<std::uint64_t, std::optional<NotedColour>> m_bookColours;
     Companions m_companions;
     std::vector<std::uint64_t> m_owned;
 };

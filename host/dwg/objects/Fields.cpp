@@ -191,6 +191,11 @@ int Fields::longColour(int code)
     return noteLongColour(code, noLimit);
 }
 
+NotedColour Fields::colour()
+{
+    return since(Release::R2004) ? longColour() : NotedColour{int16(), 0, {}};
+}
+
 NotedColour Fields::longColour()
 {
     NotedColour colour;
@@ -209,7 +214,7 @@ NotedColour Fields::longColour()
 int Fields::noteLongColour(int code, int unless)
 {
     const NotedColour colour = longColour();
-    if (colour.index != unless || isTrueColour(colour.rgb))
+    if (colour.index != unless || isTrueColour(colour.rgb) || !colour.name.empty())
         note(code, colour);
     return colour.index;
 }
@@ -232,10 +237,10 @@ void Fields::wholeColour(int code)
 void Fields::noteColour(int code, int index, std::uint32_t rgb, std::string_view name)
 {
     note(code, index);
-    // 62 goes with 420 and 430, 63 with 421 and 431, and so on; variables of dimensions have the index alone.
-    if (code < 60 || code > 69)
-        return;
+    // 62 goes with 420 and 430, 63 with 421 and 431, and so on up to 69. Other groups are indices alone.
     const int further = code + 358;
+    if (further < 420 || further > 427)
+        return;
     if (isTrueColour(rgb))
         note(further, static_cast<int>(rgb & 0xffffff));
     if (!name.empty())

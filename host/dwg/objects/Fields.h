@@ -51,12 +51,12 @@ struct TextSize
     double width = 0.0;
 };
 
-/// A colour of R2004 and later.
+/// A colour, of which files before R2004 have the index alone.
 struct NotedColour
 {
     int index = 0;
     std::uint32_t rgb = 0; ///< with the kind in its highest byte
-    std::string name;      ///< of a colour book, or empty
+    std::string name;      ///< "BOOK$NAME" or a name alone, or empty
 };
 
 /// The fields of one object while it is read: each call takes the next coded value of the object and notes it as the
@@ -101,6 +101,14 @@ public:
     void setLinetypes(std::vector<std::uint64_t> linetypes) { m_linetypes = std::move(linetypes); }
     /// The name of the one at this place; empty where there is none.
     std::string_view linetypeAt(int place) const;
+
+    /// Asks a colour of a colour book, which is an object of its own; nothing where it is none.
+    using AskColour = std::function<std::optional<NotedColour>(std::uint64_t)>;
+    void setAskColour(AskColour ask) { m_askColour = std::move(ask); }
+    std::optional<NotedColour> bookColour(std::uint64_t handle) const
+    {
+        return m_askColour ? m_askColour(handle) : std::nullopt;
+    }
 
     /// Which one the object is of those in its owner that asked for a number, from 1.
     int takeNumber() { return ++m_numbers[m_relations.owner]; }
@@ -182,10 +190,11 @@ public:
     std::uint64_t referenceUnlessNull(int code);
     /// The name of what is referred to; empty where nothing is.
     std::string_view name(int code);
-    /// A colour: a number, from R2004 on one of 24 bits and names. Noted as the index, and under `code` + 358 (420 for
-    /// 62) and + 368 (430) what goes beyond it.
+    /// A colour: a number, from R2004 on one of 24 bits and names. Noted as the index, and for groups 62 to 69 under
+    /// `code` + 358 (420 for 62) and + 368 (430) what goes beyond it.
     int colour(int code);
     int colour(int code, int unless);
+    NotedColour colour();
     /// The same for objects that came with R2004, which have its colours in earlier files too.
     int longColour(int code);
     NotedColour longColour();
@@ -268,6 +277,7 @@ private:
     const Names &m_names;
     AskSize m_askSize;
     AskArrowSize m_askArrowSize;
+    AskColour m_askColour;
     BitReader m_values;
     BitReader m_texts;
     BitReader m_references;

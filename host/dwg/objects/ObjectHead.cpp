@@ -135,8 +135,13 @@ void noteEntity(Fields &fields, const EntityValues &entity)
         fields.noteHandle(347, 0);
     const std::uint64_t plotStyle = entity.plotStyle == fromReference ? fields.reference() : 0;
     const EntityColour &colour = entity.colour;
-    if (colour.index != 256 || colour.rgb != 0 || colour.isNamed)
-        fields.noteColour(62, colour.index, colour.rgb, fields.nameOf(entity.colourName));
+    const auto book = colour.isNamed ? fields.bookColour(entity.colourName) : std::nullopt;
+    if (colour.isNamed && !book)
+        fields.doubt("The colour of a book that it has is not in the file.");
+    if (book)
+        fields.note(62, *book);
+    else if (colour.index != 256 || colour.rgb != 0 || colour.isNamed)
+        fields.noteColour(62, colour.index, colour.rgb, {});
     if (colour.transparency != 0)
         fields.note(440, static_cast<std::int32_t>(colour.transparency));
     fields.noteUnless(48, entity.scale, {1.0});

@@ -192,12 +192,20 @@ void readSectionViewStyle(Fields &f)
     f.moveRange(further + 1, hatch + 1, identifiers);
 }
 
+/// A colour of a colour book that entities have.
+void readBookColour(Fields &f)
+{
+    f.subclass("AcDbColor");
+    f.longColour(62);
+}
+
 } // namespace
 
 std::span<const ObjectType> styleTypes()
 {
     static constexpr ObjectType rows[] = {
         {0, "SCALE", readScale},
+        {0, "DBCOLOR", readBookColour},
         {0, "MLEADERSTYLE", readLeaderStyle},
         {0, "ACDBDETAILVIEWSTYLE", readDetailViewStyle},
         {0, "ACDBSECTIONVIEWSTYLE", readSectionViewStyle},

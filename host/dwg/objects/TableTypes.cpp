@@ -50,14 +50,9 @@ void readLayer(Fields &f)
         (bits & LayerBits::frozen) | (bits & LayerBits::frozenInNew ? 2 : 0) | (bits & LayerBits::locked ? 4 : 0);
     noteEntry(f, "AcDbLayerTableRecord", entry);
     const std::size_t begin = f.mark();
-    const int sign = isOff ? -1 : 1;
-    if (f.since(Release::R2004)) {
-        NotedColour colour = f.longColour();
-        colour.index *= sign;
-        f.note(62, colour);
-    } else {
-        f.note(62, sign * f.int16());
-    }
+    NotedColour colour = f.colour();
+    colour.index = isOff ? -colour.index : colour.index;
+    f.note(62, colour);
     f.reference(); // of the external drawing it came from
     const std::uint64_t plotStyle = f.since(Release::R2000) ? f.reference() : 0;
     const std::uint64_t material = f.since(Release::R2007) ? f.reference() : 0;

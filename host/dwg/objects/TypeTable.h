@@ -52,7 +52,7 @@ std::span<const ObjectType> dictionaryTypes(); ///< dictionaries, extension reco
 std::span<const ObjectType> layoutTypes();
 std::span<const ObjectType> materialTypes();
 std::span<const ObjectType> visualStyleTypes();
-std::span<const ObjectType> styleTypes();        ///< scales, styles of leaders and views
+std::span<const ObjectType> styleTypes();        ///< scales, named colours, styles of leaders and views
 std::span<const ObjectType> tableStyleTypes();   ///< of tables with cells
 std::span<const ObjectType> tableContentTypes(); ///< the cells of these tables
 std::span<const ObjectType> tableEntityTypes();

@@ -38,26 +38,6 @@ std::uint64_t tableFor(int entryType)
     return 0;
 }
 
-void writeLayerZero(ObjectWriter &o)
-{
-    o.entryHead("0");
-    if (o.since(Release::R2000)) {
-        o.int16(0x3b0); // plotted, usual line weight
-    } else {
-        for (const bool flag : {false, true, false, false})
-            o.flag(flag);
-    }
-    o.colour(7);
-    o.reference(0);
-    if (o.since(Release::R2000))
-        o.reference(0);
-    if (o.since(Release::R2007))
-        o.reference(0);
-    o.reference(MadeHandles::Continuous);
-    if (o.since(Release::R2013))
-        o.reference(0);
-}
-
 void writeTextStyle(ObjectWriter &o)
 {
     o.entryHead("Standard");
@@ -171,6 +151,28 @@ void writeHeaderValue(ObjectWriter &o, const HeaderRow &row, double number)
 
 } // namespace
 
+MadeDrawing::Write layerWriter(std::string name, bool isOn, MadeDrawing::Write colour)
+{
+    return [name = std::move(name), isOn, colour = std::move(colour)](ObjectWriter &o) {
+        o.entryHead(name);
+        if (o.since(Release::R2000)) {
+            o.int16(isOn ? 0x3b0 : 0x3b2); // plotted, usual line weight
+        } else {
+            for (const bool flag : {false, !isOn, false, false})
+                o.flag(flag);
+        }
+        colour(o);
+        o.reference(0);
+        if (o.since(Release::R2000))
+            o.reference(0);
+        if (o.since(Release::R2007))
+            o.reference(0);
+        o.reference(MadeHandles::Continuous);
+        if (o.since(Release::R2013))
+            o.reference(0);
+    };
+}
+
 MadeDrawing::MadeDrawing(Release release) : m_release(release)
 {
     addTables();
@@ -200,7 +202,7 @@ void MadeDrawing::addTables()
     const auto entry = [this](int type, std::uint64_t handle, Write write) {
         add(type, false, handle, tableFor(type), std::move(write));
     };
-    entry(LayerType, MadeHandles::LayerZero, writeLayerZero);
+    entry(LayerType, MadeHandles::LayerZero, layerWriter("0", true, [](ObjectWriter &o) { o.colour(7); }));
     entry(StyleType, MadeHandles::TextStyle, writeTextStyle);
     entry(ApplicationType, MadeHandles::Application, writeApplication);
     entry(LinetypeType, MadeHandles::ByBlock, [](ObjectWriter &o) { writeLinetype(o, "ByBlock"); });

@@ -128,4 +128,7 @@ private:
     std::map<std::string, double> m_header;
 };
 
+/// What writes a layer, for MadeDrawing::addEntry(). `colour` writes its colour.
+MadeDrawing::Write layerWriter(std::string name, bool isOn, MadeDrawing::Write colour);
+
 } // namespace host::dwg::test

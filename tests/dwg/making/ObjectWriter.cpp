@@ -81,7 +81,7 @@ void ObjectWriter::writeEntityHead(const MadeHead &head)
         m_values.bit(true); // the layer's linetype
     if (until(Release::R2000))
         m_values.bit(false); // its neighbours are told
-    m_values.shortInteger(head.colour);
+    writeEntityColour(head);
     m_values.real(head.linetypeScale);
     if (since(Release::R2000)) {
         m_values.pair(0); // linetype and plot style of the layer
@@ -101,8 +101,20 @@ void ObjectWriter::writeEntityHead(const MadeHead &head)
         reference(head.layer);
     if (until(Release::R2000))
         writeLinks();
+    if (head.bookColour != 0)
+        reference(head.bookColour);
     if (since(Release::R2000))
         reference(head.layer);
+}
+
+void ObjectWriter::writeEntityColour(const MadeHead &head)
+{
+    // A colour of its own in 24 bits, which an object has; and transparency.
+    const int ofBook = head.bookColour != 0 ? 0xc000 : 0;
+    const int transparent = head.transparency != 0 ? 0x2000 : 0;
+    m_values.shortInteger(head.colour | ofBook | transparent);
+    if (transparent != 0)
+        m_values.longInteger(static_cast<std::int32_t>(head.transparency));
 }
 
 void ObjectWriter::rawFlatPoint(double x, double y)
@@ -128,9 +140,18 @@ void ObjectWriter::colour(int index)
 {
     if (!since(Release::R2004))
         return int16(index);
+    longColour(wholeColourOf(index));
+}
+
+void ObjectWriter::longColour(std::uint32_t rgb, std::string_view name, std::string_view book)
+{
     int16(0);
-    int32(static_cast<std::int32_t>(wholeColourOf(index)));
-    small(0);
+    int32(static_cast<std::int32_t>(rgb));
+    small((name.empty() ? 0 : 1) | (book.empty() ? 0 : 2));
+    for (const std::string_view part : {name, book}) {
+        if (!part.empty())
+            text(part);
+    }
 }
 
 void ObjectWriter::entryHead(std::string_view name)

@@ -27,7 +27,9 @@ struct MadeHead
     std::uint64_t layer = 0;
     std::uint64_t previous = 0; ///< the neighbours in the block, before R2004
     std::uint64_t next = 0;
-    int colour = 256; ///< an index
+    int colour = 256;               ///< an index
+    std::uint64_t bookColour = 0;   ///< the object that is the colour, from R2004 on; 0: none
+    std::uint32_t transparency = 0; ///< from R2004 on; 0: none
     double linetypeScale = 1.0;
     bool isVisible = true;
 };
@@ -62,6 +64,8 @@ public:
     void reference(std::uint64_t handle, int kind = HandleReference::HardPointer);
     /// An index, coded as Fields::colour() reads it.
     void colour(int index);
+    /// A colour of R2004 and later, in the form of these releases; with names that are not empty.
+    void longColour(std::uint32_t rgb, std::string_view name = {}, std::string_view book = {});
     /// What the entries of tables begin with.
     void entryHead(std::string_view name);
 
@@ -73,6 +77,7 @@ public:
 private:
     void writeExtensions(const MadeHead &head);
     void writeEntityHead(const MadeHead &head);
+    void writeEntityColour(const MadeHead &head);
     void writeRelations(const MadeHead &head);
     void holdSize();
 
