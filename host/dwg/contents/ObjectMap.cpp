@@ -63,13 +63,13 @@ MapContent readRuns(Bytes map, std::size_t most, Problems &problems)
 
 void sortByHandle(std::vector<MapEntry> &entries)
 {
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const MapEntry &a, const MapEntry &b) { return a.handle < b.handle; });
+    if (!std::ranges::is_sorted(entries, {}, &MapEntry::handle))
+        std::ranges::stable_sort(entries, {}, &MapEntry::handle);
     const auto isSame = [](const MapEntry &a, const MapEntry &b) { return a.handle == b.handle; };
     entries.erase(std::unique(entries.begin(), entries.end(), isSame), entries.end());
 }
 
-/// Marks what is not at its place. False when there is any.
+/// Tells the types of objects, and marks what is not at its place. False when there is any.
 bool markLost(const Container &container, std::vector<MapEntry> &entries)
 {
     std::uint64_t room = container.objects.size();
@@ -79,6 +79,7 @@ bool markLost(const Container &container, std::vector<MapEntry> &entries)
         const bool isThere = object && object->handle == entry.handle && object->size <= room;
         room -= isThere ? object->size : 0;
         entry.place = isThere ? entry.place : lostPlace;
+        entry.type = isThere ? object->type : 0;
         isWhole = isWhole && isThere;
     }
     return isWhole;
@@ -95,7 +96,7 @@ std::size_t addFound(const std::vector<MapEntry> &found, bool isMapWhole, std::v
                                             [](const MapEntry &a, std::uint64_t handle) { return a.handle < handle; });
         const bool isTold = entry != end && entry->handle == one.handle;
         if (isTold && entry->place == lostPlace)
-            entry->place = one.place;
+            *entry = one;
         else if (!isTold && !isMapWhole)
             entries.push_back(one);
         else

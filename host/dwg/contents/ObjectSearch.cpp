@@ -38,7 +38,7 @@ std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release 
     const auto frame = frameAt(objects, place, release);
     if (!frame)
         return std::nullopt;
-    return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place};
+    return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place, frame->type};
 }
 
 std::vector<MapEntry> findObjects(Bytes objects, Release release)
@@ -55,7 +55,7 @@ std::vector<MapEntry> findObjects(Bytes objects, Release release)
             ++at;
             continue;
         }
-        entries.push_back({ownHandle(*frame), at});
+        entries.push_back({ownHandle(*frame), at, frame->type});
         at = endOf(*frame, objects);
     }
     std::stable_sort(entries.begin(), entries.end(),

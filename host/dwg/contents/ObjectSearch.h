@@ -12,6 +12,7 @@ struct MapEntry
 {
     std::uint64_t handle = 0;
     std::uint64_t place = 0;
+    int type = 0; ///< as it stands in the file; 0 where that was not looked at, or nothing is there
 };
 
 /// An object at a place of what the object map counts in.
@@ -19,6 +20,7 @@ struct FoundObject
 {
     std::uint64_t handle = 0; ///< that it says to have
     std::uint64_t size = 0;   ///< with its length and checksum
+    int type = 0;
 };
 
 /// Nothing when no object can be there.

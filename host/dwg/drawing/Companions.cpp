@@ -97,8 +97,8 @@ void Companions::findStyles(const DrawingObjects &objects, Fields &fields)
         return;
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
-        const auto frame = objects.peek(entry);
-        if (!frame || frame->type != one->number)
+        const auto frame = entry.type == one->number ? objects.peek(entry) : std::nullopt;
+        if (!frame)
             continue;
         head.read(*frame, false, fields);
         addPlace(entry.handle, cellStyleMap, fields.relations().dictionary);

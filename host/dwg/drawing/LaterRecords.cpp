@@ -59,8 +59,7 @@ std::unordered_set<std::uint64_t> findLaterRecords(const DrawingObjects &objects
         return place->second;
     };
     for (const MapEntry &place : objects.map()) {
-        const auto frame = objects.peek(place);
-        if (!frame || frame->type != dictionaryType)
+        if (place.type != dictionaryType)
             continue;
         const DictionaryEntries entries = readEntries(objects, place.handle, fields);
         std::size_t left = entries.size();
