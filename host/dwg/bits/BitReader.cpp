@@ -88,8 +88,7 @@ std::uint64_t BitReader::raw64()
     const std::uint64_t last = m_bytes[(m_at + wordBits - 1) / 8] >> (8 - m_at % 8);
     const std::uint64_t value = ahead() | last;
     moveTo(m_at + wordBits);
-    return static_cast<std::uint64_t>(lowestFirst(static_cast<std::uint32_t>(value))) << 32 |
-           lowestFirst(static_cast<std::uint32_t>(value >> 32));
+    return turnedAround(value);
 }
 
 std::uint64_t BitReader::aheadInFewBytes() const

@@ -15,7 +15,7 @@ namespace {
 
 constexpr char hexDigits[] = "0123456789ABCDEF";
 
-/// The line of a group code, which has three places at least. Eight bytes, so that it is copied at one go.
+/// The line of a group code, which has three places at least. Eight bytes, which are copied at one go with the size.
 struct CodeLine
 {
     std::array<char, 7> text{};
@@ -45,13 +45,8 @@ constexpr auto usualCodeLines = codeLines();
 constexpr std::size_t mostOfACode = 16;
 constexpr std::size_t mostOfANumber = 40;
 
-char *putCode(int code, char *to)
+char *putUnusualCode(int code, char *to)
 {
-    if (code >= 0 && static_cast<std::size_t>(code) < usualCodes) {
-        const CodeLine &line = usualCodeLines[static_cast<std::size_t>(code)];
-        std::memcpy(to, line.text.data(), line.text.size());
-        return to + line.size;
-    }
     char digits[mostOfACode];
     const std::string_view text(digits, std::to_chars(digits, digits + sizeof digits, code).ptr);
     to = std::fill_n(to, text.size() < 3 ? 3 - text.size() : 0, ' ');
@@ -60,18 +55,60 @@ char *putCode(int code, char *to)
     return to;
 }
 
+char *putCode(int code, char *to)
+{
+    if (static_cast<std::size_t>(code) >= usualCodes)
+        return putUnusualCode(code, to);
+    const CodeLine &line = usualCodeLines[static_cast<std::size_t>(code)];
+    std::memcpy(to, &line, sizeof line);
+    return to + line.size;
+}
+
 bool needsCaret(char c)
 {
     return static_cast<unsigned char>(c) < 0x20 || c == '^';
 }
 
-/// Without a way out of the loop, so that many are looked at at a time.
+template <typename Word>
+Word wordAt(const char *bytes)
+{
+    Word word;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+/// All bytes of a text of at most seven, some of them more than once.
+std::uint64_t shortWord(std::string_view text)
+{
+    if (text.size() >= 4)
+        return wordAt<std::uint32_t>(text.data()) |
+               static_cast<std::uint64_t>(wordAt<std::uint32_t>(text.data() + text.size() - 4)) << 32;
+    constexpr std::uint64_t blanks = 0x2020'2020'2020'2020;
+    if (text.empty())
+        return blanks;
+    const auto byte = [&](std::size_t i) { return static_cast<std::uint64_t>(static_cast<unsigned char>(text[i])); };
+    return blanks << 24 | byte(0) | byte(text.size() / 2) << 8 | byte(text.size() - 1) << 16;
+}
+
+/// Whether any of eight bytes needs a caret: one that is smaller than another borrows the highest bit when that is
+/// taken from it.
+bool needCaret(std::uint64_t word)
+{
+    constexpr std::uint64_t each = 0x0101'0101'0101'0101;
+    const std::uint64_t carets = word ^ each * '^';
+    return ((((word - each * 0x20) & ~word) | ((carets - each) & ~carets)) & each * 0x80) != 0;
+}
+
 bool needsNoCaret(std::string_view text)
 {
-    unsigned found = 0;
-    for (const char c : text)
-        found |= needsCaret(c) ? 1U : 0U;
-    return found == 0;
+    constexpr std::size_t step = sizeof(std::uint64_t);
+    if (text.size() < step)
+        return !needCaret(shortWord(text));
+    for (std::size_t i = 0; i + step < text.size(); i += step) {
+        if (needCaret(wordAt<std::uint64_t>(text.data() + i)))
+            return false;
+    }
+    return !needCaret(wordAt<std::uint64_t>(text.data() + text.size() - step));
 }
 
 char *putText(std::string_view text, DoubleBytes page, char *to)
@@ -105,10 +142,8 @@ void TagLines::clear(std::size_t most)
     m_isInOrder = true;
 }
 
-void TagLines::makeRoom(std::size_t bytes)
+void TagLines::grow(std::size_t bytes)
 {
-    if (m_room - m_size >= bytes)
-        return;
     const std::size_t room = std::max(2 * m_room, m_size + bytes + 4096);
     auto lines = std::make_unique_for_overwrite<char[]>(room);
     std::copy_n(m_lines.get(), m_size, lines.get());
@@ -116,13 +151,15 @@ void TagLines::makeRoom(std::size_t bytes)
     m_room = room;
 }
 
-char *TagLines::begin(int code, std::size_t most)
+inline char *TagLines::begin(int code, std::size_t most)
 {
-    makeRoom(mostOfACode + most + 1);
+    const std::size_t bytes = mostOfACode + most + 1;
+    if (m_room - m_size < bytes)
+        grow(bytes);
     return putCode(code, m_lines.get() + m_size);
 }
 
-void TagLines::finish(int code, char *end)
+inline void TagLines::finish(int code, char *end)
 {
     *end++ = '\n';
     const auto size = static_cast<std::size_t>(end - m_lines.get()) - m_size;

@@ -73,7 +73,7 @@ private:
     char *begin(int code, std::size_t most);
     /// Ends the tag in front of `end`.
     void finish(int code, char *end);
-    void makeRoom(std::size_t bytes);
+    void grow(std::size_t bytes);
 
     std::unique_ptr<char[]> m_lines;
     std::size_t m_room = 0;
