@@ -154,6 +154,10 @@ char *putFewDigits(double value, char *to)
 char *writeReal(double value, char *to)
 {
     const auto bits = std::bit_cast<std::uint64_t>(value);
+    if (bits == 0) {
+        std::memcpy(to, "0.0", 4);
+        return to + 3;
+    }
     constexpr std::uint64_t sign = std::uint64_t(1) << 63;
     const double size = std::bit_cast<double>(bits & ~sign);
     if (!(size <= std::numeric_limits<double>::max()))

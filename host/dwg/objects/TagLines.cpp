@@ -207,8 +207,25 @@ void TagLines::addBytes(int code, std::string_view bytes)
     finish(code, to);
 }
 
+/// Whether the tags have the order of the codes; not found out where a code that comes twice has several tags.
+bool TagLines::isArranged(std::size_t from, std::initializer_list<int> codes) const
+{
+    const int *last = codes.begin();
+    for (std::size_t i = from; i < m_tags.size(); ++i) {
+        const int *const place = std::find(codes.begin(), codes.end(), m_tags[i].code);
+        const bool isAgain = i > from && place == last && place != codes.end();
+        if (place < last || (isAgain && std::find(place + 1, codes.end(), *place) != codes.end()))
+            return false;
+        last = place;
+    }
+    return true;
+}
+
 void TagLines::arrange(std::size_t from, std::initializer_list<int> codes)
 {
+    // As most objects are, since what is to be moved is left out where it is as usual.
+    if (isArranged(from, codes))
+        return;
     // Where each tag goes among the codes; which place of a code that comes again is its next one.
     m_ranks.clear();
     m_places.assign(codes.size() + 2, 0);
@@ -224,15 +241,11 @@ void TagLines::arrange(std::size_t from, std::initializer_list<int> codes)
         }
         return rank;
     };
-    bool isArranged = true;
     for (std::size_t i = from; i < m_tags.size(); ++i) {
         const std::size_t rank = rankOf(m_tags[i].code);
-        isArranged = isArranged && (m_ranks.empty() || m_ranks.back() <= rank);
         m_ranks.push_back(rank);
         ++taken[rank];
     }
-    if (isArranged)
-        return;
     std::exclusive_scan(m_places.begin(), m_places.end(), m_places.begin(), std::size_t(0));
     m_arranged.resize(m_ranks.size());
     for (std::size_t i = 0; i < m_ranks.size(); ++i)

@@ -74,6 +74,7 @@ private:
     /// Ends the tag in front of `end`.
     void finish(int code, char *end);
     void grow(std::size_t bytes);
+    bool isArranged(std::size_t from, std::initializer_list<int> codes) const;
 
     std::unique_ptr<char[]> m_lines;
     std::size_t m_room = 0;
