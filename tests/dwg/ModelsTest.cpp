@@ -68,6 +68,9 @@ const RecordRow recordRows[] = {
      "transform $-1 -1 1 0 0 0 1 0 0 0 1 4 5 6 2 rotate no_reflect no_shear #"},
     {"transform $-1 -1 (1 0 0) (0 1 0) (0 0 1) (4 5 6) 2.0 F T T #",
      "transform $-1 -1 1 0 0 0 1 0 0 0 1 4 5 6 2 no_rotate reflect shear #"},
+    {"transform $-1 -1 '1 0 0 0 1 0 0 0 1 4 5 6 1 no_rotate no_reflect no_shear ' #",
+     "transform $-1 -1 1 0 0 0 1 0 0 0 1 4 5 6 1 no_rotate no_reflect no_shear #"},
+    {"one-other-attrib $-1 'word ' #", "kept"},
     {"persubent-acadSolidHistory-attrib $-1 -1 $-1 $-1 $5 1 -3 #", nullptr},
     {"rgb_color-st-attrib $-1 -1 $-1 $-1 $5 0.5 1.0 \"\" #", "rgb_color-st-attrib $-1 -1 $-1 $-1 $5 0.5 1 @0  #"},
     {"one-other-attrib $-1 F #", "kept"},
@@ -96,20 +99,9 @@ std::vector<std::string> modelIn(const TextNode &node)
     return lines;
 }
 
-/// An object with a model, and nothing drawn of it.
 MadeDrawing::Write writeModel(std::string model, bool isSolid)
 {
-    return [model = std::move(model), isSolid](ObjectWriter &o) {
-        o.flag(false);
-        o.flag(true);
-        o.int16(2);
-        o.values().rawBytes(model);
-        o.flag(false);
-        o.flag(false);
-        o.int32(0);
-        if (isSolid)
-            o.reference(0, HandleReference::SoftOwner);
-    };
+    return [model = std::move(model), isSolid](ObjectWriter &o) { writeSolid(o, model, isSolid); };
 }
 
 const TextNode &nodeOf(const ReadBack &read, const std::string &handle)
@@ -160,6 +152,11 @@ TEST(DwgModels, VersionsHaveTheirOwnForms)
     const char *const edge = "edge $-1 $2 $3 $4 $70000 T \"ab\" #";
     EXPECT_EQ(lineOf(edge, {.version = 400}), "edge $-1 $2 $3 $4 $70000 reversed 2 ab #");
     EXPECT_EQ(lineOf(edge, {.isWide = true}), "edge $-1 $2 $3 $4 $70000 reversed @2 ab #");
+    const char *const point = "point $-1 (1e-07 -0.1 1e-100) #";
+    EXPECT_EQ(lineOf(point, {.writer = "ASM 1.0 NT"}),
+              "point $-1 9.9999999999999995e-008 -0.10000000000000001 1e-100 #");
+    EXPECT_EQ(lineOf(point, {.writer = "ASM 1.0 OSX"}),
+              "point $-1 9.999999999999999547e-08 -0.1000000000000000056 1.00000000000000002e-100 #");
     const auto head = modelLines(binaryModel("body #"));
     ASSERT_TRUE(head);
     EXPECT_EQ((*head)[0], "21800 0 2 4");

@@ -14,6 +14,37 @@ namespace {
 constexpr std::int64_t withWords = 200;
 constexpr std::int64_t withSign = 700;
 
+/// How programs write numbers: with as many digits as give them back, and exponents of two or three.
+struct NumberForm
+{
+    std::string_view system; ///< what the version of the program ends with that wrote the model
+    int digits;
+    std::size_t exponentDigits;
+};
+
+constexpr NumberForm numberForms[] = {
+    {" OSX", 19, 2},
+    {" NT", 17, 3},
+    {"", 17, 2},
+};
+
+const NumberForm &numberFormOf(std::string_view writer)
+{
+    return *std::ranges::find_if(numberForms, [writer](const auto &form) { return writer.ends_with(form.system); });
+}
+
+std::string modelNumber(double value, int digits, std::size_t exponentDigits)
+{
+    char text[40];
+    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, digits);
+    std::string number(text, end.ptr);
+    // Exponents have a sign and two digits at least.
+    const std::size_t exponent = number.find('e');
+    if (exponent != std::string::npos && number.size() - exponent - 2 < exponentDigits)
+        number.insert(exponent + 2, 1, '0');
+    return number;
+}
+
 bool isPlainLetter(char c)
 {
     return c > ' ' && c <= '~';
@@ -50,6 +81,8 @@ private:
             if (!m_reader.next(m_value) || (isTextLine ? !m_value.isText() : m_value.tag != ModelTag::Real) ||
                 !addValue(m_value))
                 return false;
+            if (i == 1)
+                m_numberForm = &numberFormOf(m_value.text);
             if (i == 2 || i == 5)
                 closeLine();
         }
@@ -100,7 +133,7 @@ private:
         for (const ModelValue &value : m_values) {
             if (value.isLogical() && hasWords)
                 addWord(*word++);
-            else if (!addValue(value))
+            else if (!(name == "transform" && addLiteral(value)) && !addValue(value))
                 return false;
         }
         return true;
@@ -135,6 +168,7 @@ private:
             return addName(value.text);
         case ModelTag::NamePart: // known in names of records alone
         case ModelTag::Character:
+        case ModelTag::LiteralText: // known in transforms alone
             return false;
         default:
             return value.isText() ? addText(value.text) : addReals(value);
@@ -147,9 +181,23 @@ private:
         return std::ranges::all_of(name, isPlainLetter);
     }
 
+    /// Transforms may have all of their values as one text.
+    bool addLiteral(const ModelValue &value)
+    {
+        if (value.tag != ModelTag::LiteralText || !isPlain(value.text))
+            return false;
+        addWord(std::string_view(value.text).substr(0, value.text.find_last_not_of(' ') + 1));
+        return true;
+    }
+
+    static bool isPlain(std::string_view text)
+    {
+        return std::ranges::all_of(text, [](char c) { return c == ' ' || isPlainLetter(c); });
+    }
+
     bool addText(std::string_view text)
     {
-        if (!std::ranges::all_of(text, [](char c) { return c == ' ' || isPlainLetter(c); }))
+        if (!isPlain(text))
             return false;
         addWord((m_version >= withSign ? "@" : "") + std::to_string(text.size()));
         addWord(text);
@@ -158,14 +206,11 @@ private:
 
     bool addReals(const ModelValue &value)
     {
-        const int digits = value.tag == ModelTag::Float ? 9 : 17;
+        const int digits = value.tag == ModelTag::Float ? 9 : m_numberForm->digits;
         for (std::size_t i = 0; i < value.realCount; ++i) {
             if (!std::isfinite(value.reals[i]))
                 return false;
-            char text[40];
-            const auto end =
-                std::to_chars(text, text + sizeof text, value.reals[i], std::chars_format::general, digits);
-            addWord({text, end.ptr});
+            addWord(modelNumber(value.reals[i], digits, m_numberForm->exponentDigits));
         }
         return true;
     }
@@ -185,6 +230,7 @@ private:
 
     ModelReader m_reader;
     std::int64_t m_version;
+    const NumberForm *m_numberForm = &numberFormOf({});
     ModelValue m_value;
     std::vector<ModelValue> m_values; ///< of the record
     std::string m_line;

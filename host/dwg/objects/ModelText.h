@@ -8,7 +8,7 @@
 namespace host::dwg {
 
 /// The text form of a model in binary form, which must be nothing else than the model: lines of head, then a line for
-/// each record, and the one that closes it. Numbers have seventeen digits, so that none of them changes.
+/// each record, and the one that closes it. Numbers have as many digits as give them back.
 ///
 /// Nothing where the model is damaged, or has what no word is known for here: it stays in binary form then, since a
 /// word that is guessed makes another model. Costs by the length of the model; lines take up to 12 times as much.

@@ -32,8 +32,7 @@ std::size_t endOfModelBytes(std::string_view bytes)
 
 bool ModelValue::isText() const
 {
-    return tag == ModelTag::ShortText || tag == ModelTag::Text || tag == ModelTag::LongText ||
-           tag == ModelTag::LiteralText;
+    return tag == ModelTag::ShortText || tag == ModelTag::Text || tag == ModelTag::LongText;
 }
 
 ModelReader::ModelReader(std::string_view model)

@@ -28,7 +28,7 @@ enum class ModelTag : std::uint8_t
     Open = 15,
     Close = 16,
     EndOfRecord = 17,
-    LiteralText = 18, ///< as LongText
+    LiteralText = 18, ///< as LongText: values that have their text form
     Position = 19,    ///< three numbers
     Vector = 20,      ///< three numbers
     Enumeration = 21,
@@ -45,6 +45,7 @@ struct ModelValue
     std::string text;
 
     bool isLogical() const { return tag == ModelTag::True || tag == ModelTag::False; }
+    /// Of the kinds that the text form has behind their length.
     bool isText() const;
 };
 

@@ -1,7 +1,5 @@
 #include "tests/dwg/making/BinaryModel.h"
 
-#include "tests/dwg/making/BitWriter.h"
-
 #include <algorithm>
 #include <cstdlib>
 
@@ -18,7 +16,8 @@ public:
         for (const int number : {form.version, 0, 2, 4})
             wide(number);
         if (form.version >= 200)
-            line("\"Ortakit\" \"ASM 1.0\" \"Thu Jan 01 00:00:00 1970\" 25.4 1e-06 1e-10", false);
+            line("\"Ortakit\" \"" + std::string(form.writer) + "\" \"Thu Jan 01 00:00:00 1970\" 25.4 1e-06 1e-10",
+                 false);
     }
 
     void line(std::string_view text, bool hasName = true)
@@ -35,7 +34,7 @@ private:
     /// The next word, a position and a text being one; the blanks behind it go as well.
     static std::string_view take(std::string_view &text)
     {
-        const char end = text.front() == '"' ? '"' : text.front() == '(' ? ')' : ' ';
+        const char end = text.front() == '"' || text.front() == '\'' ? text.front() : text.front() == '(' ? ')' : ' ';
         const std::size_t at = std::min(text.find(end, 1), text.size());
         const std::string_view word = text.substr(0, end == ' ' ? at : at + 1);
         text.remove_prefix(word.size());
@@ -93,6 +92,10 @@ private:
             return position(word);
         case '"':
             return shortText(7, word.substr(1, word.size() - 2));
+        case '\'':
+            m_bytes.byte(18);
+            m_bytes.raw32(static_cast<std::uint32_t>(word.size() - 2));
+            return m_bytes.rawBytes(word.substr(1, word.size() - 2));
         case '=':
             return shortText(13, word.substr(1));
         case 'e':
@@ -111,12 +114,12 @@ private:
 };
 
 constexpr std::string_view triangle = R"(asmheader $-1 -1 "1.0" #
-body $-1 -1 $-1 $2 $-1 $-1 #
+body $-1 -1 $-1 $2 $-1 $22 #
 lump $-1 -1 $-1 $-1 $3 $1 #
 shell $-1 -1 $-1 $-1 $-1 $4 $-1 $2 #
 face $-1 -1 $-1 $-1 $5 $3 $-1 $6 F T F #
 loop $-1 -1 $-1 $-1 $7 $4 #
-plane-surface $-1 -1 $-1 (1 2 0) (0 0 1) (1 0 0) F F F F F #
+plane-surface $-1 -1 $-1 (0 0 0) (0 0 1) (1 0 0) F F F F F #
 coedge $-1 -1 $-1 $8 $9 $-1 $10 F $5 0 $-1 #
 coedge $-1 -1 $-1 $9 $7 $-1 $11 F $5 0 $-1 #
 coedge $-1 -1 $-1 $7 $8 $-1 $12 T $5 0 $-1 #
@@ -126,12 +129,13 @@ edge $-1 -1 $-1 $13 0.0 $15 5.0 $9 $21 F "unknown" #
 vertex $-1 -1 $-1 $10 0 $16 #
 vertex $-1 -1 $-1 $10 1 $17 #
 vertex $-1 -1 $-1 $11 1 $18 #
-point $-1 -1 $-1 (1 2 0) #
-point $-1 -1 $-1 (5 2 0) #
-point $-1 -1 $-1 (5 5 0) #
-straight-curve $-1 -1 $-1 (1 2 0) (1 0 0) F F #
-straight-curve $-1 -1 $-1 (5 2 0) (0 1 0) T 0.0 T 3.0 #
-straight-curve $-1 -1 $-1 (1 2 0) (0.8 0.6 0) F F #
+point $-1 -1 $-1 (0 0 0) #
+point $-1 -1 $-1 (4 0 0) #
+point $-1 -1 $-1 (4 3 0) #
+straight-curve $-1 -1 $-1 (0 0 0) (1 0 0) F F #
+straight-curve $-1 -1 $-1 (4 0 0) (0 1 0) T 0.0 T 3.0 #
+straight-curve $-1 -1 $-1 (0 0 0) (0.8 0.6 0) F F #
+transform $-1 -1 (1 0 0) (0 1 0) (0 0 1) (1 2 0) 1.0 F F F #
 )";
 
 } // namespace
@@ -157,6 +161,19 @@ std::string triangleModel()
 std::string splineModel()
 {
     return binaryModel(std::string(triangle) + "intcurve-curve $-1 -1 $-1 F { =exactcur e0 =nubs 1 e0 2 } F F #\n");
+}
+
+void writeSolid(ObjectWriter &o, std::string_view model, bool isSolid)
+{
+    o.flag(false);
+    o.flag(true);
+    o.int16(2);
+    o.values().rawBytes(model);
+    o.flag(false);
+    o.flag(false);
+    o.int32(0);
+    if (isSolid)
+        o.reference(0, HandleReference::SoftOwner);
 }
 
 } // namespace host::dwg::test
