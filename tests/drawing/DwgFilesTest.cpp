@@ -5,10 +5,13 @@
 #include "host/drawing/file/Recovery.h"
 #include "host/drawing/file/Save.h"
 #include "host/drawing/file/XrecordInFile.h"
+#include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/solids/SolidModel.h"
 #include "tests/drawing/DrawingSample.h"
+#include "tests/dwg/making/BinaryModel.h"
 #include "tests/dwg/making/Circles.h"
 #include "tests/dwg/making/MadeDrawing.h"
 #include "tests/dwg/making/TypeNumbers.h"
@@ -107,6 +110,32 @@ TEST(DwgFiles, ListWhatIsLostInFront)
         notes.list.push_back({.kind = kind, .type = {}, .handle = {}, .text = text});
     EXPECT_EQ(notes.faults(2), (QStringList{u"d"_s, u"a"_s, u"and 1 more"_s}));
     EXPECT_EQ(notes.faults(3), (QStringList{u"d"_s, u"a"_s, u"c"_s}));
+}
+
+TEST(DwgFiles, HaveRegionsWithTheirModels)
+{
+    for (const Release release : {Release::R2007, Release::R2010}) {
+        constexpr int regionType = 0x25;
+        MadeDrawing made(release);
+        made.addEntity(regionType,
+                       [](ObjectWriter &o) { dwg::test::writeSolid(o, dwg::test::triangleModel(), false); });
+        const ReadResult read = Drawing::fromBytes(bytesOf(made.file()));
+        ASSERT_TRUE(read);
+        EXPECT_FALSE(read.drawing->readingNotes().hasFaults());
+        const RecordId region = read.drawing->find(Handle{dwg::test::MadeHandles::First});
+        for (const double x : {1.0, 11.0}) {
+            const SolidModel model = readSolidModel(read.drawing->tags(region));
+            ASSERT_EQ(model.edges.size(), 3u);
+            EXPECT_EQ(model.edges[0][0].startPoint(), (Vec3{x, 2.0, 0.0}));
+            EXPECT_EQ(model.edges[1][0].endPoint(), (Vec3{x + 4.0, 5.0, 0.0}));
+            const auto measures = measureRegion(model);
+            ASSERT_TRUE(measures);
+            EXPECT_DOUBLE_EQ(measures->area, 6.0);
+            EXPECT_DOUBLE_EQ(measures->perimeter, 12.0);
+            ASSERT_TRUE(transformEntity(*read.drawing, region, Matrix::translation({10.0, 0.0, 0.0})));
+        }
+        EXPECT_AUDIT_CLEAN(*read.drawing);
+    }
 }
 
 TEST(DwgFiles, AreNoPipesToWaitFor)

@@ -242,10 +242,13 @@ Matrix solidPlacement(const SolidRecords &records)
     const auto transforms = body ? records.referred(*body, "transform") : std::vector<const Words *>();
     const std::vector<double> n =
         transforms.empty() ? std::vector<double>() : SolidRecords::numbersOf(*transforms.front());
-    if (n.size() < 13)
+    constexpr std::size_t count = 13;
+    if (n.size() < count)
         return {};
-    const auto row = [&n](std::size_t i) { return Vec3{n[i], n[i + 1], n[i + 2]}; };
-    const double scale = n[12];
+    // Later versions have a number of theirs in front, earlier ones three digits behind.
+    const std::size_t begin = n.size() == count + 1 ? 1 : 0;
+    const auto row = [&n, begin](std::size_t i) { return Vec3{n[begin + i], n[begin + i + 1], n[begin + i + 2]}; };
+    const double scale = n[begin + 12];
     return {row(0) * scale, row(3) * scale, row(6) * scale, row(9)};
 }
 
