@@ -1,6 +1,8 @@
-// The cells of a table of R2018, which are made of its content: those that another program made of the same content.
-// Its text form has both, so the content is written as the file would have it, tag for tag.
+// The cells of a table of R2018, which are made of its content: those that another program made of the same content,
+// whose text form has both, so that it is written as the file would have it, tag for tag. And cells with looks of their
+// own.
 
+#include "tests/dwg/FieldWords.h"
 #include "tests/dwg/making/ReadBack.h"
 
 #include <algorithm>
@@ -82,7 +84,73 @@ std::string lineOf(const TextTag &tag)
     return std::to_string(tag.code) + ' ' + trimmed(tag.value);
 }
 
+/// A cell's own format, and what the older form has of it.
+struct LookRow
+{
+    const char *name;
+    std::string content; ///< the format of the content, behind the flag that tells whether there is one
+    std::string format;  ///< the cell's, behind its kind
+    int flags;
+    std::string tags;
+};
+
+/// The format of a content: what differs, and values that no style has.
+std::string contentFormat(int flags, double height)
+{
+    return "s1 l" + std::to_string(flags) + " l0 l512 l0 t d0 d1 l5 K3 h11 d" + std::to_string(height) + ' ';
+}
+
+/// A cell's, with the same content, which is `fill` and has borders.
+std::string cellFormat(int flags, const std::string &fill, const std::string &borders)
+{
+    return "s1 l" + std::to_string(flags) + " l0 " + fill + " l1 " + contentFormat(flags & 0x1ff, 2.5).substr(3) +
+           "s0 " + borders;
+}
+
+const LookRow lookRows[] = {
+    {"as its style", "s0 ", cellFormat(0, "K5", "l1 l1 l0 l1 K5 l50 h0 l1 d0 "), 0, ""},
+    {"no format", "s0 ", "s0 ", 0, ""},
+    {"aligned", "s0 ", cellFormat(0x10, "K257", "l0 "), 1, "170 5|"},
+    {"text", "s0 ", cellFormat(0xe0, "K257", "l0 "), 0x38, "64 3|7 Standard|140 2.5|"},
+    {"content in its own way", contentFormat(0x80, 4.0), cellFormat(0x90, "K257", "l0 "), 0x21, "170 5|140 4.0|"},
+    {"content alone", contentFormat(0xa0, 4.0), "s0 ", 0x28, "64 3|140 4.0|"},
+    {"filled", "s0 ", cellFormat(0x200, "K#c2ff0000", "l0 "), 6, "283 1|63 1|421 16711680|"},
+    {"not filled", "s0 ", cellFormat(0x200, "K257", "l0 "), 2, "283 0|"},
+    {"hidden side, wide top", "s0 ", cellFormat(0, "K257", "l2 l32 l16 l1 K0 l-2 h0 l1 d0 l1 l10 l1 K5 l50 h0 l0 d0 "),
+     0x8440, "69 5|279 50|285 0|"},
+    {"sides at once, inner ones have no groups", "s0 ", cellFormat(0, "K257", "l1 l31 l26 l1 K6 l25 h0 l0 d0 "),
+     0x37740, "69 6|279 25|289 1|66 6|276 25|286 1|68 6|278 25|288 1|"},
+};
+
+/// A table of one column with a row for each look.
+std::string tableOfLooks()
+{
+    std::string words = "p1,2,0 b1 b1 d0 p0,0,1 b0 h1D c0 h0 l0 l0 t t l1 t l0 l0 l3 s0 l0 d40 l" +
+                        std::to_string(std::size(lookRows)) + ' ';
+    for (const LookRow &row : lookRows)
+        words += "l1 l0 t l0 l0 l0 l1 l1 l2 l4 tHi l0 t tHi l0 " + row.content + "l1 " + row.format +
+                 "l3 l0 l0 l0 l2 s0 l3 d9 ";
+    return words + "l0 l4 s0 l0 h50 s38 p1,0,0 l0 l1 p0,0,0 l0 l1";
+}
+
 } // namespace
+
+TEST(DwgTables, CellsLookAsTheyDifferFromTheirStyle)
+{
+    for (const Release release : {Release::R2013, Release::R2018}) {
+        MadeDrawing drawing(release);
+        const std::uint64_t table = drawing.addEntity("ACAD_TABLE", writerOf(tableOfLooks()));
+        const ReadBack read = readBack(drawing);
+        EXPECT_EQ(read.problems(), "");
+        std::string cells = read.lastPart(table);
+        for (const LookRow &row : lookRows) {
+            cells.erase(0, std::min(cells.size(), cells.find("|91 ", cells.find("171 1|")) + 1));
+            EXPECT_EQ(cells.substr(0, cells.find("92 0|301")),
+                      "91 " + std::to_string(row.flags) + "|178 0|145 0.0|" + row.tags)
+                << row.name;
+        }
+    }
+}
 
 TEST(DwgTables, HaveTheCellsThatAnotherProgramMakesOfTheirContent)
 {

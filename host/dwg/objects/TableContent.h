@@ -2,6 +2,8 @@
 
 #include "host/dwg/objects/TableFormat.h"
 
+#include <memory>
+
 namespace host::dwg {
 
 /// What stands in one cell of a table, as far as the form of earlier releases has it.
@@ -20,7 +22,7 @@ struct TableCell
     std::size_t value = 0;    ///< where the tags of the value begin and end
     std::size_t valueEnd = 0;
     ContentFormat content;
-    ContentFormat format;
+    std::unique_ptr<TableFormat> format; ///< null where nothing of the cell differs from its style
 };
 
 /// Cells that are one: rows and columns, counted from 0, the last ones too.
@@ -44,5 +46,8 @@ struct TableContent
 /// Reads the columns, rows and cells of a table with what is in them and how it looks: an object of its own, and from
 /// R2010 on a part of the table as well. Returns what was noted besides noting it.
 TableContent readTableContent(Fields &fields);
+
+/// Notes the cells of the table in the older form, row by row.
+void noteEarlyCells(Fields &fields, const TableContent &table);
 
 } // namespace host::dwg

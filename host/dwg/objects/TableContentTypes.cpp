@@ -104,6 +104,11 @@ void readCellGeometry(Fields &f)
     f.reference(330);
 }
 
+bool differsFromStyle(const TableFormat &format)
+{
+    return format.flags != 0 || std::ranges::any_of(format.borders, &TableFormat::Border::flags);
+}
+
 TableCell readCell(Fields &f)
 {
     TableCell cell;
@@ -118,7 +123,10 @@ TableCell readCell(Fields &f)
     for (std::size_t i = 0; i < contents && !f.hasFailed(); ++i)
         cell = readContent(f);
     f.note(309, "LINKEDTABLEDATACELL_END");
-    cell.format = readNamedFormat(f, "CELLTABLEFORMAT", "FORMATTEDTABLEDATACELL_BEGIN", "FORMATTEDTABLEDATACELL_END");
+    TableFormat format =
+        readNamedFormat(f, "CELLTABLEFORMAT", "FORMATTEDTABLEDATACELL_BEGIN", "FORMATTEDTABLEDATACELL_END");
+    if (differsFromStyle(format))
+        cell.format = std::make_unique<TableFormat>(std::move(format));
     f.note(1, "TABLECELL_BEGIN");
     f.int32(90);
     readCellGeometry(f);

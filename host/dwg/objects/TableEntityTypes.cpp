@@ -186,84 +186,6 @@ void readEarlyTable(Fields &f, std::uint64_t block)
 
 // From R2010 on the table has its content in the new form; the text form has the old one still.
 
-/// Whether the cell is part of merged cells, and if it is the first of them how many they are.
-struct Merging
-{
-    bool isHidden = false;
-    int columns = 1;
-    int rows = 1;
-};
-
-using MergingRows = std::vector<std::vector<Merging>>;
-
-/// Hides the cells behind the first one; ends at one that is merged already, so that each is looked at once.
-void mergeCells(MergingRows &rows, const MergedCells &cells)
-{
-    const auto at = [](int number) { return static_cast<std::size_t>(number); };
-    if (cells.top < 0 || cells.left < 0 || cells.bottom < cells.top || cells.right < cells.left ||
-        at(cells.bottom) >= rows.size())
-        return;
-    for (int row = cells.top; row <= cells.bottom; ++row) {
-        for (int column = cells.left; column <= cells.right; ++column) {
-            if (at(column) >= rows[at(row)].size() || rows[at(row)][at(column)].isHidden)
-                return;
-            rows[at(row)][at(column)].isHidden = true;
-        }
-    }
-    rows[at(cells.top)][at(cells.left)] = {false, cells.right - cells.left + 1, cells.bottom - cells.top + 1};
-}
-
-MergingRows mergingOf(const TableContent &table)
-{
-    MergingRows rows;
-    for (const std::vector<TableCell> &row : table.rows)
-        rows.emplace_back(row.size());
-    for (const MergedCells &cells : table.merged)
-        mergeCells(rows, cells);
-    return rows;
-}
-
-void noteNoValue(Fields &f)
-{
-    f.note(93, 3);
-    f.note(90, 0);
-    f.note(91, 0);
-    f.note(94, 0);
-    f.note(300, "");
-    f.note(302, "");
-    f.note(304, "ACVALUE_END");
-}
-
-void noteCell(Fields &f, const TableCell &cell, const Merging &merging)
-{
-    const bool isBlock = cell.kind == TableCell::Block;
-    const int automatic = cell.content.flags & cell.content.properties & ContentFormat::automaticScaleBit;
-    const bool isAligned = (cell.format.flags & ContentFormat::alignmentBit) != 0;
-    f.note(171, isBlock ? 2 : 1);
-    f.note(172, 0);
-    f.note(173, merging.isHidden);
-    f.note(174, isBlock && automatic != 0);
-    f.note(175, merging.columns);
-    f.note(176, merging.rows);
-    f.note(91, isAligned ? 1 : 0);
-    f.note(178, 0);
-    f.note(145, cell.content.rotation);
-    if (isBlock) {
-        f.noteHandle(340, cell.object);
-        f.note(144, cell.content.scale);
-    } else if (cell.object != 0) {
-        f.noteHandle(344, cell.object);
-    }
-    if (isAligned)
-        f.note(170, cell.format.alignment);
-    f.note(92, 0);
-    f.note(301, "CELL_VALUE");
-    if (cell.valueEnd > cell.value)
-        f.repeat(cell.value, cell.valueEnd);
-    else
-        noteNoValue(f);
-}
-
 void noteTable(Fields &f, const TableContent &table, std::uint64_t block, Point direction)
 {
     f.noteHandle(342, table.style);
@@ -278,11 +200,7 @@ void noteTable(Fields &f, const TableContent &table, std::uint64_t block, Point 
         f.note(141, height);
     for (const double width : table.widths)
         f.note(142, width);
-    const MergingRows merging = mergingOf(table);
-    for (std::size_t row = 0; row < table.rows.size(); ++row) {
-        for (std::size_t column = 0; column < table.rows[row].size(); ++column)
-            noteCell(f, table.rows[row][column], merging[row][column]);
-    }
+    noteEarlyCells(f, table);
 }
 
 /// Where a long table is cut into parts that stand side by side.

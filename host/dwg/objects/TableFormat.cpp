@@ -16,9 +16,9 @@ void readGridFormat(Fields &f, TableFormat &format)
     const int places = f.int32(95);
     f.note(302, "GRIDFORMAT");
     f.note(1, "GRIDFORMAT_BEGIN");
-    f.int32(90);
-    f.int32(91);
     TableFormat::Border border;
+    border.flags = f.int32(90);
+    f.int32(91);
     border.colour = readFormatColour(f);
     border.weight = f.int32(92);
     f.reference(340);
@@ -48,7 +48,7 @@ void readContentFormat(Fields &f, TableFormat &format)
 {
     f.note(300, "CONTENTFORMAT");
     f.note(1, "CONTENTFORMAT_BEGIN");
-    format.flags = f.int32(90);
+    format.flags |= f.int32(90);
     format.properties = f.int32(91);
     format.dataKind = f.int32(92);
     format.unit = f.int32(93);
@@ -69,7 +69,7 @@ TableFormat readTableFormat(Fields &f)
     f.int32(90);
     const bool hasFormat = f.int16(170) != 0;
     if (hasFormat) {
-        f.int32(91);
+        format.flags = f.int32(91);
         f.int32(92);
         format.fill = readFormatColour(f);
         f.int32(93);

@@ -53,8 +53,7 @@ CellStyle readCellStyle(Fields &f)
 /// A row's style in the older form.
 void noteRowStyle(Fields &f, const TableFormat &style)
 {
-    constexpr int noFill = 257;
-    const bool isFilled = style.fill.index != noFill;
+    const bool isFilled = style.fill.index != TableFormat::noFill;
     const std::string_view textStyle = f.nameOf(style.textStyle);
     f.note(7, textStyle);
     f.note(140, style.height);
