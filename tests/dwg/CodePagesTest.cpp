@@ -69,20 +69,42 @@ TEST(DwgCodePages, BytesOfTextsComeThrough)
 
 TEST(DwgCodePages, LongTextsAreCutBetweenCharacters)
 {
-    const std::pair<int, std::size_t> rows[] = {{30, 250}, {38, 249}};
-    for (const auto &[codePage, length] : rows) {
-        MadeDrawing drawing(Release::R2000);
-        drawing.setCodePage(codePage);
+    struct LongTextRow
+    {
+        Release release;
+        int codePage;
+        const char *character;
+        std::size_t length; ///< of the first part, in bytes
+    };
+    // Escapes are characters; from R2007 on units of UTF-16 are counted, of which the last row's have two.
+    const LongTextRow rows[] = {{Release::R2000, 30, "\x83\x41", 250},
+                                {Release::R2000, 38, "\x83\x41", 1 + 249 * 2},
+                                {Release::R2000, 30, "\\U+2022", 1 + 249 * 7},
+                                {Release::R2004, 30, "\\M+1955C", 1 + 249 * 8},
+                                {Release::R2000, 30, "\\U+20", 250},
+                                {Release::R2007, 30, "b", 250},
+                                {Release::R2018, 30, "\u00e4", 1 + 249 * 2},
+                                {Release::R2018, 30, "\u2022", 1 + 249 * 3},
+                                {Release::R2018, 30, "\U0001f600", 1 + 124 * 4}};
+    for (const LongTextRow &row : rows) {
+        MadeDrawing drawing(row.release);
+        drawing.setCodePage(row.codePage);
         std::string text = "a";
-        for (int i = 0; i < 130; ++i)
-            text += "\x83\x41";
+        for (int i = 0; i < 280; ++i)
+            text += row.character;
         const std::uint64_t handle = drawing.addEntity(0x2c, [&text](ObjectWriter &o) {
             writeParagraphs(o, {1.0, 2.0, 0.0}, 0.25, 6.5, text);
+            if (o.since(Release::R2004))
+                o.int32(0); // no background
+            if (o.since(Release::R2018))
+                o.flag(false);
         });
         const ReadBack read = readBack(drawing);
         EXPECT_EQ(read.problems(), "");
-        EXPECT_NE(read.lastPart(handle).find("|3 " + text.substr(0, length) + "|1 " + text.substr(length) + '|'),
-                  std::string::npos);
+        const std::string tags = read.lastPart(handle);
+        const std::size_t begin = tags.find("|3 ") + 3;
+        EXPECT_EQ(tags.find('|', begin) - begin, row.length) << row.character;
+        EXPECT_EQ(tags.substr(begin, row.length), text.substr(0, row.length)) << row.character;
     }
 }
 

@@ -6,6 +6,25 @@
 
 namespace host::dwg {
 
+namespace {
+
+bool isHexDigit(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+}
+
+/// Of the character that `text` begins with, in bytes.
+std::size_t characterSize(std::string_view text, DoubleBytes page)
+{
+    constexpr std::size_t markSize = 3;
+    const std::size_t size = text.starts_with("\\U+") ? 7 : text.starts_with("\\M+") ? 8 : 0;
+    if (size != 0 && size <= text.size() && std::ranges::all_of(text.substr(markSize, size - markSize), isHexDigit))
+        return size;
+    return beginsWithTwoBytes(text, page) ? 2 : 1;
+}
+
+} // namespace
+
 std::string_view codePageName(int number)
 {
     constexpr std::pair<int, std::string_view> names[] = {
@@ -43,16 +62,25 @@ DoubleBytes doubleBytesOf(int codePage)
     }
 }
 
-std::size_t wholeCharacters(std::string_view text, DoubleBytes page, std::size_t most)
+std::size_t firstCharacters(std::string_view text, DoubleBytes page, std::size_t count)
 {
-    if (page == DoubleBytes::None)
-        return std::min(text.size(), most);
     std::size_t end = 0;
-    while (end < text.size()) {
-        const std::size_t next = end + (beginsWithTwoBytes(text.substr(end), page) ? 2 : 1);
-        if (next > most)
+    for (; count > 0 && end < text.size(); --count)
+        end += characterSize(text.substr(end), page);
+    return end;
+}
+
+std::size_t firstUnits(std::string_view text, std::size_t units)
+{
+    std::size_t left = units;
+    std::size_t end = 0;
+    for (; end < text.size(); ++end) {
+        const auto byte = static_cast<unsigned char>(text[end]);
+        const bool isInside = (byte & 0xc0) == 0x80;
+        const std::size_t size = isInside ? 0 : byte >= 0xf0 ? 2 : 1;
+        if (size > left)
             break;
-        end = next;
+        left -= size;
     }
     return end;
 }

@@ -32,7 +32,12 @@ inline bool beginsWithTwoBytes(std::string_view text, DoubleBytes page)
     return byte > 0x80 && byte < 0xff && !isSmall;
 }
 
-/// How many bytes of `text`, up to `most`, end with a whole character.
-std::size_t wholeCharacters(std::string_view text, DoubleBytes page, std::size_t most);
+/// How many bytes `count` characters at the beginning of `text` have, all of it where it has no more. \U+XXXX and
+/// \M+NXXXX are one.
+std::size_t firstCharacters(std::string_view text, DoubleBytes page, std::size_t count);
+
+/// How many bytes the characters at the beginning of `text` have, which is UTF-8, that are at most so many units of
+/// UTF-16.
+std::size_t firstUnits(std::string_view text, std::size_t units);
 
 } // namespace host::dwg

@@ -277,10 +277,10 @@ void Fields::noteLong(int code, int part, std::string_view text)
 {
     constexpr std::size_t mostOfATag = 250;
     while (text.size() > mostOfATag) {
-        // A character of several bytes is not cut.
-        std::size_t length = wholeCharacters(text, m_tags.doubleBytes(), mostOfATag);
-        while (since(Release::R2007) && length > mostOfATag - 4 && (text[length] & 0xc0) == 0x80)
-            --length;
+        const std::size_t length = since(Release::R2007) ? firstUnits(text, mostOfATag)
+                                                         : firstCharacters(text, m_tags.doubleBytes(), mostOfATag);
+        if (length == text.size())
+            break;
         note(part, text.substr(0, length));
         text.remove_prefix(length);
     }

@@ -226,7 +226,8 @@ public:
     void noteAngle(int code, double radians);
     /// Binary data, in tags of up to 127 bytes.
     void noteBinary(int code, std::string_view bytes);
-    /// A text that is longer than 250 bytes in several tags: `part` each, `code` the last.
+    /// A text that is longer than 250 characters, from R2007 on units of UTF-16, in several tags: `part` each, `code`
+    /// the last.
     void noteLong(int code, int part, std::string_view text);
     void noteColour(int code, int index, std::uint32_t rgb, std::string_view name);
     void note(int code, const NotedColour &colour) { noteColour(code, colour.index, colour.rgb, colour.name); }
