@@ -39,6 +39,9 @@ const ClassRow rows[] = {
     {"ACDBASSOCPERSSUBENTMANAGER", "l2 l3 l0 b1", "100 AcDbAssocPersSubentManager|90 2|90 3|90 0|290 1|"},
     {"ACDBASSOCACTION", "l1 l1 h50 h51 l1 l2 l2 b1 h52 b0 h53",
      "100 AcDbAssocAction|90 1|90 1|330 50|360 51|90 1|90 2|90 2|360 52|330 53|"},
+    {"DATATABLE", "s2 l4 l2 tT l1 tA l5 l0 l2 t d1 d2 l3 tC tx ty l6 t h50 h51",
+     "100 AcDbDataTable|70 2|90 4|91 2|1 T|92 1|2 A|93 5|93 0|92 2|2 |40 1.0|40 2.0|92 3|2 C|3 x|3 y|92 6|2 |360 50|"
+     "360 51|"},
     {"MENTALRAYRENDERSETTINGS",
      "l2 tA b1 b1 b1 b1 t t l3 l2 l0 l1 s2 d3 d3 d0 d0 d0 d0 s0 b0 b1 l5 l5 l5 b0 l500 b0 d1 l10000 l5 l5 l5 b0 l200 "
      "b0 "

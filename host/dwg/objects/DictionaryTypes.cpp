@@ -116,6 +116,62 @@ void readSortTable(Fields &f)
     }
 }
 
+/// What a column of a data table has in its cells.
+enum class DataColumn
+{
+    Number = 1,
+    Real = 2,
+    Text = 3,
+    HardOwner = 6,
+    SoftOwner = 7,
+    HardPointer = 8,
+    SoftPointer = 9
+};
+
+void readDataCell(Fields &f, DataColumn column)
+{
+    switch (column) {
+    case DataColumn::Number:
+        f.int32(93);
+        return;
+    case DataColumn::Real:
+        f.real(40);
+        return;
+    case DataColumn::Text:
+        f.text(3);
+        return;
+    case DataColumn::HardOwner:
+        f.reference(360);
+        return;
+    case DataColumn::SoftOwner:
+        f.reference(350);
+        return;
+    case DataColumn::HardPointer:
+        f.reference(340);
+        return;
+    case DataColumn::SoftPointer:
+        f.reference(330);
+        return;
+    }
+    f.fail(); // points and others, whose form is not known
+}
+
+void readDataTable(Fields &f)
+{
+    f.subclass("AcDbDataTable");
+    f.int16(70);
+    const std::size_t columns = f.count(4);
+    f.note(90, columns);
+    const int rows = f.int32(91);
+    f.text(1);
+    for (std::size_t column = 0; column < columns && !f.hasFailed(); ++column) {
+        const auto kind = static_cast<DataColumn>(f.int32(92));
+        f.text(2);
+        for (int row = 0; row < rows && !f.hasFailed(); ++row)
+            readDataCell(f, kind);
+    }
+}
+
 } // namespace
 
 std::span<const ObjectType> dictionaryTypes()
@@ -128,6 +184,7 @@ std::span<const ObjectType> dictionaryTypes()
         {0, "ACDBDICTIONARYWDFLT", readDictionaryWithDefault},
         {0, "DICTIONARYVAR", readDictionaryVariable},
         {0, "SORTENTSTABLE", readSortTable},
+        {0, "DATATABLE", readDataTable},
     };
     return rows;
 }

@@ -237,11 +237,14 @@ void readView(Fields &f)
         f.referenceUnlessNull(346);
         f.referenceUnlessNull(345);
     }
+    // A section that shows in the view alone.
+    if (f.since(Release::R2007) && f.references().left() >= 8)
+        f.referenceUnlessNull(334);
     const std::size_t head = f.mark();
     noteEntry(f, "AcDbViewTableRecord", entry);
     f.moveForward(head, begin);
-    f.arrange(begin, {100, 100, 2,  70,  40,  10,  20,  41,  11,  21,  31,  12,  22,  32,  42,  43, 44,  50,  71,
-                      281, 72,  73, 332, 348, 361, 110, 120, 130, 111, 121, 131, 112, 122, 132, 79, 146, 345, 346});
+    f.arrange(begin, {100, 100, 2,   70,  40,  10,  20,  41,  11,  21,  31,  12,  22,  32,  42,  43, 44,  50,  71, 281,
+                      72,  73,  332, 334, 348, 361, 110, 120, 130, 111, 121, 131, 112, 122, 132, 79, 146, 345, 346});
 }
 
 void readCoordinateSystem(Fields &f)

@@ -48,7 +48,7 @@ std::span<const ObjectType> imageTypes();     ///< images and what defines them,
 std::span<const ObjectType> multiLineTypes(); ///< and their styles
 std::span<const ObjectType> tableTypes();     ///< the symbol tables' entries
 std::span<const ObjectType> dimensionStyleTypes();
-std::span<const ObjectType> dictionaryTypes(); ///< dictionaries, extension records, groups, variables
+std::span<const ObjectType> dictionaryTypes(); ///< dictionaries, extension records, groups, variables, data tables
 std::span<const ObjectType> layoutTypes();
 std::span<const ObjectType> materialTypes();
 std::span<const ObjectType> visualStyleTypes();
