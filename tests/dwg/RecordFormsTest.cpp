@@ -53,7 +53,15 @@ const std::string lineStyle = "tM t s0 C256 d0 d0 c2 d0.5 C1 s32766 d-0.5 C2 s0"
 const std::string lineStyleTags =
     "2 M|70 0|3 |62 256|51 0.0|52 0.0|71 2|49 0.5|62 1|6 BYBLOCK|49 -0.5|62 2|6 Continuous|";
 
+// A dimension style with what is usual, but for the angle of jogs and a colour.
+const std::string dimensionStyle =
+    "nS t t d1 d0.18 d0.0625 d0.38 d0.18 d0 d0 d0 d0 d1 d1 s0 C0 b0 b0 b1 b1 b0 b0 s0 s0 s0 s0 d0.18 "
+    "d0.09 d0 d25.4 d1 d0 d1 d0.09 d0 b0 s2 b0 b0 b0 b0 K#c2ff0000 C0 C0 s0 s4 s4 s2 s2 s0 s0 s2 s46 s0 s0 b0 b0 s1 s0 "
+    "s0 s0 b0 s3 b0 s-2 s-2 b0 h0 h11 h0 h0 h0 h0 h0 h0 h0";
+
 const FormRow formRows[] = {
+    {"a dimension style", Release::R2007, Place::Entry, 0x45, dimensionStyle,
+     "2 S|70 0|50 57.29577951308232|176 1|340 11|"},
     {"a line of a style with a linetype of the table", Release::R2004, Place::Object, 0x49, lineStyle, lineStyleTags},
     {"a layer that is off keeps its colour", Release::R2007, Place::Entry, LayerType, "nL " + layerOff,
      "2 L|70 0|62 -114|420 1284936|6 Continuous|370 0|390 0|"},

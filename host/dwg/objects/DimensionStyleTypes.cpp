@@ -14,6 +14,7 @@ enum class Coded
     Byte,
     Int16,
     Real,
+    Angle,
     Text,
     Colour
 };
@@ -77,7 +78,7 @@ constexpr StyleRow styleRows[] = {
     {Coded::Real, 47, firstRelease, lastRelease},
     {Coded::Real, 48, firstRelease, lastRelease},
     {Coded::Real, 49, Release::R2007, lastRelease, 1.0},
-    {Coded::Real, 50, Release::R2007, lastRelease, 0.78539816339744828},
+    {Coded::Angle, 50, Release::R2007, lastRelease, 0.78539816339744828},
     {Coded::Int16, 69, Release::R2007, lastRelease},
     {Coded::Colour, 70, Release::R2007, lastRelease},
     {Coded::Flag, 71, Release::R2000, lastRelease},
@@ -159,6 +160,9 @@ void readStyleRow(Fields &f, const StyleRow &row)
         break;
     case Coded::Real:
         f.real(row.code, unless);
+        break;
+    case Coded::Angle:
+        f.angle(row.code, unless);
         break;
     case Coded::Text:
         if (f.since(Release::R2000))
