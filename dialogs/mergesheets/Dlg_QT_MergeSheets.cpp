@@ -97,14 +97,16 @@ QDir currentFolder()
     return drawing.isEmpty() ? QDir(ortakit::existingFolder({})) : QFileInfo(drawing).dir();
 }
 
-/// A typed name is one in the folder of the current drawing, and a drawing of the same kind.
+/// A typed name is one in the folder of the current drawing, and a DXF file where it has no ending: a host that reads
+/// DWG files may not write them.
 QString wholeTarget(const QString &typed)
 {
     if (typed.isEmpty())
         return {};
     const QString suffix = QFileInfo(currentDrawing()).suffix();
-    const QString extension = ortakit::isDrawingFile(currentDrawing()) ? suffix : QStringLiteral("dwg");
-    const QString path = ortakit::isDrawingFile(typed) ? typed : typed + u'.' + extension;
+    const bool isDxf = suffix.compare(QLatin1String("dxf"), Qt::CaseInsensitive) == 0;
+    const QString path =
+        ortakit::isDrawingFile(typed) ? typed : typed + u'.' + (isDxf ? suffix : QStringLiteral("dxf"));
     return QDir::cleanPath(currentFolder().absoluteFilePath(path));
 }
 

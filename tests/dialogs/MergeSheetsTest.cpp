@@ -177,9 +177,12 @@ TEST_F(MergeSheets, TheTargetIsPickedWithItsExtension)
     showSheets({u"Plan"_s});
     click("toNew");
     EXPECT_EQ(shownChoosing("selectTarget", host.path(u"picked"_s)).size(), 1);
-    EXPECT_EQ(fullText("targetFile"), inHost(u"picked.dwg"_s)) << "of a drawing without a file";
+    EXPECT_EQ(fullText("targetFile"), inHost(u"picked.dxf"_s)) << "of a drawing without a file";
     shownChoosing("selectTarget", {});
-    EXPECT_EQ(fullText("targetFile"), inHost(u"picked.dwg"_s));
+    EXPECT_EQ(fullText("targetFile"), inHost(u"picked.dxf"_s));
+    host.document().fakeDatabase().setFilename(host.path(u"plan.dwg"_s));
+    shownChoosing("selectTarget", host.path(u"plan"_s));
+    EXPECT_EQ(fullText("targetFile"), inHost(u"plan.dxf"_s)) << "not every host writes DWG files";
 }
 
 TEST_F(MergeSheets, AFavouriteKeepsPrefixAndTargetAndLeavesTheSheets)
