@@ -15702,10 +15702,6 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
         <translation>schreibt jede Zeichnung dorthin, unter ihrem eigenen Namen</translation>
     </message>
     <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
-        <translation>speichert jede geänderte Zeichnung, wo sie ist, mit einer Kopie der alten, wo SETBACKUPFOLDER einen Ordner dafür genannt hat</translation>
-    </message>
-    <message>
         <source>the most it may take with one drawing</source>
         <translation>so lange darf es mit einer Zeichnung höchstens dauern</translation>
     </message>
@@ -15767,6 +15763,14 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Diese Zeichnungen wurden geändert. Was nicht angekreuzt ist, wird ohne Speichern geschlossen.</translation>
+    </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover und --in-place gehen nicht zusammen: was gerettet wird, wird nicht über die beschädigte Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>speichert jede geänderte Zeichnung, wo sie ist, mit einer Kopie der alten, wo SETBACKUPFOLDER einen Ordner dafür genannt hat; was sich so nicht speichern lässt, wie DWG-Dateien, bearbeitet das Werkzeug nicht</translation>
     </message>
 </context>
 <context>

@@ -15694,10 +15694,6 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
         <translation>escribir allí cada dibujo, con su propio nombre</translation>
     </message>
     <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
-        <translation>guardar en su lugar cada dibujo cambiado, con una copia del anterior si SETBACKUPFOLDER ha nombrado una carpeta para ello</translation>
-    </message>
-    <message>
         <source>the most it may take with one drawing</source>
         <translation>lo máximo que puede tardar con un dibujo</translation>
     </message>
@@ -15767,6 +15763,14 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Estos dibujos han cambiado. Los que no estén marcados se cierran sin guardar.</translation>
+    </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover y --in-place no van juntos: lo que se recupera no se escribe sobre el archivo dañado</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>guardar en su lugar cada dibujo cambiado, con una copia del anterior si SETBACKUPFOLDER ha nombrado una carpeta para ello; la herramienta no trabaja con lo que no se puede guardar así, como los archivos DWG</translation>
     </message>
 </context>
 <context>

@@ -15702,10 +15702,6 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
         <translation>y écrit chaque dessin, sous son propre nom</translation>
     </message>
     <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
-        <translation>enregistre chaque dessin modifié à sa place, avec une copie de l&apos;ancien où SETBACKUPFOLDER a nommé un dossier pour cela</translation>
-    </message>
-    <message>
         <source>the most it may take with one drawing</source>
         <translation>la durée maximale avec un dessin</translation>
     </message>
@@ -15767,6 +15763,14 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Ces dessins ont été modifiés. Ceux qui ne sont pas cochés seront fermés sans être enregistrés.</translation>
+    </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover et --in-place ne vont pas ensemble : ce qui est récupéré n&apos;est pas écrit sur le fichier endommagé</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>enregistre chaque dessin modifié à sa place, avec une copie de l&apos;ancien où SETBACKUPFOLDER a nommé un dossier pour cela ; l&apos;outil ne traite pas ce qui ne peut être enregistré ainsi, comme les fichiers DWG</translation>
     </message>
 </context>
 <context>

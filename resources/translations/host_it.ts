@@ -15694,10 +15694,6 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
         <translation>scrivere là ogni disegno, con il proprio nome</translation>
     </message>
     <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that</source>
-        <translation>salvare al suo posto ogni disegno modificato, con una copia del vecchio dove SETBACKUPFOLDER ha nominato una cartella per questo</translation>
-    </message>
-    <message>
         <source>the most it may take with one drawing</source>
         <translation>il massimo che può impiegare con un disegno</translation>
     </message>
@@ -15767,6 +15763,14 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Questi disegni sono stati modificati. Quelli non selezionati vengono chiusi senza salvare.</translation>
+    </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover e --in-place non vanno insieme: ciò che è recuperato non è scritto sul file danneggiato</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>salvare al suo posto ogni disegno modificato, con una copia del vecchio dove SETBACKUPFOLDER ha nominato una cartella per questo; lo strumento non lavora su ciò che non può essere salvato così, come i file DWG</translation>
     </message>
 </context>
 <context>

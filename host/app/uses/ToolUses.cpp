@@ -91,7 +91,8 @@ QList<OptionRow> resultOptions()
          .kind = ValueKind::Folder},
         {.name = "--in-place",
          .help = QT_TRANSLATE_NOOP("Uses", "save each drawing that was changed where it is, with a copy of the old one "
-                                           "where SETBACKUPFOLDER has named a folder for that"),
+                                           "where SETBACKUPFOLDER has named a folder for that; the tool does not run "
+                                           "over what cannot be saved so, such as DWG files"),
          .apply = setFlag<&ProgramOptions::isInPlace>},
         recoverOption(QT_TRANSLATE_NOOP("Uses", "open damaged drawings as far as they are sound, and tell on standard "
                                                 "error what was dropped")),

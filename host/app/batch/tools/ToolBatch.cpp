@@ -64,6 +64,7 @@ private:
     FileResult runOne(Workbench &workbench, const QString &path);
     void workOn(kernel::Document &document, const QString &path, FileResult &result);
     kernel::RunResult runCommand(kernel::Document &document, ToolDriver &driver);
+    QString whyNotInPlace(const QString &path) const;
     void writeDrawing(kernel::Document &document, const QString &path, FileResult &result);
     QString keepApart(kernel::Document &document) const;
     QString writeState(const QString &path) const;
@@ -136,6 +137,9 @@ QString ToolBatch::wrongUse()
         return QCoreApplication::translate("Uses", "%1 needs a drawing").arg(m_options.commandName);
     if (m_options.isInPlace && !m_options.outFolder.isEmpty())
         return QCoreApplication::translate("Uses", "--out and --in-place do not go together");
+    if (m_options.isInPlace && m_options.isRecovering)
+        return QCoreApplication::translate("Uses", "--recover and --in-place do not go together: what is recovered is "
+                                                   "not written over the damaged file");
     const bool writesDrawing = m_options.isInPlace || !m_options.outFolder.isEmpty();
     if (m_tool.changes && !writesDrawing && !m_tool.writesFile)
         return QCoreApplication::translate("Uses", "%1 changes drawings: say where they go, --out DIR or --in-place")
@@ -279,6 +283,12 @@ FileResult ToolBatch::runOne(Workbench &workbench, const QString &path)
     FileResult result{.file = path};
     const MessageKeeper keeper;
     const LimitWatch watch(LimitWatch::withTimeToStop(timeLimit()), native(path));
+    if (const QString obstacle = whyNotInPlace(path); !obstacle.isEmpty()) {
+        writeMessage(obstacle);
+        result.outcome = Outcome::NotWritten;
+        result.messages = keeper.messages();
+        return result;
+    }
     const kernel::OpenOutcome opened = openUnattended(workbench, path, m_options.isRecovering);
     tellProblems(workbench, m_told);
     if (!opened) {
@@ -422,6 +432,13 @@ void ToolBatch::workOn(kernel::Document &document, const QString &path, FileResu
     else if (!written.isEmpty() && !canBeWritten(written))
         result.outcome = Outcome::NotWritten; // the tool said so in passing
     writeDrawing(document, path, result);
+}
+
+/// Why the drawing cannot be saved where it is; empty when it can, or need not. Looked at first: the tool tells what it
+/// does, and may write files beside.
+QString ToolBatch::whyNotInPlace(const QString &path) const
+{
+    return m_options.isInPlace && m_tool.changes ? whyNotToWrite(path, m_options.isForced) : QString();
 }
 
 /// A copy to the out folder whether or not it was changed: what is made of it next counts on it.
