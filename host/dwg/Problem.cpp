@@ -6,7 +6,7 @@ namespace host::dwg {
 
 std::string Problem::message() const
 {
-    if (type.empty() && handle == 0)
+    if (!isOfObject())
         return text;
     if (handle == 0)
         return type + ": " + text;
@@ -18,6 +18,7 @@ std::string Problem::message() const
 void Problems::add(Problem problem)
 {
     ++m_counts[static_cast<std::size_t>(problem.kind)];
+    m_lostObjects += problem.kind == Problem::Kind::Lost && problem.isOfObject() ? 1 : 0;
     if (m_list.size() < mostKept)
         m_list.push_back(std::move(problem));
 }

@@ -22,6 +22,8 @@ struct Problem
     std::string type;         ///< of the object, as its DXF name; empty when it concerns no object
     std::uint64_t handle = 0; ///< of the object; 0 when it concerns none, or one whose handle was not read
 
+    /// Whether it concerns an object, and not a part of the file such as a page or a map.
+    bool isOfObject() const { return !type.empty() || handle != 0; }
     /// "LINE 2A: text", with what of it there is.
     std::string message() const;
 };
@@ -40,10 +42,13 @@ public:
     const std::vector<Problem> &list() const { return m_list; }
     std::size_t count(Problem::Kind kind) const { return m_counts[static_cast<std::size_t>(kind)]; }
     std::size_t lostCount() const { return count(Problem::Kind::Lost); }
+    /// Of what is lost, the objects; the others are parts of the file.
+    std::size_t lostObjectCount() const { return m_lostObjects; }
 
 private:
     std::vector<Problem> m_list;
     std::array<std::size_t, 3> m_counts{};
+    std::size_t m_lostObjects = 0;
 };
 
 } // namespace host::dwg

@@ -6453,6 +6453,30 @@ Revisionswolke fertiggestellt.</translation>
         <source>some of the file is not as expected; what was read of it may be wrong</source>
         <translation>manches in der Datei ist anders als erwartet; was davon gelesen wurde, kann falsch sein</translation>
     </message>
+    <message>
+        <source>1 part of the file could not be read</source>
+        <translation>1 Teil der Datei konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 parts of the file could not be read</source>
+        <translation>%1 Teile der Datei konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>1 object and 1 part of the file could not be read</source>
+        <translation>1 Objekt und 1 Teil der Datei konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>1 object and %1 parts of the file could not be read</source>
+        <translation>1 Objekt und %1 Teile der Datei konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 objects and 1 part of the file could not be read</source>
+        <translation>%1 Objekte und 1 Teil der Datei konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 objects and %2 parts of the file could not be read</source>
+        <translation>%1 Objekte und %2 Teile der Datei konnten nicht gelesen werden</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>
@@ -15729,6 +15753,14 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
         <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
         <translation>mit Status 3 enden, wenn etwas nicht gelesen werden konnte oder im Bild fehlt, das trotzdem geschrieben wird</translation>
     </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover und --in-place gehen nicht zusammen: was gerettet wird, wird nicht über die beschädigte Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>speichert jede geänderte Zeichnung, wo sie ist, mit einer Kopie der alten, wo SETBACKUPFOLDER einen Ordner dafür genannt hat; was sich so nicht speichern lässt, wie DWG-Dateien, bearbeitet das Werkzeug nicht</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -15763,14 +15795,6 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Diese Zeichnungen wurden geändert. Was nicht angekreuzt ist, wird ohne Speichern geschlossen.</translation>
-    </message>
-    <message>
-        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
-        <translation>--recover und --in-place gehen nicht zusammen: was gerettet wird, wird nicht über die beschädigte Datei geschrieben</translation>
-    </message>
-    <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
-        <translation>speichert jede geänderte Zeichnung, wo sie ist, mit einer Kopie der alten, wo SETBACKUPFOLDER einen Ordner dafür genannt hat; was sich so nicht speichern lässt, wie DWG-Dateien, bearbeitet das Werkzeug nicht</translation>
     </message>
 </context>
 <context>

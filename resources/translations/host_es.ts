@@ -6453,6 +6453,30 @@ Nube de revisión terminada.</translation>
         <source>some of the file is not as expected; what was read of it may be wrong</source>
         <translation>parte del archivo no es como se esperaba; lo que se leyó de ella puede ser erróneo</translation>
     </message>
+    <message>
+        <source>1 part of the file could not be read</source>
+        <translation>no se pudo leer 1 parte del archivo</translation>
+    </message>
+    <message>
+        <source>%1 parts of the file could not be read</source>
+        <translation>no se pudieron leer %1 partes del archivo</translation>
+    </message>
+    <message>
+        <source>1 object and 1 part of the file could not be read</source>
+        <translation>no se pudieron leer 1 objeto y 1 parte del archivo</translation>
+    </message>
+    <message>
+        <source>1 object and %1 parts of the file could not be read</source>
+        <translation>no se pudieron leer 1 objeto y %1 partes del archivo</translation>
+    </message>
+    <message>
+        <source>%1 objects and 1 part of the file could not be read</source>
+        <translation>no se pudieron leer %1 objetos y 1 parte del archivo</translation>
+    </message>
+    <message>
+        <source>%1 objects and %2 parts of the file could not be read</source>
+        <translation>no se pudieron leer %1 objetos y %2 partes del archivo</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>
@@ -15729,6 +15753,14 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
         <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
         <translation>terminar con estado 3 cuando algo no se pudo leer o falta en la imagen, que se escribe de todos modos</translation>
     </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover y --in-place no van juntos: lo que se recupera no se escribe sobre el archivo dañado</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>guardar en su lugar cada dibujo cambiado, con una copia del anterior si SETBACKUPFOLDER ha nombrado una carpeta para ello; la herramienta no trabaja con lo que no se puede guardar así, como los archivos DWG</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -15763,14 +15795,6 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Estos dibujos han cambiado. Los que no estén marcados se cierran sin guardar.</translation>
-    </message>
-    <message>
-        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
-        <translation>--recover y --in-place no van juntos: lo que se recupera no se escribe sobre el archivo dañado</translation>
-    </message>
-    <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
-        <translation>guardar en su lugar cada dibujo cambiado, con una copia del anterior si SETBACKUPFOLDER ha nombrado una carpeta para ello; la herramienta no trabaja con lo que no se puede guardar así, como los archivos DWG</translation>
     </message>
 </context>
 <context>

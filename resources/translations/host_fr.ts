@@ -6453,6 +6453,30 @@ Nuage de révision terminé.</translation>
         <source>some of the file is not as expected; what was read of it may be wrong</source>
         <translation>une partie du fichier n&apos;est pas comme attendu ; ce qui en a été lu est peut-être faux</translation>
     </message>
+    <message>
+        <source>1 part of the file could not be read</source>
+        <translation>1 partie du fichier n&apos;a pas pu être lue</translation>
+    </message>
+    <message>
+        <source>%1 parts of the file could not be read</source>
+        <translation>%1 parties du fichier n&apos;ont pas pu être lues</translation>
+    </message>
+    <message>
+        <source>1 object and 1 part of the file could not be read</source>
+        <translation>1 objet et 1 partie du fichier n&apos;ont pas pu être lus</translation>
+    </message>
+    <message>
+        <source>1 object and %1 parts of the file could not be read</source>
+        <translation>1 objet et %1 parties du fichier n&apos;ont pas pu être lus</translation>
+    </message>
+    <message>
+        <source>%1 objects and 1 part of the file could not be read</source>
+        <translation>%1 objets et 1 partie du fichier n&apos;ont pas pu être lus</translation>
+    </message>
+    <message>
+        <source>%1 objects and %2 parts of the file could not be read</source>
+        <translation>%1 objets et %2 parties du fichier n&apos;ont pas pu être lus</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>
@@ -15729,6 +15753,14 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
         <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
         <translation>finir avec l&apos;état 3 quand quelque chose n&apos;a pas pu être lu ou manque dans l&apos;image, qui est écrite quand même</translation>
     </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover et --in-place ne vont pas ensemble : ce qui est récupéré n&apos;est pas écrit sur le fichier endommagé</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>enregistre chaque dessin modifié à sa place, avec une copie de l&apos;ancien où SETBACKUPFOLDER a nommé un dossier pour cela ; l&apos;outil ne traite pas ce qui ne peut être enregistré ainsi, comme les fichiers DWG</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -15763,14 +15795,6 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Ces dessins ont été modifiés. Ceux qui ne sont pas cochés seront fermés sans être enregistrés.</translation>
-    </message>
-    <message>
-        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
-        <translation>--recover et --in-place ne vont pas ensemble : ce qui est récupéré n&apos;est pas écrit sur le fichier endommagé</translation>
-    </message>
-    <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
-        <translation>enregistre chaque dessin modifié à sa place, avec une copie de l&apos;ancien où SETBACKUPFOLDER a nommé un dossier pour cela ; l&apos;outil ne traite pas ce qui ne peut être enregistré ainsi, comme les fichiers DWG</translation>
     </message>
 </context>
 <context>

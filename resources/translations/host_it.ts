@@ -6453,6 +6453,30 @@ Fumetto di revisione completato.</translation>
         <source>some of the file is not as expected; what was read of it may be wrong</source>
         <translation>parte del file non è come previsto; ciò che ne è stato letto può essere errato</translation>
     </message>
+    <message>
+        <source>1 part of the file could not be read</source>
+        <translation>1 parte del file non è stata letta</translation>
+    </message>
+    <message>
+        <source>%1 parts of the file could not be read</source>
+        <translation>%1 parti del file non sono state lette</translation>
+    </message>
+    <message>
+        <source>1 object and 1 part of the file could not be read</source>
+        <translation>1 oggetto e 1 parte del file non sono stati letti</translation>
+    </message>
+    <message>
+        <source>1 object and %1 parts of the file could not be read</source>
+        <translation>1 oggetto e %1 parti del file non sono stati letti</translation>
+    </message>
+    <message>
+        <source>%1 objects and 1 part of the file could not be read</source>
+        <translation>%1 oggetti e 1 parte del file non sono stati letti</translation>
+    </message>
+    <message>
+        <source>%1 objects and %2 parts of the file could not be read</source>
+        <translation>%1 oggetti e %2 parti del file non sono stati letti</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>
@@ -15729,6 +15753,14 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
         <source>end with status 3 when something could not be read or is missing in the picture, which is written all the same</source>
         <translation>termina con stato 3 quando qualcosa non è stato letto o manca nell&apos;immagine, che viene scritta comunque</translation>
     </message>
+    <message>
+        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
+        <translation>--recover e --in-place non vanno insieme: ciò che è recuperato non è scritto sul file danneggiato</translation>
+    </message>
+    <message>
+        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
+        <translation>salvare al suo posto ogni disegno modificato, con una copia del vecchio dove SETBACKUPFOLDER ha nominato una cartella per questo; lo strumento non lavora su ciò che non può essere salvato così, come i file DWG</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -15763,14 +15795,6 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
     <message>
         <source>These drawings were changed. Those that are not checked are closed unsaved.</source>
         <translation>Questi disegni sono stati modificati. Quelli non selezionati vengono chiusi senza salvare.</translation>
-    </message>
-    <message>
-        <source>--recover and --in-place do not go together: what is recovered is not written over the damaged file</source>
-        <translation>--recover e --in-place non vanno insieme: ciò che è recuperato non è scritto sul file danneggiato</translation>
-    </message>
-    <message>
-        <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
-        <translation>salvare al suo posto ogni disegno modificato, con una copia del vecchio dove SETBACKUPFOLDER ha nominato una cartella per questo; lo strumento non lavora su ciò che non può essere salvato così, come i file DWG</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,10 @@ struct ProgramTest : testing::Test, TestFolder
         write(u"damaged.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nCIRCLE\nrubbish\n"));
         write(u"made.dwg"_s, dwgFile(2));
         write(u"hurt.dwg"_s, dwgFile(2, 1));
+        QByteArray torn = dwgFile(2);
+        for (qsizetype at = 0x1a0; at < 0x1c0; ++at) // within the page of the header's variables
+            torn[at] = char(~torn[at]);
+        write(u"torn.dwg"_s, torn);
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
         write(u"sub/remote.dxf"_s,
               QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));

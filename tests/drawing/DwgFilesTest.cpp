@@ -18,6 +18,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <random>
 #include <sys/stat.h>
@@ -101,10 +102,33 @@ TEST(DwgFiles, TellWhatCouldNotBeRead)
     EXPECT_EQ(recovered.drawing->entities().all().size(), std::size_t(circleCount));
 }
 
+TEST(DwgFiles, CountPartsOfTheFileApart)
+{
+    QByteArray file = fileWithALoss();
+    // The second section of the table at the beginning has the classes, whose mark is damaged.
+    const auto classes = qFromLittleEndian<quint32>(file.constData() + 0x19 + 9 + 1);
+    file[classes] = char(~file[classes]);
+    const ReadResult read = Drawing::fromBytes(file);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read.drawing->readingNotes().summary(), u"1 object and 1 part of the file could not be read"_s);
+
+    const std::tuple<int, int, QString> rows[] = {
+        {0, 0, {}},
+        {0, 1, u"1 part of the file could not be read"_s},
+        {0, 2, u"2 parts of the file could not be read"_s},
+        {1, 3, u"1 object and 3 parts of the file could not be read"_s},
+        {4, 0, u"4 objects could not be read"_s},
+        {4, 1, u"4 objects and 1 part of the file could not be read"_s},
+        {1000, 5, u"1000 objects and 5 parts of the file could not be read"_s},
+    };
+    for (const auto &[objects, parts, sentence] : rows)
+        EXPECT_EQ((ReadingNotes{.lostObjects = objects, .lostParts = parts, .list = {}}).summary(), sentence);
+}
+
 TEST(DwgFiles, ListWhatIsLostInFront)
 {
     using Kind = ReadingNote::Kind;
-    ReadingNotes notes{.lostCount = 1, .doubtfulCount = 2, .list = {}};
+    ReadingNotes notes{.lostObjects = 1, .lostParts = 0, .doubtfulCount = 2, .list = {}};
     for (const auto &[kind, text] : {std::pair(Kind::Doubtful, u"a"_s), std::pair(Kind::Kept, u"b"_s),
                                      std::pair(Kind::Doubtful, u"c"_s), std::pair(Kind::Lost, u"d"_s)})
         notes.list.push_back({.kind = kind, .type = {}, .handle = {}, .text = text});

@@ -262,11 +262,9 @@ int convertOpened(const ProgramOptions &options, FileResult &result)
         status = ExitFileError;
     }
     if (status != ExitFileError) {
-        const qsizetype unread = input.drawing->readingNotes().lostCount;
         result.more = conversionReport(options, pictures, input.report);
-        if (unread > 0)
-            result.more.insert(u"unread"_s, unread);
-        if (status == ExitDone && options.isStrict && unread > 0)
+        addUnread(result.more, input.drawing->readingNotes());
+        if (status == ExitDone && options.isStrict && input.drawing->readingNotes().hasLost())
             status = ExitPartly;
         for (const PictureFile &picture : pictures)
             result.out.append(picture.path);

@@ -55,6 +55,14 @@ void tellLost(const QString &path, const drawing::ReadingNotes &notes)
         writeMessage(u"%1: %2"_s.arg(files::visibleText(native(path)), files::visibleText(line)));
 }
 
+void addUnread(QJsonObject &object, const drawing::ReadingNotes &notes)
+{
+    if (notes.lostObjects > 0)
+        object.insert(u"unread"_s, notes.lostObjects);
+    if (notes.lostParts > 0)
+        object.insert(u"unreadParts"_s, notes.lostParts);
+}
+
 QJsonObject recoveryObject(const drawing::RecoveryReport &report)
 {
     QJsonObject dropped;

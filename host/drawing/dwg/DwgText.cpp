@@ -32,7 +32,8 @@ ReadingNote::Kind kindOf(dwg::Problem::Kind kind)
 
 ReadingNotes notesOf(const dwg::Problems &problems)
 {
-    ReadingNotes notes{.lostCount = qsizetype(problems.count(dwg::Problem::Kind::Lost)),
+    ReadingNotes notes{.lostObjects = qsizetype(problems.lostObjectCount()),
+                       .lostParts = qsizetype(problems.lostCount() - problems.lostObjectCount()),
                        .doubtfulCount = qsizetype(problems.count(dwg::Problem::Kind::Warning)),
                        .list = {}};
     for (const dwg::Problem &problem : problems.list())

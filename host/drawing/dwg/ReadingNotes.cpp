@@ -2,9 +2,32 @@
 
 #include "host/drawing/tags/DrawingTexts.h"
 
+#include <algorithm>
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// By how many objects are lost, and by how many parts of the file: none, one, several.
+constexpr const char *lostSentences[3][3] = {
+    {"", QT_TRANSLATE_NOOP("DrawingTexts", "1 part of the file could not be read"),
+     QT_TRANSLATE_NOOP("DrawingTexts", "%1 parts of the file could not be read")},
+    {QT_TRANSLATE_NOOP("DrawingTexts", "1 object could not be read"),
+     QT_TRANSLATE_NOOP("DrawingTexts", "1 object and 1 part of the file could not be read"),
+     QT_TRANSLATE_NOOP("DrawingTexts", "1 object and %1 parts of the file could not be read")},
+    {QT_TRANSLATE_NOOP("DrawingTexts", "%1 objects could not be read"),
+     QT_TRANSLATE_NOOP("DrawingTexts", "%1 objects and 1 part of the file could not be read"),
+     QT_TRANSLATE_NOOP("DrawingTexts", "%1 objects and %2 parts of the file could not be read")},
+};
+
+qsizetype formOf(qsizetype count)
+{
+    return std::min<qsizetype>(count, 2);
+}
+
+} // namespace
 
 QString ReadingNote::message() const
 {
@@ -14,12 +37,15 @@ QString ReadingNote::message() const
 
 QString ReadingNotes::summary() const
 {
-    if (lostCount == 0)
+    if (!hasLost())
         return doubtfulCount == 0
                    ? QString()
                    : DrawingTexts::tr("some of the file is not as expected; what was read of it may be wrong");
-    return lostCount == 1 ? DrawingTexts::tr("1 object could not be read")
-                          : DrawingTexts::tr("%1 objects could not be read").arg(lostCount);
+    QString sentence = DrawingTexts::tr(lostSentences[formOf(lostObjects)][formOf(lostParts)]);
+    for (const qsizetype count : {lostObjects, lostParts})
+        if (count > 1)
+            sentence = sentence.arg(count);
+    return sentence;
 }
 
 QStringList ReadingNotes::faults(qsizetype limit) const
@@ -31,7 +57,7 @@ QStringList ReadingNotes::faults(qsizetype limit) const
                 messages.append(note.message());
         }
     }
-    if (const qsizetype further = lostCount + doubtfulCount - messages.size(); further > 0)
+    if (const qsizetype further = lostObjects + lostParts + doubtfulCount - messages.size(); further > 0)
         messages.append(DrawingTexts::tr("and %1 more").arg(further));
     return messages;
 }

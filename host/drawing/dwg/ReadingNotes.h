@@ -29,14 +29,17 @@ struct ReadingNote
 /// What was noted about a file that opened. Empty for a DXF file, which is read whole or not at all.
 struct ReadingNotes
 {
-    qsizetype lostCount = 0;       ///< objects, and parts, of the file that are not in the drawing
+    qsizetype lostObjects = 0;     ///< objects of the file that are not in the drawing
+    qsizetype lostParts = 0;       ///< pages, maps and other parts of the file that could not be read
     qsizetype doubtfulCount = 0;   ///< things that are in the drawing and may be wrong
     std::vector<ReadingNote> list; ///< the first 1000 of all kinds
 
+    /// Whether something is missing in the drawing.
+    bool hasLost() const { return lostObjects > 0 || lostParts > 0; }
     /// Whether something is wrong.
-    bool hasFaults() const { return lostCount > 0 || doubtfulCount > 0; }
-    /// "2 objects could not be read", or that some of the file is not as expected where all could, in the language of
-    /// the program; empty without a fault.
+    bool hasFaults() const { return hasLost() || doubtfulCount > 0; }
+    /// "2 objects and 1 part of the file could not be read", or that some of the file is not as expected where all
+    /// could, in the language of the program; empty without a fault.
     QString summary() const;
     /// The messages of the first `limit` faults, those of what is lost in front, and how many there are beyond.
     QStringList faults(qsizetype limit) const;

@@ -55,8 +55,7 @@ FileResult factsOf(const QString &path, const ProgramOptions &options)
         result.more = drawingFacts(*input.drawing, readableFor(options));
         if (input.recovery)
             result.more.insert(u"recovered"_s, recoveryObject(*input.recovery));
-        if (const qsizetype unread = input.drawing->readingNotes().lostCount; unread > 0)
-            result.more.insert(u"unread"_s, unread);
+        addUnread(result.more, input.drawing->readingNotes());
     } else {
         writeMessage(input.error);
         result.outcome = Outcome::NotRead;
