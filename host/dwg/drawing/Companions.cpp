@@ -116,8 +116,9 @@ void Companions::findKeptModels(const DrawingObjects &objects, Fields &fields)
     std::size_t left = objects.byteCount();
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
-        const auto frame = objects.peek(entry);
-        if (!frame || frame->type < firstSolid || frame->type > lastSolid)
+        const bool isSolid = entry.type >= firstSolid && entry.type <= lastSolid;
+        const auto frame = isSolid ? objects.peek(entry) : std::nullopt;
+        if (!frame)
             continue;
         if (frame->bytes.size() > left)
             break;
