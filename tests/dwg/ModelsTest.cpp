@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <optional>
 #include <span>
 #include <sstream>
 
@@ -20,6 +21,13 @@ namespace {
 constexpr int regionType = 0x25;
 constexpr int solidType = 0x26;
 constexpr std::size_t headLines = 3;
+
+std::optional<std::vector<std::string>> modelLines(std::string_view model)
+{
+    std::vector<std::string> lines;
+    const bool isRead = takeModelLines(model, [&lines](const std::string &line) { lines.push_back(line); });
+    return isRead ? std::optional(lines) : std::nullopt;
+}
 
 /// The line of the only record of a model; "kept" where the model has no text.
 std::string lineOf(std::string_view record, ModelForm form = {})

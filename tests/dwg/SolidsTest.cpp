@@ -107,6 +107,7 @@ const ModelRow modelRows[] = {
     {Release::R2000, writeTextModel, lines, ""},
     {Release::R2004, writeTextModel, lines, ""},
     {Release::R2010, writeTextModel, lines, ""},
+    {Release::R2007, writeBinaryModel, "", noBinary},
     {Release::R2010, writeBinaryModel, "", noBinary},
     {Release::R2013, writeTextModel, lines + revision, ""},
     {Release::R2018, [](ObjectWriter &o) { o.flag(true); }, revision, ""},

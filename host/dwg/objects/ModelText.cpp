@@ -54,7 +54,10 @@ bool isPlainLetter(char c)
 class ModelLines
 {
 public:
-    explicit ModelLines(std::string_view model) : m_reader(model), m_version(m_reader.head()[0]) {}
+    ModelLines(std::string_view model, const std::function<void(const std::string &)> &take)
+        : m_take(take), m_reader(model), m_version(m_reader.head()[0])
+    {
+    }
 
     bool read()
     {
@@ -66,8 +69,6 @@ public:
         }
         return false;
     }
-
-    std::vector<std::string> take() { return std::move(m_lines); }
 
 private:
     /// The lines in front of the records: numbers, what wrote the model, units and tolerances.
@@ -96,7 +97,7 @@ private:
             return false;
         addWord(*name);
         m_isClosed = endsModel(*name);
-        const bool isRead = m_isClosed || (readValues() && addValues(*name));
+        const bool isRead = m_isClosed || addValues(*name);
         closeLine();
         return isRead;
     }
@@ -111,31 +112,32 @@ private:
         return isName && std::ranges::all_of(name, isPlainLetter) ? std::optional(name) : std::nullopt;
     }
 
-    /// All values of the record, with its end.
-    bool readValues()
+    /// The words of the record's logical values, which its form tells: it is looked at first. Without words in versions
+    /// that have none.
+    std::optional<std::vector<std::string_view>> wordsAhead(std::string_view name) const
     {
-        m_values.clear();
-        do {
-            if (!m_reader.next(m_value))
-                return false;
-            m_values.push_back(m_value);
-        } while (m_value.tag != ModelTag::EndOfRecord);
-        return true;
+        RecordForm form;
+        ModelReader ahead = m_reader;
+        ModelValue value;
+        while (m_version >= withWords && ahead.next(value) && value.tag != ModelTag::EndOfRecord)
+            form.add(value);
+        return form.words(name);
     }
 
     bool addValues(std::string_view name)
     {
-        const bool hasWords = m_version >= withWords;
-        const auto words = hasWords ? logicalWords(name, m_values) : std::vector<std::string_view>();
+        const auto words = wordsAhead(name);
         if (!words)
             return false;
         auto word = words->begin();
-        for (const ModelValue &value : m_values) {
-            if (value.isLogical() && hasWords)
-                addWord(*word++);
-            else if (!(name == "transform" && addLiteral(value)) && !addValue(value))
+        do {
+            if (!m_reader.next(m_value))
                 return false;
-        }
+            if (m_value.isLogical() && word != words->end())
+                addWord(*word++);
+            else if (!(name == "transform" && addLiteral(m_value)) && !addValue(m_value))
+                return false;
+        } while (m_value.tag != ModelTag::EndOfRecord);
         return true;
     }
 
@@ -224,26 +226,24 @@ private:
 
     void closeLine()
     {
-        m_lines.push_back(std::move(m_line));
+        m_take(m_line);
         m_line.clear();
     }
 
+    const std::function<void(const std::string &)> &m_take;
     ModelReader m_reader;
     std::int64_t m_version;
     const NumberForm *m_numberForm = &numberFormOf({});
     ModelValue m_value;
-    std::vector<ModelValue> m_values; ///< of the record
     std::string m_line;
-    std::vector<std::string> m_lines;
     bool m_isClosed = false;
 };
 
 } // namespace
 
-std::optional<std::vector<std::string>> modelLines(std::string_view model)
+bool takeModelLines(std::string_view model, const std::function<void(const std::string &)> &take)
 {
-    ModelLines lines(model);
-    return lines.read() ? std::optional(lines.take()) : std::nullopt;
+    return ModelLines(model, take).read();
 }
 
 std::string disguisedLine(std::string line)

@@ -6,30 +6,26 @@ namespace host::dwg {
 
 namespace {
 
-/// What a place of a record can have. References and whole numbers are not among these, they may stand anywhere.
-enum class Place : char
-{
-    Point = 'p', ///< a position or a vector
-    Real = 'd',
-    Text = 't',
-    // Logical values by their words.
-    Sense = 's',
-    UprightSense = 'v',
-    Sides = 'f',    ///< of a face; one with two sides goes on with what is on both
-    RangeEnd = 'e', ///< F is followed by a number
-    Rotation = 'r',
-    Reflection = 'm',
-    Shear = 'h'
-};
+// Values by letters. References and whole numbers have none, they may stand anywhere.
+constexpr char point = 'p'; ///< a position or a vector
+constexpr char real = 'd';
+constexpr char text = 't';
+constexpr char yes = '1';
+constexpr char no = '0';
+constexpr char other = '?';
 
-struct RecordForm
+// Places of logical values by what they say.
+constexpr char sides = 'f'; ///< of a face: its sense, how many it has, and of two what they are
+constexpr char rangeEnd = 'e';
+
+struct KnownForm
 {
     std::string_view name;
-    std::string_view places; ///< all of them, in their order
+    std::string_view places; ///< of all values that have letters, in their order
 };
 
 /// A record whose values are others than these is not known, whatever its logical values are.
-constexpr RecordForm recordForms[] = {
+constexpr KnownForm knownForms[] = {
     {"coedge", "s"},
     {"cone-surface", "pppdeedddseeee"}, // the ellipse with its range, slope, scale, direction, ranges
     {"edge", "s"},
@@ -47,114 +43,97 @@ constexpr RecordForm recordForms[] = {
 
 struct LogicalWords
 {
-    Place place;
+    char place;
     std::string_view no;
     std::string_view yes;
 };
 
-constexpr LogicalWords logicals[] = {
-    {Place::Sense, "forward", "reversed"},
-    {Place::UprightSense, "forward_v", "reverse_v"},
-    {Place::RangeEnd, "I", "F"},
-    {Place::Rotation, "no_rotate", "rotate"},
-    {Place::Reflection, "no_reflect", "reflect"},
-    {Place::Shear, "no_shear", "shear"},
+constexpr LogicalWords logicalWords[] = {
+    {'s', "forward", "reversed"},   {'v', "forward_v", "reverse_v"},
+    {rangeEnd, "I", "F"},           {'r', "no_rotate", "rotate"},
+    {'m', "no_reflect", "reflect"}, {'h', "no_shear", "shear"},
+    {'1', "single", "double"},      {'2', "out", "in"},
 };
-constexpr LogicalWords oneOrTwoSides = {Place::Sides, "single", "double"};
-constexpr LogicalWords bothSides = {Place::Sides, "out", "in"};
 
-bool needsNoPlace(ModelTag tag)
+char letterOf(const ModelValue &value)
 {
-    return tag == ModelTag::Reference || tag == ModelTag::Int16 || tag == ModelTag::Int32 || tag == ModelTag::Int64 ||
-           tag == ModelTag::EndOfRecord;
+    if (value.isLogical())
+        return value.tag == ModelTag::True ? yes : no;
+    if (value.realCount > 0)
+        return value.realCount == 3 ? point : value.realCount == 1 ? real : other;
+    return value.isText() ? text : other;
 }
 
-/// Goes along the values of a record that have places.
+/// Goes along the letters of a record.
 class FormReader
 {
 public:
-    explicit FormReader(std::span<const ModelValue> values)
+    explicit FormReader(std::string_view values) : m_values(values) {}
+
+    bool read(std::string_view places)
     {
-        for (const ModelValue &value : values) {
-            if (!needsNoPlace(value.tag))
-                m_values.push_back(&value);
-        }
+        return std::ranges::all_of(places, [this](char place) { return take(place); }) && m_values.empty();
     }
 
-    std::optional<std::vector<std::string_view>> read(std::string_view places)
-    {
-        m_at = 0;
-        m_words.clear();
-        const bool hasForm = std::ranges::all_of(places, [this](char c) { return take(static_cast<Place>(c)); });
-        return hasForm && m_at == m_values.size() ? std::optional(m_words) : std::nullopt;
-    }
+    const std::vector<std::string_view> &words() const { return m_words; }
 
 private:
-    const ModelValue *next() { return m_at < m_values.size() ? m_values[m_at++] : nullptr; }
-
-    bool take(Place place)
+    bool take(char place)
     {
         switch (place) {
-        case Place::Point:
-            return takeReals(3);
-        case Place::Real:
-            return takeReals(1);
-        case Place::Text: {
-            const ModelValue *value = next();
-            return value && value->isText();
-        }
-        case Place::Sides:
-            return takeLogical(wordsOf(Place::Sense)) && takeSides();
-        case Place::RangeEnd:
-            return takeLogical(wordsOf(place)) && (m_words.back() == "I" || takeReals(1));
+        case point:
+        case real:
+        case text:
+            return takeLetter(place);
+        case sides:
+            return takeLogical('s') && takeLogical('1') && (m_words.back() == "single" || takeLogical('2'));
+        case rangeEnd: // a number follows where it ends
+            return takeLogical(place) && (m_words.back() == "I" || takeLetter(real));
         default:
-            return takeLogical(wordsOf(place));
+            return takeLogical(place);
         }
     }
 
-    bool takeReals(std::size_t count)
+    bool takeLetter(char letter)
     {
-        const ModelValue *value = next();
-        return value && value->realCount == count;
+        const bool isIt = m_values.starts_with(letter);
+        m_values.remove_prefix(isIt ? 1 : 0);
+        return isIt;
     }
 
-    bool takeSides() { return takeLogical(oneOrTwoSides) && (m_words.back() == "single" || takeLogical(bothSides)); }
-
-    bool takeLogical(const LogicalWords &words)
+    bool takeLogical(char place)
     {
-        const ModelValue *value = next();
-        if (!value || !value->isLogical())
-            return false;
-        m_words.push_back(value->tag == ModelTag::True ? words.yes : words.no);
-        return true;
+        const LogicalWords &words = *std::ranges::find(logicalWords, place, &LogicalWords::place);
+        const bool isYes = takeLetter(yes);
+        m_words.push_back(isYes ? words.yes : words.no);
+        return isYes || takeLetter(no);
     }
 
-    static const LogicalWords &wordsOf(Place place)
-    {
-        return *std::ranges::find(logicals, place, &LogicalWords::place);
-    }
-
-    std::vector<const ModelValue *> m_values;
-    std::size_t m_at = 0;
+    std::string_view m_values;
     std::vector<std::string_view> m_words;
 };
 
 } // namespace
 
-std::optional<std::vector<std::string_view>> logicalWords(std::string_view recordName,
-                                                          std::span<const ModelValue> values)
+void RecordForm::add(const ModelValue &value)
 {
-    const auto needsWord = [](const ModelValue &value) {
-        return value.isLogical() || value.tag == ModelTag::Enumeration;
-    };
-    if (std::ranges::none_of(values, needsWord))
+    constexpr std::size_t mostOfAnyForm = 32;
+    const bool hasLetter = value.tag != ModelTag::Reference && value.tag != ModelTag::Int16 &&
+                           value.tag != ModelTag::Int32 && value.tag != ModelTag::Int64 &&
+                           value.tag != ModelTag::EndOfRecord;
+    m_needsWords = m_needsWords || value.isLogical() || value.tag == ModelTag::Enumeration;
+    if (hasLetter && m_values.size() < mostOfAnyForm)
+        m_values += letterOf(value);
+}
+
+std::optional<std::vector<std::string_view>> RecordForm::words(std::string_view recordName) const
+{
+    if (!m_needsWords)
         return std::vector<std::string_view>();
-    FormReader reader(values);
-    for (const RecordForm &form : recordForms) {
-        if (form.name != recordName)
-            continue;
-        if (auto words = reader.read(form.places))
-            return words;
+    for (const KnownForm &form : knownForms) {
+        FormReader reader(m_values);
+        if (form.name == recordName && reader.read(form.places))
+            return reader.words();
     }
     return std::nullopt;
 }

@@ -3,16 +3,25 @@
 #include "host/dwg/objects/ModelValues.h"
 
 #include <optional>
-#include <span>
 #include <string_view>
 #include <vector>
 
 namespace host::dwg {
 
-/// The words that a model's text has for the logical values of a record, in their order: which ones depends on the
-/// record and the place in it. `values` are all of the record behind its name. Nothing where the record has logical
-/// values or enumerations and another form than those that are known here.
-std::optional<std::vector<std::string_view>> logicalWords(std::string_view recordName,
-                                                          std::span<const ModelValue> values);
+/// What the values of one record of a model are, and the words that the model's text has for the logical ones among
+/// them: which these are depends on the record and the place in it.
+class RecordForm
+{
+public:
+    /// Adds a value of the record, in their order.
+    void add(const ModelValue &value);
+    /// The words of the logical values, in their order. Nothing where the record has logical values or enumerations and
+    /// another form than those that are known here.
+    std::optional<std::vector<std::string_view>> words(std::string_view recordName) const;
+
+private:
+    std::string m_values; ///< a letter each; those behind what any known form has are left out
+    bool m_needsWords = false;
+};
 
 } // namespace host::dwg

@@ -46,13 +46,12 @@ std::string readBinaryModel(Fields &f)
         return {};
     }
     std::string model = f.values().rawBytes(size);
-    const auto lines = modelLines(model);
-    if (!lines)
-        return model;
+    const std::size_t mark = f.mark();
     f.note(70, 1);
-    for (const std::string &line : *lines)
-        noteModelLine(f, disguisedLine(line));
-    return {};
+    if (takeModelLines(model, [&f](const std::string &line) { noteModelLine(f, disguisedLine(line)); }))
+        return {};
+    f.drop(mark);
+    return model;
 }
 
 /// A record of its own in the extension dictionary (drawing/Companions.h).
