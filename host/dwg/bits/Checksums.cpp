@@ -77,20 +77,21 @@ public:
 
 private:
     static constexpr std::uint32_t modulus = 0xfff1;
-    static constexpr std::uint32_t block = 16;
+    static constexpr std::size_t block = 8;
 
-    /// As many bytes as compilers take at a time: the second sum counts each once for itself and once for each behind
-    /// it.
+    /// Eight bytes at a time: the second sum has each as often as it has those behind it. Sums of four products of 16
+    /// bits come out of one multiplication, in its highest part.
     void addBlock(const std::uint8_t *bytes)
     {
-        std::uint32_t sum = 0;
-        std::uint32_t weighted = 0;
-        for (std::uint32_t i = 0; i < block; ++i) {
-            sum += bytes[i];
-            weighted += (block - i) * bytes[i];
-        }
-        m_second += block * m_first + weighted;
-        m_first += sum;
+        constexpr std::uint64_t everyOther = 0x00ff'00ff'00ff'00ff;
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < block; ++i)
+            word |= static_cast<std::uint64_t>(bytes[i]) << 8 * i;
+        const std::uint64_t even = word & everyOther;
+        const std::uint64_t odd = word >> 8 & everyOther;
+        const std::uint64_t weighted = (even * 0x0008'0006'0004'0002 >> 48) + (odd * 0x0007'0005'0003'0001 >> 48);
+        m_second += static_cast<std::uint32_t>(block * m_first + weighted);
+        m_first += static_cast<std::uint32_t>((even + odd) * 0x0001'0001'0001'0001 >> 48);
     }
 
     std::uint32_t m_first;
