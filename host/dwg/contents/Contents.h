@@ -22,7 +22,7 @@ struct ObjectClass
 /// The classes of a file in their order; as many as can be read.
 std::vector<ObjectClass> readClasses(const Container &container, Problems &problems);
 
-/// All objects by rising handle, each once, with their types. Where the map is damaged, objects that it does not tell
+/// All objects by rising handle, each once. Where the map is damaged, objects that it does not tell
 /// of are looked for; what the map tells of and is not there has the place `lostPlace`. Together they take no more than
 /// the objects' bytes, so whoever reads each of them is done in a time that goes with the file.
 std::vector<MapEntry> readObjectMap(const Container &container, Problems &problems);

@@ -69,7 +69,7 @@ void sortByHandle(std::vector<MapEntry> &entries)
     entries.erase(std::unique(entries.begin(), entries.end(), isSame), entries.end());
 }
 
-/// Tells the types of objects, and marks what is not at its place. False when there is any.
+/// Keeps how objects begin, and marks what is not at its place. False when there is any.
 bool markLost(const Container &container, std::vector<MapEntry> &entries)
 {
     std::uint64_t room = container.objects.size();
@@ -79,7 +79,7 @@ bool markLost(const Container &container, std::vector<MapEntry> &entries)
         const bool isThere = object && object->handle == entry.handle && object->size <= room;
         room -= isThere ? object->size : 0;
         entry.place = isThere ? entry.place : lostPlace;
-        entry.type = isThere ? object->type : 0;
+        entry.frame = isThere ? object->frame : ObjectFrame();
         isWhole = isWhole && isThere;
     }
     return isWhole;

@@ -1,7 +1,5 @@
 #include "host/dwg/contents/ObjectSearch.h"
 
-#include "host/dwg/objects/ObjectHead.h"
-
 #include <algorithm>
 
 namespace host::dwg {
@@ -38,7 +36,7 @@ std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release 
     const auto frame = frameAt(objects, place, release);
     if (!frame)
         return std::nullopt;
-    return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place, frame->type};
+    return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place, *frame};
 }
 
 std::vector<MapEntry> findObjects(Bytes objects, Release release)
@@ -55,7 +53,7 @@ std::vector<MapEntry> findObjects(Bytes objects, Release release)
             ++at;
             continue;
         }
-        entries.push_back({ownHandle(*frame), at, frame->type});
+        entries.push_back({ownHandle(*frame), at, *frame});
         at = endOf(*frame, objects);
     }
     std::stable_sort(entries.begin(), entries.end(),

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "host/dwg/bits/BitReader.h"
-
-#include <optional>
-#include <vector>
+#include "host/dwg/objects/ObjectHead.h"
 
 namespace host::dwg {
 
@@ -12,7 +9,7 @@ struct MapEntry
 {
     std::uint64_t handle = 0;
     std::uint64_t place = 0;
-    int type = 0; ///< as it stands in the file; 0 where that was not looked at, or nothing is there
+    ObjectFrame frame; ///< what stands there; empty where nothing is, or it was not looked at
 };
 
 /// An object at a place of what the object map counts in.
@@ -20,7 +17,7 @@ struct FoundObject
 {
     std::uint64_t handle = 0; ///< that it says to have
     std::uint64_t size = 0;   ///< with its length and checksum
-    int type = 0;
+    ObjectFrame frame;
 };
 
 /// Nothing when no object can be there.

@@ -97,7 +97,7 @@ void Companions::findStyles(const DrawingObjects &objects, Fields &fields)
         return;
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
-        const auto frame = entry.type == one->number ? objects.peek(entry) : std::nullopt;
+        const auto frame = entry.frame.type == one->number ? objects.peek(entry) : std::nullopt;
         if (!frame)
             continue;
         head.read(*frame, false, fields);

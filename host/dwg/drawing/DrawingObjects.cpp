@@ -39,11 +39,6 @@ std::size_t DrawingObjects::indexOf(std::uint64_t handle) const
                                                            : m_map.size();
 }
 
-std::optional<ObjectFrame> DrawingObjects::peek(const MapEntry &entry) const
-{
-    return frameAt(m_container.objects, entry.place, m_container.release);
-}
-
 std::optional<ObjectFrame> DrawingObjects::peek(std::uint64_t handle) const
 {
     const std::size_t index = indexOf(handle);

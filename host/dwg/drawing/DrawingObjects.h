@@ -25,7 +25,10 @@ public:
     const std::vector<MapEntry> &map() const { return m_map; }
 
     /// The object as it stands in the file, without its checksum; nothing when there is none.
-    std::optional<ObjectFrame> peek(const MapEntry &entry) const;
+    static std::optional<ObjectFrame> peek(const MapEntry &entry)
+    {
+        return entry.frame.bytes.empty() ? std::nullopt : std::optional(entry.frame);
+    }
     std::optional<ObjectFrame> peek(std::uint64_t handle) const;
     /// Takes the object, unless it was taken before: each is written once, whoever refers to it.
     std::optional<ObjectFrame> take(std::uint64_t handle);

@@ -59,7 +59,7 @@ std::unordered_set<std::uint64_t> findLaterRecords(const DrawingObjects &objects
         return place->second;
     };
     for (const MapEntry &place : objects.map()) {
-        if (place.type != dictionaryType)
+        if (place.frame.type != dictionaryType)
             continue;
         const DictionaryEntries entries = readEntries(objects, place.handle, fields);
         std::size_t left = entries.size();

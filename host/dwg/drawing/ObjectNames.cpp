@@ -25,7 +25,7 @@ void readNames(const DrawingObjects &objects, Fields &fields, Names &names)
     std::uint64_t multiLineStyles = 0;
     std::size_t bytes = 0;
     for (const MapEntry &entry : objects.map()) {
-        if (std::ranges::find(namedTypes, entry.type) == namedTypes.end())
+        if (std::ranges::find(namedTypes, entry.frame.type) == namedTypes.end())
             continue;
         const auto frame = objects.peek(entry);
         if (!frame)

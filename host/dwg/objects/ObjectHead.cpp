@@ -195,7 +195,7 @@ std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release r
         frame.referencesStart = body.raw32();
     else if (release >= Release::R2010)
         frame.referencesStart = size * 8 - referenceBits;
-    frame.bodyStart = body.position();
+    frame.bodyStart = static_cast<std::uint32_t>(body.position());
     if (body.hasFailed() || frame.referencesStart > size * 8)
         return std::nullopt;
     return frame;

@@ -9,7 +9,7 @@ struct ObjectFrame
 {
     Bytes bytes; ///< from the type on, without length and checksum
     int type = 0;
-    std::size_t bodyStart = 0;       ///< bits
+    std::uint32_t bodyStart = 0;     ///< bits
     std::size_t referencesStart = 0; ///< bits from the start; 0 where the object tells it further on (R13, R14)
 };
 
