@@ -116,7 +116,7 @@ void Companions::findKeptModels(const DrawingObjects &objects, Fields &fields)
     std::size_t left = objects.byteCount();
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
-        const bool isSolid = entry.type >= firstSolid && entry.type <= lastSolid;
+        const bool isSolid = entry.frame.type >= firstSolid && entry.frame.type <= lastSolid;
         const auto frame = isSolid ? objects.peek(entry) : std::nullopt;
         if (!frame)
             continue;
