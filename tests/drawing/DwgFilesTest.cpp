@@ -9,10 +9,12 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Tables.h"
 #include "host/drawing/solids/SolidModel.h"
 #include "tests/drawing/DrawingSample.h"
 #include "tests/dwg/making/BinaryModel.h"
 #include "tests/dwg/making/Circles.h"
+#include "tests/dwg/making/EarlyFileMaker.h"
 #include "tests/dwg/making/MadeDrawing.h"
 #include "tests/dwg/making/TypeNumbers.h"
 
@@ -254,6 +256,20 @@ TEST(DwgFiles, HaveTextsInThePageThatTheyTell)
             const Dictionaries &dictionaries = read.drawing->dictionaries();
             EXPECT_EQ(dictionaries.xrecord(dictionaries.root(), row.text), FieldList({{1, row.text}})) << row.number;
         }
+    }
+}
+
+TEST(DwgFiles, BeforeR13HaveTheLettersThatTheyAreWrittenWith)
+{
+    for (const Release release : {Release::R9, Release::R10, Release::R12}) {
+        dwg::test::EarlyFileMaker made(release);
+        made.addRecord(dwg::EarlyTableKind::Layers, 0, "H\x94he_\xE1\x82\x8E", "w7 w0");
+        const ReadResult read = Drawing::fromBytes(bytesOf(made.file()));
+        ASSERT_TRUE(read) << read.error.message().toStdString();
+        EXPECT_EQ(read.drawing->readingNotes().doubtfulCount, 1);
+        EXPECT_TRUE(isValid(read.drawing->tables().find(TableKind::Layer, u"Höhe ßéÄ")));
+        // Saved as DXF they keep them.
+        EXPECT_TRUE(isValid(readGood(read.drawing->toBytes())->tables().find(TableKind::Layer, u"Höhe ßéÄ")));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "tests/dwg/making/EarlyFileMaker.h"
 #include "tests/dwg/making/Paragraphs.h"
 #include "tests/dwg/making/ReadBack.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -105,6 +106,37 @@ TEST(DwgCodePages, LongTextsAreCutBetweenCharacters)
         const std::size_t begin = tags.find("|3 ") + 3;
         EXPECT_EQ(tags.find('|', begin) - begin, row.length) << row.character;
         EXPECT_EQ(tags.substr(begin, row.length), text.substr(0, row.length)) << row.character;
+    }
+}
+
+TEST(DwgCodePages, UnitsOfUtf16BecomeUtf8)
+{
+    const std::pair<std::u16string, std::string> rows[] = {
+        {u"\u00e4\u4e2d", "\u00e4\u4e2d"},
+        {u"a\U0001f600", "a\U0001f600"},
+        {{'a', 0xd83d, 'b'}, "a\ufffdb"},
+        {{0xde00}, "\ufffd"},
+        {{0xd83d, 0xd83d, 0xde00}, "\ufffd\U0001f600"},
+        {{'a', 'b', 'c', 0xd83d}, "abc\ufffd"},
+        {{'a', 0, 'b'}, "a"},
+        {{0x4e2d, 'a', 'b', 'c', 0},
+         "\u4e2d"
+         "abc"},
+        {u"^\n\\U+2205", "^ ^J\\U+2205"},
+    };
+    for (const auto &[units, expected] : rows) {
+        MadeDrawing drawing(Release::R2010);
+        const std::uint64_t application = drawing.addEntry(ApplicationType, [&units = units](ObjectWriter &o) {
+            o.texts().shortInteger(static_cast<int>(units.size()));
+            for (const char16_t unit : units)
+                o.texts().raw16(unit);
+            o.int16(0);
+            o.small(0);
+            o.reference(0);
+        });
+        const ReadBack read = readBack(drawing);
+        EXPECT_EQ(read.problems(), "");
+        EXPECT_EQ(read.lastPart(application), "2 " + expected + "|70 0|");
     }
 }
 
