@@ -11,6 +11,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <span>
 
 namespace host::dwg::test {
 
@@ -123,13 +124,13 @@ const LookRow lookRows[] = {
 };
 
 /// A table of one column with a row for each look.
-std::string tableOfLooks()
+std::string tableOfLooks(std::span<const LookRow> rows, const std::string &text)
 {
-    std::string words = "p1,2,0 b1 b1 d0 p0,0,1 b0 h1D c0 h0 l0 l0 t t l1 t l0 l0 l3 s0 l0 d40 l" +
-                        std::to_string(std::size(lookRows)) + ' ';
-    for (const LookRow &row : lookRows)
-        words += "l1 l0 t l0 l0 l0 l1 l1 l2 l4 tHi l0 t tHi l0 " + row.content + "l1 " + row.format +
-                 "l3 l0 l0 l0 l2 s0 l3 d9 ";
+    std::string words =
+        "p1,2,0 b1 b1 d0 p0,0,1 b0 h1D c0 h0 l0 l0 t t l1 t l0 l0 l3 s0 l0 d40 l" + std::to_string(rows.size()) + ' ';
+    for (const LookRow &row : rows)
+        words += "l1 l0 t l0 l0 l0 l1 l1 l2 l4 t" + text + " l0 t t" + text + " l0 " + row.content + "l1 " +
+                 row.format + "l3 l0 l0 l0 l2 s0 l3 d9 ";
     return words + "l0 l4 s0 l0 h50 s38 p1,0,0 l0 l1 p0,0,0 l0 l1";
 }
 
@@ -139,7 +140,7 @@ TEST(DwgTables, CellsLookAsTheyDifferFromTheirStyle)
 {
     for (const Release release : {Release::R2013, Release::R2018}) {
         MadeDrawing drawing(release);
-        const std::uint64_t table = drawing.addEntity("ACAD_TABLE", writerOf(tableOfLooks()));
+        const std::uint64_t table = drawing.addEntity("ACAD_TABLE", writerOf(tableOfLooks(lookRows, "Hi")));
         const ReadBack read = readBack(drawing);
         EXPECT_EQ(read.problems(), "");
         std::string cells = read.lastPart(table);
@@ -150,6 +151,21 @@ TEST(DwgTables, CellsLookAsTheyDifferFromTheirStyle)
                 << row.name;
         }
     }
+}
+
+TEST(DwgTables, LongTextsOfCellsStandInParts)
+{
+    MadeDrawing drawing(Release::R2018);
+    const std::string text = std::string(250, 'x') + "yz";
+    const std::uint64_t table =
+        drawing.addEntity("ACAD_TABLE", writerOf(tableOfLooks(std::span(lookRows).first(1), text)));
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.problems(), "");
+    const std::string part = text.substr(0, 250);
+    const std::string cells = read.lastPart(table);
+    EXPECT_NE(cells.find("|90 4|2 " + part + "|1 yz|94 0|300 |303 " + part + "|302 yz|304 ACVALUE_END|"),
+              std::string::npos)
+        << cells;
 }
 
 TEST(DwgTables, HaveTheCellsThatAnotherProgramMakesOfTheirContent)

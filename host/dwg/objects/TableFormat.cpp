@@ -163,7 +163,8 @@ void readCellValue(Fields &f)
     if (isLate) {
         f.int32(94);
         f.text(300);
-        f.text(302);
+        const std::string shown = f.text();
+        f.noteLong(302, 303, shown);
     }
     f.note(304, "ACVALUE_END");
 }

@@ -127,15 +127,15 @@ private:
             m_table.verticalMargin = size;
     }
 
-    /// A value of later versions: its text as it is shown (302) stands between marks.
+    /// A value of later versions: its text as it is shown (302, behind long parts 303) stands between marks.
     bool readValue(TableCell &cell, const Tag &tag)
     {
         if (tag.code == 301)
             m_isInValue = true;
         else if (tag.code == 304)
             m_isInValue = false;
-        else if (m_isInValue && tag.code == 302)
-            m_shown = m_tags.decoded(tag);
+        else if (m_isInValue && (tag.code == 302 || tag.code == 303))
+            m_shown += m_tags.decoded(tag);
         else if (m_isInValue && (tag.code == 1 || tag.code == 2))
             cell.text += m_tags.decoded(tag);
         else
