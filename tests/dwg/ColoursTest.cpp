@@ -67,6 +67,23 @@ TEST(DwgColours, OfBooksAreObjectsThatEntitiesHave)
     }
 }
 
+TEST(DwgColours, OfBooksMayHaveTheirNumberBesideThem)
+{
+    MadeDrawing drawing(Release::R2010);
+    const std::uint64_t colour = drawing.addObject("DBCOLOR", "RAL CLASSIC$RAL 3020", writeRed);
+    std::vector<std::uint64_t> points;
+    for (const bool hasRgb : {false, true, true, false}) {
+        points.push_back(drawing.addEntity(PointType, writePoint));
+        drawing.head(points.back()).bookColour = colour;
+        drawing.head(points.back()).hasRgbBesideBook = hasRgb;
+        drawing.head(points.back()).transparency = 0x0200007f;
+    }
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.problems(), "");
+    for (const std::uint64_t point : points)
+        EXPECT_EQ(entityTags(read, point), std::string(redTags) + "440 33554559|");
+}
+
 TEST(DwgColours, OfBooksThatAreNotThereAreTold)
 {
     for (const bool isColour : {true, false}) {
@@ -88,8 +105,6 @@ TEST(DwgColours, OfBooksThatAreNotThereAreTold)
 TEST(DwgColours, OfLayersStayWhereTheyAreOff)
 {
     const LayerRow rows[] = {
-        {"indexed", true, [](ObjectWriter &o) { o.colour(3); }, "62 3|6 "},
-        {"indexed, off", false, [](ObjectWriter &o) { o.colour(3); }, "62 -3|6 "},
         {"true", true, [](ObjectWriter &o) { o.longColour(trueColour | 0xff00); }, "62 3|420 65280|6 "},
         {"true, off", false, [](ObjectWriter &o) { o.longColour(trueColour | 0xff00); }, "62 -3|420 65280|6 "},
         {"of a book", true, writeRed, "62 1|420 16711680|430 RAL CLASSIC$RAL 3020|6 "},

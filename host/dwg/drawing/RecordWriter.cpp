@@ -185,11 +185,21 @@ bool RecordWriter::writeFrame(std::uint64_t handle, const ObjectFrame &frame)
     return false;
 }
 
-bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type)
+void RecordWriter::readKnown(const ObjectFrame &frame, const ObjectType &type)
 {
     readHead(frame, type.name, type.isEntity);
     if (type.read)
         type.read(m_fields);
+}
+
+bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type)
+{
+    readKnown(frame, type);
+    // Twice, so that the first way is taken again where neither fits.
+    for (int i = 0; i < 2 && m_head.hasBookColour() && !m_fields.isUsedUp(); ++i) {
+        m_head.tryOtherBookColours();
+        readKnown(frame, type);
+    }
     // Classes have other forms in other releases and programs; what a reader leaves over tells that it is another one.
     if (m_objects.classOf(frame.type) && (!m_fields.isUsedUp() || hasLaterGroups(m_fields)))
         return false;

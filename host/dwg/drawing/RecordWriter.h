@@ -55,6 +55,7 @@ public:
     std::vector<std::uint64_t> takeOwned() { return std::exchange(m_owned, {}); }
 
 private:
+    void readKnown(const ObjectFrame &frame, const ObjectType &type);
     bool writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type);
     bool writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity);
     std::vector<std::size_t> readTextPlaces(const ObjectFrame &frame, bool isEntity);

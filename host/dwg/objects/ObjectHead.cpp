@@ -20,7 +20,7 @@ struct EntityColour
     bool isNamed = false; ///< a reference to the name follows
 };
 
-EntityColour readEntityColour(Fields &fields)
+EntityColour readEntityColour(Fields &fields, bool hasRgbBesideBook)
 {
     EntityColour colour;
     const int number = fields.int16();
@@ -33,7 +33,7 @@ EntityColour readEntityColour(Fields &fields)
     constexpr int hasTransparency = 0x2000;
     colour.index = number & 0x1ff;
     colour.isNamed = (number & hasName) != 0;
-    if ((number & hasRgb) != 0 && !colour.isNamed) {
+    if ((number & hasRgb) != 0 && (!colour.isNamed || hasRgbBesideBook)) {
         colour.rgb = static_cast<std::uint32_t>(fields.int32());
         colour.index = colourIndex(colour.rgb);
     }
@@ -73,7 +73,7 @@ struct EntityValues
     std::uint64_t colourName = 0;
 };
 
-EntityValues readEntityValues(Fields &fields)
+EntityValues readEntityValues(Fields &fields, bool hasRgbBesideBook)
 {
     EntityValues entity;
     BitReader &values = fields.values();
@@ -83,7 +83,7 @@ EntityValues readEntityValues(Fields &fields)
         fields.relations().hasStoredData = values.bit();
     const bool isByLayer = fields.until(Release::R14) && values.bit();
     entity.hasNoLinks = fields.until(Release::R2000) && values.bit();
-    entity.colour = readEntityColour(fields);
+    entity.colour = readEntityColour(fields, hasRgbBesideBook);
     entity.scale = values.real();
     const bool hasFlags = fields.since(Release::R2000);
     entity.linetype = hasFlags ? values.pair() : isByLayer ? 0 : fromReference;
@@ -232,6 +232,7 @@ void ObjectHead::read(const ObjectFrame &frame, bool isEntity, Fields &fields)
     m_reactors.clear();
     m_graphics.clear();
     m_space = 0;
+    m_hasBookColour = false;
     m_objectEnd = frame.referencesStart;
     const std::size_t all = frame.bytes.size() * 8;
     const bool hasTexts = fields.since(Release::R2007);
@@ -269,7 +270,8 @@ void ObjectHead::readEntityHead(Fields &fields)
     if (fields.until(Release::R14))
         fields.splitAt(values.raw32());
     m_space = values.pair();
-    EntityValues entity = readEntityValues(fields);
+    EntityValues entity = readEntityValues(fields, m_hasRgbBesideBook);
+    m_hasBookColour = entity.colour.isNamed;
     readRelations(fields, entity.reactorCount, entity.hasNoDictionary);
     readEntityReferences(fields, entity);
     noteRelations(fields);

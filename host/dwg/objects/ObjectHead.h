@@ -41,6 +41,11 @@ public:
     void read(const ObjectFrame &frame, bool isEntity, Fields &fields);
     /// Where the entity's graphics are among the tags: in front of the first subclass of its type.
     std::size_t graphicsMark() const { return m_graphicsMark; }
+    /// Whether the colour of the entity is one of a colour book.
+    bool hasBookColour() const { return m_hasBookColour; }
+    /// Such entities may have the 24 bits of the colour beside the reference to it, of which no known file tells: from
+    /// the next one on it is tried the other way. Whether all of the entity is read then tells which one is right.
+    void tryOtherBookColours() { m_hasRgbBesideBook = !m_hasRgbBesideBook; }
     /// Notes the extended data behind everything else.
     void noteExtendedData(Fields &fields) const;
 
@@ -66,6 +71,8 @@ private:
     std::size_t m_objectEnd = 0;
     std::uint64_t m_lastOwner = 0; ///< that of the entity before, which is mostly that of the next one, too
     bool m_isLastPaper = false;
+    bool m_hasBookColour = false;
+    bool m_hasRgbBesideBook = false;
     int m_space = 0; ///< 1 and 2: those of paper and model space, which do not tell their owner
 };
 

@@ -113,6 +113,8 @@ void ObjectWriter::writeEntityColour(const MadeHead &head)
     const int ofBook = head.bookColour != 0 ? 0xc000 : 0;
     const int transparent = head.transparency != 0 ? 0x2000 : 0;
     m_values.shortInteger(head.colour | ofBook | transparent);
+    if (head.hasRgbBesideBook)
+        m_values.longInteger(static_cast<std::int32_t>(trueColour));
     if (transparent != 0)
         m_values.longInteger(static_cast<std::int32_t>(head.transparency));
 }

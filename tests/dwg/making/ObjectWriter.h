@@ -29,6 +29,7 @@ struct MadeHead
     std::uint64_t next = 0;
     int colour = 256;               ///< an index
     std::uint64_t bookColour = 0;   ///< the object that is the colour, from R2004 on; 0: none
+    bool hasRgbBesideBook = false;  ///< the colour's number stands in front of that, too
     std::uint32_t transparency = 0; ///< from R2004 on; 0: none
     double linetypeScale = 1.0;
     bool isVisible = true;
