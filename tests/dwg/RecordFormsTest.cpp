@@ -81,6 +81,10 @@ const FormRow formRows[] = {
     {"a view with a coordinate system", Release::R2000, Place::Entry, 0x3d,
      "nV d2 d3 f5,6 p0,0,0 p0,0,1 d0 d50 d0 d0 b0 b0 b0 b1 c0 b0 b1 " + axes + "h0 h60 h61",
      viewTags + axesTags + "345 61|346 60|"},
+    {"a view with a section", Release::R2007, Place::Entry, 0x3d,
+     "nV d2 d3 f5,6 p0,0,0 p0,0,1 d0 d50 d0 d0 b0 b0 b0 b1 c0 b1 c1 d0 d0 K250 b0 b1 " + axes +
+         "b1 h0 h62 h63 h64 h60 h61 h65",
+     viewTags + "73 1|332 62|334 65|348 63|361 64|" + axesTags + "345 61|346 60|"},
     {"a coordinate system that others stand upon", Release::R2000, Place::Entry, 0x3f,
      "nU p0,0,0 p1,0,0 p0,1,0 d7 s1 s1 s5 p1,2,3 h0 h60",
      "2 U|70 0|10 0.0|20 0.0|30 0.0|11 1.0|21 0.0|31 0.0|12 0.0|22 1.0|32 0.0|79 1|146 7.0|346 60|71 5|13 1.0|23 2.0|"

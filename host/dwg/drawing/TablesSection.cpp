@@ -53,6 +53,7 @@ void writeBlockRecord(DrawingParts &parts, std::uint64_t handle)
     BlockHead block = readBlockHead(fields);
     block.entry.name = fields.nameOf(handle);
     noteBlockRecord(fields, block);
+    block.preview = {};
     if (fields.hasFailed())
         parts.objects.lose(handle, frame->type, "The object ends before its values do.");
     records.writeNoted("BLOCK_RECORD");

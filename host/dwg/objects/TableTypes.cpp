@@ -192,6 +192,14 @@ void readLighting(Fields &f)
     f.colour(63);
 }
 
+/// Views have it in the file alone.
+void skipLighting(Fields &f)
+{
+    const std::size_t mark = f.mark();
+    readLighting(f);
+    f.drop(mark);
+}
+
 void readCoordinateAxes(Fields &f)
 {
     for (int code = 110; code <= 112; ++code)
@@ -217,7 +225,7 @@ void readView(Fields &f)
     if (f.since(Release::R2000))
         f.small(281);
     if (f.since(Release::R2007))
-        readLighting(f);
+        skipLighting(f);
     entry.flags |= f.flag() ? 1 : 0;
     bool hasSystem = false;
     if (f.since(Release::R2000)) {
