@@ -44,7 +44,7 @@ void writeControlSpline(ObjectWriter &o, const std::vector<Point> &points)
         o.point(point);
 }
 
-void writeViewport(ObjectWriter &o)
+void writeViewportWith(ObjectWriter &o, int status, int layerKind)
 {
     o.point({4.0, 3.0, 0.0});
     o.real(8.0);
@@ -58,7 +58,7 @@ void writeViewport(ObjectWriter &o)
     o.int16(100);
     o.int16(5);
     o.int32(1);
-    o.int32(0x8060);
+    o.int32(status);
     o.text("");
     o.small(0);
     o.flag(false);
@@ -73,9 +73,14 @@ void writeViewport(ObjectWriter &o)
     o.real(0.0);
     o.real(0.0);
     o.colour(7);
-    o.reference(MadeHandles::LayerZero, HandleReference::SoftPointer);
+    o.reference(MadeHandles::LayerZero, layerKind);
     for (int i = 0; i < 7; ++i)
         o.reference(0);
+}
+
+void writeViewport(ObjectWriter &o)
+{
+    writeViewportWith(o, 0x8060, HandleReference::SoftPointer);
 }
 
 } // namespace
@@ -106,6 +111,16 @@ TEST(DwgCurves, ViewportsAreNumberedInTheirLayout)
             << read.lastPart(viewport);
         EXPECT_NE(read.lastPart(viewport).find("|331 10|90 32864|"), std::string::npos) << "its frozen layer";
     }
+}
+
+TEST(DwgCurves, ViewportsThatAreOffSayItAndFrozenLayersHowTheyAreReferredTo)
+{
+    MadeDrawing drawing(Release::R2010);
+    const std::uint64_t viewport =
+        drawing.addEntity(0x22, [](ObjectWriter &o) { writeViewportWith(o, 0x28060, HandleReference::HardPointer); });
+    const std::string tags = readBack(drawing).lastPart(viewport);
+    EXPECT_NE(tags.find("|68 0|69 1|12 1.0|"), std::string::npos) << tags;
+    EXPECT_NE(tags.find("|72 100|341 10|90 163936|"), std::string::npos) << tags;
 }
 
 TEST(DwgCurves, ViewportsOfLayoutsThatAreNotShownHaveNoNumber)

@@ -13,6 +13,13 @@ bool isInHiddenLayout(const Fields &f)
     return isPaperSpace(name) && name.size() > shown.size();
 }
 
+/// Files of R2000 refer to it in another way, under another code.
+void readFrozenLayer(Fields &f)
+{
+    const HandleReference layer = f.references().handle();
+    f.noteHandle(layer.kind == HandleReference::HardPointer ? 341 : 331, f.reference(layer));
+}
+
 void readViewportEntity(Fields &f)
 {
     f.subclass("AcDbViewport");
@@ -24,9 +31,10 @@ void readViewportEntity(Fields &f)
     f.real(41);
     // Programs number the viewports of a layout when they show it; the first one is the paper itself.
     const int number = isInHiddenLayout(f) ? 0 : f.takeNumber();
-    f.note(68, number);
     f.note(69, number);
     if (f.until(Release::R14)) {
+        f.note(68, number);
+        f.arrange(begin, {10, 20, 30, 40, 41, 68, 69});
         f.reference(); // its entry in a table that the text form does not have
         return;
     }
@@ -44,7 +52,9 @@ void readViewportEntity(Fields &f)
     if (f.since(Release::R2007))
         f.int16(61);
     const std::size_t frozen = f.checkedCount(f.int32(), 8, f.references());
-    f.int32(90);
+    const int status = f.int32(90);
+    constexpr int isOff = 0x20000;
+    f.note(68, (status & isOff) != 0 ? 0 : number);
     f.text(1);
     f.small(281);
     f.flag(74);
@@ -63,7 +73,7 @@ void readViewportEntity(Fields &f)
         f.colour(63);
     }
     for (std::size_t i = 0; i < frozen; ++i)
-        f.reference(331);
+        readFrozenLayer(f);
     f.referenceUnlessNull(340);
     if (f.until(Release::R2000))
         f.reference();
@@ -76,9 +86,9 @@ void readViewportEntity(Fields &f)
         f.referenceUnlessNull(361);
     }
     f.arrange(begin,
-              {10,  20,  30,  40,  41,  68,  69, 12,  22,  13, 23,  14,  24,  15,  25,  16,  26,  36,  17,  27,
-               37,  42,  43,  44,  45,  50,  51, 72,  331, 90, 340, 1,   281, 71,  74,  110, 120, 130, 111, 121,
-               131, 112, 122, 132, 345, 346, 79, 146, 170, 61, 332, 333, 348, 292, 282, 141, 142, 63,  421, 361});
+              {10,  20,  30,  40,  41,  68, 69,  12,  22,  13,  23,  14,  24,  15,  25,  16,  26,  36,  17,  27,  37,
+               42,  43,  44,  45,  50,  51, 72,  331, 341, 90,  340, 1,   281, 71,  74,  110, 120, 130, 111, 121, 131,
+               112, 122, 132, 345, 346, 79, 146, 170, 61,  332, 333, 348, 292, 282, 141, 142, 63,  421, 361});
 }
 
 } // namespace
