@@ -30,12 +30,13 @@ public:
         const std::optional<CorrectedHeader> header = findHeader();
         if (!header)
             return m_problems.lose("The header of the file cannot be read.");
-        const auto pages = findMap(header->pages, "pages", [](std::uint64_t place) { return std::optional(place); });
+        const auto pages = findMap(header->pages, "The checksum of the map of pages does not fit.",
+                                   [](std::uint64_t place) { return std::optional(place); });
         if (!pages)
             return m_problems.lose("The map of the file's pages cannot be read.");
         readPageMap(*pages);
-        const auto sections =
-            findMap(header->sections, "sections", [this](std::uint64_t number) { return placeOfPage(number); });
+        const auto sections = findMap(header->sections, "The checksum of the map of sections does not fit.",
+                                      [this](std::uint64_t number) { return placeOfPage(number); });
         if (!sections)
             return m_problems.lose("The map of the file's sections cannot be read.");
         BitReader reader(*sections);
@@ -83,10 +84,10 @@ private:
         return ownBytesOf(page, code);
     }
 
-    /// A map where its checksums fit, else its copy, else the one of both that can be read at all. `placeOf` makes
-    /// places of what the header has.
+    /// A map where its checksums fit, else its copy, else the one of both that can be read at all, which `doubt`
+    /// tells. `placeOf` makes places of what the header has.
     template <typename PlaceOf>
-    std::optional<PageBytes> findMap(const MapPlace &map, std::string_view name, PlaceOf placeOf)
+    std::optional<PageBytes> findMap(const MapPlace &map, const char *doubt, PlaceOf placeOf)
     {
         std::optional<PageBytes> found;
         for (const std::uint64_t told : {map.place, map.copy}) {
@@ -98,7 +99,7 @@ private:
                 found = std::move(read->bytes);
         }
         if (found)
-            m_problems.warn("The checksum of the map of " + std::string(name) + " does not fit.");
+            m_problems.warn(doubt);
         return found;
     }
 
