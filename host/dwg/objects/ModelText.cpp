@@ -97,9 +97,10 @@ private:
             return false;
         addWord(*name);
         m_isClosed = endsModel(*name);
-        const bool isRead = m_isClosed || addValues(*name);
+        if (!m_isClosed && !addValues(*name))
+            return false;
         closeLine();
-        return isRead;
+        return true;
     }
 
     std::optional<std::string> readName()
