@@ -155,6 +155,7 @@ TEST(DwgCodePages, NumbersThatNoPageHasAreTold)
 TEST(DwgCodePages, BeforeR13LettersTellThem)
 {
     const std::string dos = "9 $DWGCODEPAGE|3 dos850|";
+    const std::string cyrillic = "9 $DWGCODEPAGE|3 dos866|";
     const std::pair<const char *, std::string> rows[] = {
         {"LAYER", ""},
         {"H\x94he", dos},
@@ -168,7 +169,14 @@ TEST(DwgCodePages, BeforeR13LettersTellThem)
         {"pe\x9aka", ""},          // Windows, in small letters
         {"\x93word\x94 \x97", ""}, // quotes and a dash
         {"\x82\x61\x82\x62\x82\x63", ""},
-        {"\x8f\xa5\xad", ""},
+        {"\x92\xa5\xaa\xe1\xe2", cyrillic},     // a capital and small letters
+        {"\x9d\x92\x80\x86 H\x94he", cyrillic}, // capitals with one that is late in the alphabet
+        {"\x8f\x8b\x80\x8d", ""},               // capitals of other alphabets of DOS, too
+        {"\xd2\xe5\xea\xf1\xf2", ""},           // the first word by Windows
+        {"\xef\xeb\xe0\xed", ""},               // small letters by both
+        {"\xd6\xd0\xce\xc4", ""},               // Chinese
+        {"\xa0\x82\xa2\x82\xa4", ""},           // no word: a capital inside
+        {"\x9d\xe2 \xa4\xa0", ""},              // too short
     };
     for (const auto &[layer, expected] : rows) {
         for (const Release release : {Release::R9, Release::R10, Release::R12})

@@ -48,6 +48,52 @@ bool isDosLetter(char before, char c, char after)
     }
 }
 
+/// Whether such a letter stands in the text, from `begin` on.
+bool hasWesternLetter(std::string_view text, std::size_t begin)
+{
+    for (std::size_t i = std::max<std::size_t>(begin, 2); i + 2 < text.size(); ++i) {
+        // In pages with characters of two bytes a letter may be the second one.
+        const bool isAlone = !isBeyondEarlyAscii(text[i - 2]) && !isBeyondEarlyAscii(text[i + 2]);
+        if (isAlone && isDosLetter(text[i - 1], text[i], text[i + 1]))
+            return true;
+    }
+    return false;
+}
+
+/// Whether the word is Cyrillic by the numbers of DOS: 1 or, where it cannot be, -1. 0 where other pages have such
+/// words: of capitals alone, or without the small letters at the beginning of the alphabet, most vowels among them.
+int cyrillicVote(std::string_view word)
+{
+    bool hasEarly = false;
+    bool hasSmall = false;
+    bool hasLast = false; // one of the last capitals, which other alphabets have no capitals for
+    for (const char c : word) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool isEarly = byte >= 0xa0 && byte <= 0xaf;
+        const bool isSmall = isEarly || (byte >= 0xe0 && byte <= 0xef);
+        if (!isSmall && (byte > 0x9f || hasSmall))
+            return -1;
+        hasEarly |= isEarly;
+        hasSmall |= isSmall;
+        hasLast |= byte >= 0x9b && byte <= 0x9f;
+    }
+    return hasEarly || (hasLast && !hasSmall) ? 1 : 0;
+}
+
+/// Whether most words are, of those in `text` that have three letters or more.
+bool isMostlyCyrillic(std::string_view text)
+{
+    constexpr std::ptrdiff_t leastOfAWord = 3;
+    int votes = 0;
+    for (auto end = text.begin(); end != text.end();) {
+        const auto begin = std::find_if(end, text.end(), isBeyondEarlyAscii);
+        end = std::find_if_not(begin, text.end(), isBeyondEarlyAscii);
+        if (end - begin >= leastOfAWord)
+            votes += cyrillicVote({begin, end});
+    }
+    return votes > 0;
+}
+
 } // namespace
 
 EarlyCodePage earlyCodePageOf(std::string_view text)
@@ -55,14 +101,10 @@ EarlyCodePage earlyCodePageOf(std::string_view text)
     const auto first = std::find_if(text.begin(), text.end(), isBeyondEarlyAscii);
     if (first == text.end())
         return EarlyCodePage::Any;
-    const auto begin = std::max<std::size_t>(static_cast<std::size_t>(first - text.begin()), 2);
-    for (std::size_t i = begin; i + 2 < text.size(); ++i) {
-        // In pages with characters of two bytes a letter may be the second one.
-        const bool isAlone = !isBeyondEarlyAscii(text[i - 2]) && !isBeyondEarlyAscii(text[i + 2]);
-        if (isAlone && isDosLetter(text[i - 1], text[i], text[i + 1]))
-            return EarlyCodePage::Dos;
-    }
-    return EarlyCodePage::Unknown;
+    const auto begin = static_cast<std::size_t>(first - text.begin());
+    if (isMostlyCyrillic(text.substr(begin)))
+        return EarlyCodePage::DosCyrillic;
+    return hasWesternLetter(text, begin) ? EarlyCodePage::DosWestern : EarlyCodePage::Unknown;
 }
 
 } // namespace host::dwg

@@ -74,13 +74,14 @@ private:
     void tellCodePage(std::size_t place)
     {
         const EarlyCodePage page = earlyCodePageOf(m_text);
-        if (page == EarlyCodePage::Dos) {
-            m_text.insert(place, "  9\n$DWGCODEPAGE\n  3\ndos850\n");
-            m_problems.warn("The file does not tell the code page of its texts, which is one of DOS by their letters; "
-                            "they are read as dos850.");
-        } else if (page == EarlyCodePage::Unknown) {
-            m_problems.warn("The file does not tell the code page of its texts; they are read as ANSI_1252.");
-        }
+        if (page == EarlyCodePage::Any)
+            return;
+        if (page == EarlyCodePage::Unknown)
+            return m_problems.warn("The file does not tell the code page of its texts; they are read as ANSI_1252.");
+        const std::string name = page == EarlyCodePage::DosCyrillic ? "dos866" : "dos850";
+        m_text.insert(place, "  9\n$DWGCODEPAGE\n  3\n" + name + "\n");
+        m_problems.warn("The file does not tell the code page of its texts; by their letters they are read as " + name +
+                        ".");
     }
 
     void writeMark(const char *type)
