@@ -29,6 +29,22 @@ TEST(EntityDrawing, SpacesAndViewports)
     EXPECT_FALSE(paper.isInk(5, 2)) << "the model itself is not on the sheet";
 }
 
+TEST(EntityDrawing, ViewportsOfLayoutsThatWereNotShownHaveNoNumbers)
+{
+    const std::string line = "0 LINE|8 0|10 0|20 2|11 10|21 2|";
+    const std::string sheet = "0 VIEWPORT|8 0|67 1|10 50|20 50|40 80|41 80|68 0|69 0|12 50|22 50|16 0|26 0|36 1"
+                              "|17 0|27 0|37 0|45 80|90 0|";
+    const std::string other = "0 VIEWPORT|8 0|67 1|10 50|20 40|40 60|41 40|68 0|69 0|12 5|22 2|16 0|26 0|36 1"
+                              "|17 0|27 0|37 0|45 10|90 ";
+    const Rendering paper({.entities = line + sheet + other + "0"}, {}, Scene::paperSpace);
+    EXPECT_TRUE(paper.isInk(50, 20)) << "the frame of the viewport";
+    EXPECT_TRUE(paper.isInk(50, 40)) << "what it shows";
+    EXPECT_FALSE(paper.isInk(50, 90)) << "the sheet itself has no frame";
+    const Rendering off({.entities = line + sheet + other + "131072"}, {}, Scene::paperSpace);
+    EXPECT_TRUE(off.isInk(50, 20));
+    EXPECT_FALSE(off.isInk(50, 40)) << "it is off";
+}
+
 TEST(EntityDrawing, ViewportsAreSeenThroughWhenTheirFramesAreHidden)
 {
     const std::string viewport = "0 VIEWPORT|8 FRAMES|67 1|10 50|20 40|40 60|41 40|68 2|69 2|12 5|22 2|16 0|26 0|36 1"

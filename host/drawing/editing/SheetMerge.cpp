@@ -2,6 +2,7 @@
 
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/geometry/ViewportView.h"
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
@@ -25,7 +26,7 @@ constexpr int viewTargetCode = 17;
 /// The first viewport of a sheet stands for the sheet itself.
 bool isSheetItself(const Drawing &drawing, RecordId entity)
 {
-    return drawing.isType(entity, "VIEWPORT") && drawing.tags(entity).integer(69) == 1;
+    return drawing.isType(entity, "VIEWPORT") && isSheetItself(drawing.tags(entity));
 }
 
 /// Where the groups of the layout itself begin, behind those of the page.

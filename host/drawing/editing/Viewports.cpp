@@ -68,14 +68,14 @@ std::vector<RecordId> allViewports(const Drawing &drawing, const LayoutTab &layo
 std::vector<RecordId> viewportsOf(const Drawing &drawing, const LayoutTab &layout)
 {
     std::vector<RecordId> found = allViewports(drawing, layout);
-    std::erase_if(found, [&](RecordId id) { return drawing.tags(id).integer(viewportNumberCode) == 1; });
+    std::erase_if(found, [&](RecordId id) { return isSheetItself(drawing.tags(id)); });
     return found;
 }
 
 RecordId sheetViewport(const Drawing &drawing, const LayoutTab &layout)
 {
     for (const RecordId id : allViewports(drawing, layout))
-        if (drawing.tags(id).integer(viewportNumberCode) == 1)
+        if (isSheetItself(drawing.tags(id)))
             return id;
     return noRecord;
 }

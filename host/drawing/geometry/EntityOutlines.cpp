@@ -1,6 +1,7 @@
 #include "host/drawing/geometry/EntityOutlines.h"
 
 #include "host/drawing/curves/EntityCurve.h"
+#include "host/drawing/geometry/ViewportView.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/solids/SolidModel.h"
@@ -133,8 +134,7 @@ void outlineOfModel(OutlineSink &sink, const TagList &tags)
 /// The viewport that stands for the sheet itself is not seen, and as large as the window it was last looked at in.
 void outlineOfViewport(OutlineSink &sink, const TagList &tags)
 {
-    constexpr qint64 sheetItself = 1;
-    if (tags.integer(69) == sheetItself)
+    if (isSheetItself(tags))
         return;
     const Vec3 center = tags.point(10);
     const double x = tags.real(40) / 2.0;

@@ -2,6 +2,7 @@
 
 #include "host/drawing/geometry/OwnedCopies.h"
 #include "host/drawing/geometry/TransformFields.h"
+#include "host/drawing/geometry/ViewportView.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/PolylineFlags.h"
@@ -180,8 +181,8 @@ RecordId copyEntity(Drawing &drawing, RecordId entity)
     if (!drawing.isAlive(entity) || drawing.kind(entity) != RecordKind::Entity)
         return noRecord;
     const bool isViewport = drawing.isType(entity, "VIEWPORT");
-    if (isViewport && drawing.tags(entity).integer(69) == 1)
-        return noRecord; // the sheet itself
+    if (isViewport && isSheetItself(drawing.tags(entity)))
+        return noRecord;
     const JournalGroup group(drawing.journal(), {});
     const RecordId copy = copyInto(drawing, entity, drawing.parent(entity), drawing.owner(entity));
     if (isViewport)

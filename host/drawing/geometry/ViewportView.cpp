@@ -94,4 +94,20 @@ ViewportView readViewport(const TagList &tags)
     return view;
 }
 
+bool isSheetItself(const TagList &viewport)
+{
+    const qint64 number = viewport.integer(69);
+    if (number != 0)
+        return number == 1;
+    const ViewportView view = readViewport(viewport);
+    return viewport.find(69) && view.viewHeight == view.height && view.middle.xy() == view.center.xy();
+}
+
+bool isViewportOn(const TagList &viewport)
+{
+    constexpr qint64 isOff = 0x20000;
+    const bool hasNumber = viewport.integer(69, 1) != 0;
+    return (!hasNumber || viewport.integer(68, 1) != 0) && (viewport.integer(90) & isOff) == 0;
+}
+
 } // namespace host::drawing

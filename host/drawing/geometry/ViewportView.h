@@ -29,4 +29,10 @@ struct ViewportView
 
 ViewportView readViewport(const TagList &tags);
 
+/// Whether the viewport stands for the sheet itself: number 1. In layouts that were not shown yet all numbers are 0;
+/// there it is the one that shows the sheet in its own size.
+bool isSheetItself(const TagList &viewport);
+/// Whether it shows something.
+bool isViewportOn(const TagList &viewport);
+
 } // namespace host::drawing

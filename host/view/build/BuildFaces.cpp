@@ -40,12 +40,6 @@ std::vector<int> frozenLayers(const BuildContext &context, const drawing::Viewpo
     return layers;
 }
 
-bool isViewportOn(const TagList &tags)
-{
-    constexpr qint64 isOff = 0x20000;
-    return tags.integer(68, 1) != 0 && (tags.integer(90) & isOff) == 0;
-}
-
 void addModelView(BuildContext &context, const drawing::ViewportView &view, const Path &frame)
 {
     auto reference = std::make_unique<Reference>();
@@ -94,8 +88,7 @@ bool build3dFace(BuildContext &context, const TagList &tags)
 
 bool buildViewport(BuildContext &context, const TagList &tags)
 {
-    constexpr qint64 sheetItself = 1;
-    if (tags.integer(69) == sheetItself) {
+    if (drawing::isSheetItself(tags)) {
         context.display.isHidden = true;
         return true;
     }
@@ -106,7 +99,7 @@ bool buildViewport(BuildContext &context, const TagList &tags)
                         center + Vec3{-half.x, half.y, 0.0}};
     if (!areUsable(frame))
         return false;
-    if (isViewportOn(tags) && view.viewHeight > 0.0)
+    if (drawing::isViewportOn(tags) && view.viewHeight > 0.0)
         addModelView(context, view, frame);
     context.addStroke(closed(frame));
     return true;
