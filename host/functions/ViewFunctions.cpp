@@ -1,5 +1,6 @@
 // Layouts, viewports and views.
 
+#include "host/drawing/editing/Viewports.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/drawing/records/Tables.h"
 #include "host/functions/FunctionGroups.h"
@@ -61,7 +62,7 @@ Value sheetViewports(const Document &document)
         const Vec2 centre = tags.point(10).xy();
         const double halfWidth = tags.real(40) / 2.0;
         const double halfHeight = tags.real(41) / 2.0;
-        all.append(viewportValue(static_cast<std::int32_t>(tags.integer(69)),
+        all.append(viewportValue(static_cast<std::int32_t>(drawing::viewportNumber(drawing, entity)),
                                  {centre.x - halfWidth, centre.y - halfHeight},
                                  {centre.x + halfWidth, centre.y + halfHeight}));
     }

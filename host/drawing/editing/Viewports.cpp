@@ -82,10 +82,25 @@ RecordId sheetViewport(const Drawing &drawing, const LayoutTab &layout)
 
 qint64 freeViewportNumber(const Drawing &drawing, const LayoutTab &layout)
 {
-    qint64 highest = 1;
-    for (const RecordId id : viewportsOf(drawing, layout))
+    const std::vector<RecordId> viewports = viewportsOf(drawing, layout);
+    auto highest = qint64(viewports.size()) + 1;
+    for (const RecordId id : viewports)
         highest = std::max(highest, drawing.tags(id).integer(viewportNumberCode));
     return highest + 1;
+}
+
+qint64 viewportNumber(const Drawing &drawing, RecordId viewport)
+{
+    const TagList tags = drawing.tags(viewport);
+    if (const qint64 told = tags.integer(viewportNumberCode); told != 0)
+        return told;
+    qint64 number = isSheetItself(tags) ? 1 : 2;
+    for (const RecordId other : drawing.children(drawing.parent(viewport))) {
+        if (other == viewport || number == 1)
+            break;
+        number += drawing.isType(other, "VIEWPORT") && !isSheetItself(drawing.tags(other)) ? 1 : 0;
+    }
+    return number;
 }
 
 FieldList viewportFields(const Drawing &drawing, const Box &frame, const ViewportAim &aim, qint64 number)
@@ -144,7 +159,7 @@ void aimViewport(Drawing &drawing, RecordId viewport, const ViewportAim &aim)
 bool hasViewportFlag(const Drawing &drawing, RecordId viewport, ViewportFlag flag)
 {
     const TagList tags = drawing.tags(viewport);
-    return (tags.integer(flagsCode) & flag) != 0 || (flag == SwitchedOffViewport && tags.integer(statusCode, 1) == 0);
+    return (tags.integer(flagsCode) & flag) != 0 || (flag == SwitchedOffViewport && !isViewportOn(tags));
 }
 
 bool setViewportFlag(Drawing &drawing, RecordId viewport, ViewportFlag flag, bool isOn)

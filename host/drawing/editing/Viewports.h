@@ -32,6 +32,9 @@ std::vector<RecordId> viewportsOf(const Drawing &drawing, const LayoutTab &layou
 RecordId sheetViewport(const Drawing &drawing, const LayoutTab &layout);
 /// The first number that no viewport of the layout has; 1 is the sheet itself.
 qint64 freeViewportNumber(const Drawing &drawing, const LayoutTab &layout);
+/// What it is called by on its sheet, 1 for the sheet itself: the number that it tells, or its place where it tells
+/// none, which costs a pass over what stands in front of it.
+qint64 viewportNumber(const Drawing &drawing, RecordId viewport);
 
 /// The groups of a new VIEWPORT as the drawing's version writes them.
 FieldList viewportFields(const Drawing &drawing, const Box &frame, const ViewportAim &aim, qint64 number);

@@ -31,23 +31,21 @@ int currentViewportNumber(const drawing::Drawing &drawing)
 {
     constexpr int sheetItself = 1;
     constexpr int firstOther = 2;
-    constexpr int numberCode = 69;
     const drawing::RecordId viewport = currentViewport(drawing);
     if (isValid(viewport))
-        return int(drawing.tags(viewport).integer(numberCode, firstOther));
+        return int(drawing::viewportNumber(drawing, viewport));
     return isModelTab(drawing) ? firstOther : sheetItself;
 }
 
 std::optional<drawing::RecordId> viewportNumbered(const drawing::Drawing &drawing, int number)
 {
-    constexpr int numberCode = 69;
     if (number == (isModelTab(drawing) ? 2 : 1))
         return drawing::noRecord;
     const auto sheet = drawing::findLayout(drawing, currentLayout(drawing));
     if (isModelTab(drawing) || !sheet)
         return std::nullopt;
     for (const drawing::RecordId viewport : drawing::viewportsOf(drawing, *sheet))
-        if (drawing.tags(viewport).integer(numberCode) == number &&
+        if (drawing::viewportNumber(drawing, viewport) == number &&
             !drawing::hasViewportFlag(drawing, viewport, drawing::SwitchedOffViewport))
             return viewport;
     return std::nullopt;

@@ -22,5 +22,9 @@
 (setvar "CVPORT" 3)(list (getvar "CVPORT") (getvar "CTAB")) ;= (3 "Layout1")
 (setvar "CVPORT" 2)(command "LINE" '(0 0) '(1 1) "")(cdr (assoc 410 (entget (entlast)))) ;= "Model"
 (setvar "CVPORT" 1)(command "LINE" '(0 0) '(1 1) "")(cdr (assoc 410 (entget (entlast)))) ;= "Layout1"
+; Without numbers, as in layouts that no program has shown yet, their places count
+(defun unnumbered (e / d) (setq d (entget e))(entmod (subst '(69 . 0) (assoc 69 d) (subst '(68 . 0) (assoc 68 d) d))))
+(mapcar '(lambda (i) (unnumbered (ssname (ssget "X" '((0 . "VIEWPORT"))) i))) '(0 1))(list (mapcar 'car (vports)) (setvar "CVPORT" 3) (getvar "CVPORT")) ;= ((1 2 3) 3 3)
+(setvar "CVPORT" 1) ;= 1
 (setvar "CVPORT" 9) ;= error: variable setting rejected: "CVPORT" 9 (out of range) in (SETVAR)
 (setvar "CTAB" "Model")(setvar "CVPORT" 2) ;= 2

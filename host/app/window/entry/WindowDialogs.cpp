@@ -126,8 +126,8 @@ bool WindowDialogs::changeSpace(DrawingCanvas &canvas, const QPointF &at)
             pointed = viewport;
     }
     if (isValid(pointed) && pointed != current)
-        m_services.run(
-            u"(progn (command \"_.MSPACE\") (setvar \"CVPORT\" %1) (princ))"_s.arg(drawing.tags(pointed).integer(69)));
+        m_services.run(u"(progn (command \"_.MSPACE\") (setvar \"CVPORT\" %1) (princ))"_s.arg(
+            drawing::viewportNumber(drawing, pointed)));
     else if (!isValid(pointed) && isValid(current))
         m_services.run(u"_.PSPACE"_s);
     return true;
