@@ -133,14 +133,6 @@ const char *unitName(qint64 number)
 
 } // namespace
 
-QString findDrawingFile(CommandContext &context, const QString &typed)
-{
-    for (const QString &ending : {u""_s, u".dxf"_s, u".dwg"_s})
-        if (const QString path = context.document().findFile(typed + ending); !path.isEmpty())
-            return path;
-    return {};
-}
-
 QString keptPath(CommandContext &context, const QString &path)
 {
     const qint64 kind = context.document().variables().integer(u"REFPATHTYPE");

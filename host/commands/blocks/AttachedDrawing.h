@@ -13,9 +13,6 @@ class CommandContext;
 
 // Files that external references of the drawing stand for.
 
-/// A drawing's file as the user names it, with or without its ending; empty when there is none.
-QString findDrawingFile(CommandContext &context, const QString &typed);
-
 /// The path that a new reference to the file keeps, as REFPATHTYPE says. A drawing without a place of its own has full
 /// ones.
 QString keptPath(CommandContext &context, const QString &path);

@@ -63,10 +63,7 @@ Wanted wantedBlock(CommandContext &context, QString answer)
     }
     const QString name = namesFile ? answer.section(u'=', 0, 0).trimmed() : QFileInfo(answer).completeBaseName();
     const QString file = namesFile ? answer.section(u'=', 1).trimmed() : answer;
-    QString path = context.document().findFile(file);
-    for (const QString &ending : {u".dxf"_s, u".dwg"_s})
-        if (path.isEmpty())
-            path = context.document().findFile(file + ending);
+    const QString path = findDrawingFile(context.document(), file);
     wanted.isNew = !isValid(blocks.find(name));
     const QString problem =
         path.isEmpty() ? Commands::tr("Cannot find block or file \"%1\".").arg(file) : readBlock(context, name, path);

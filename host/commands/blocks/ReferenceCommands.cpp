@@ -3,6 +3,7 @@
 #include "host/commands/blocks/AttachedDrawing.h"
 #include "host/commands/blocks/InsertPlacement.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/InputFile.h"
 #include "host/drawing/dwg/DwgText.h"
 #include "host/drawing/editing/ExternalReferences.h"
 #include "host/drawing/editing/RenameLayer.h"
@@ -78,7 +79,7 @@ RecordId referenceTo(CommandContext &context, const QString &typed, int flags)
 {
     drawing::Blocks &blocks = context.drawing().blocks();
     const NamedFile named = namedFile(typed);
-    const QString path = findDrawingFile(context, named.file);
+    const QString path = findDrawingFile(context.document(), named.file);
     if (const QString obstacle = obstacleToReference(context, named, path); !obstacle.isEmpty()) {
         context.fail(obstacle);
         return drawing::noRecord;
@@ -196,7 +197,7 @@ Dialogue<bool> changePaths(CommandContext &context)
         if (!path.hasValue())
             continue;
         setPath(context.drawing(), block.record, path.text.trimmed());
-        if (const QString file = findDrawingFile(context, path.text.trimmed()); !file.isEmpty())
+        if (const QString file = findDrawingFile(context.document(), path.text.trimmed()); !file.isEmpty())
             context.document().allowReading(file);
         if (!block.isUnloaded)
             loadReference(context, context.drawing().blocks().read(block.record));

@@ -1,6 +1,7 @@
 #include "host/commands/common/InputFile.h"
 
 #include "host/drawing/dwg/ReadingNotes.h"
+#include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,20 @@ drawing::ReadResult openSource(CommandContext &context, const QString &path)
     if (source && source.drawing->readingNotes().hasFaults())
         context.print(u"\n%1: %2."_s.arg(path, source.drawing->readingNotes().summary()));
     return source;
+}
+
+QStringList drawingFileNames(const QString &typed)
+{
+    // Other systems find files in any case; names in capitals come from there.
+    return {typed, typed + u".dxf"_s, typed + u".dwg"_s, typed + u".DXF"_s, typed + u".DWG"_s};
+}
+
+QString findDrawingFile(const Document &document, const QString &typed)
+{
+    for (const QString &name : typed.isEmpty() ? QStringList() : drawingFileNames(typed))
+        if (const QString path = document.findFile(name); !path.isEmpty())
+            return path;
+    return {};
 }
 
 } // namespace host::kernel

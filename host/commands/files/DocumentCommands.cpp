@@ -2,6 +2,7 @@
 // part of.
 
 #include "host/commands/Commands.h"
+#include "host/commands/common/InputFile.h"
 #include "host/commands/files/SaveDialogue.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/languages/Texts.h"
@@ -35,10 +36,10 @@ bool asksInWindow(CommandContext &context)
 QString drawingNamed(Document &document, const QString &typed, const QString &furtherFolder = {})
 {
     const QString name = fileName(typed);
-    const QString file = QFileInfo(name).suffix().isEmpty() ? name + u".dxf"_s : name;
-    QString path = document.findFile(file);
-    if (path.isEmpty() && !furtherFolder.isEmpty() && QFileInfo::exists(QDir(furtherFolder).filePath(file)))
-        path = QDir(furtherFolder).filePath(file);
+    QString path = findDrawingFile(document, name);
+    for (const QString &file : furtherFolder.isEmpty() ? QStringList() : drawingFileNames(name))
+        if (path.isEmpty() && QFileInfo(QDir(furtherFolder), file).isFile())
+            path = QDir(furtherFolder).filePath(file);
     return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
 }
 

@@ -64,7 +64,7 @@ Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
     const PromptReply file = co_await context.text(Commands::tr("Enter template file name: "));
     if (!file.hasValue())
         co_return false;
-    const QString path = context.document().findFile(withDrawingEnding(file.text));
+    const QString path = findDrawingFile(context.document(), file.text.trimmed());
     if (path.isEmpty()) {
         context.fail(Commands::tr("Cannot find file \"%1\".").arg(file.text.trimmed()));
         co_return false;

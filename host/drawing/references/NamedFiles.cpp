@@ -25,7 +25,7 @@ QStringList externalNames(const QString &path)
     if (bare.endsWith(".dwg"_L1, Qt::CaseInsensitive))
         names += {whole.chopped(4) + ".dxf"_L1, bare.chopped(4) + ".dxf"_L1};
     else if (!bare.contains(u'.'))
-        names += {whole + ".dxf"_L1, bare + ".dxf"_L1};
+        names += {whole + ".dxf"_L1, bare + ".dxf"_L1, whole + ".dwg"_L1, bare + ".dwg"_L1};
     return names;
 }
 

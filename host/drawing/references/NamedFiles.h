@@ -29,8 +29,8 @@ struct ReadableFiles
 /// while the drawing lives.
 FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable = {});
 
-/// Names to look for a drawing by that another one refers to as `path`: as it stands, by its name alone, and as a
-/// drawing of this program where the name is another form's or has no ending. In this order.
+/// Names to look for a drawing by that another one refers to as `path`: as it stands, by its name alone, and as a DXF
+/// file where it is a DWG file's or has no ending, as a DWG file where it has none. In this order.
 QStringList externalNames(const QString &path);
 
 /// Looks nearest to a drawing that is seen in another one first, then as `ofHost` does. Valid while the drawing lives.
