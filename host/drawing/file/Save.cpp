@@ -102,6 +102,14 @@ SaveResult writeFile(const Drawing &drawing, const QString &path)
 
 } // namespace
 
+QString whyNoName(const QString &path)
+{
+    const bool isDwg = path.trimmed().endsWith(u".dwg", Qt::CaseInsensitive);
+    return isDwg ? DrawingTexts::tr("%1: this program cannot write DWG files; give the file a name ending in .dxf")
+                       .arg(path)
+                 : QString();
+}
+
 SaveResult save(Drawing &drawing, const QString &path)
 {
     SaveResult result = saveCopy(drawing, path);
@@ -114,10 +122,8 @@ SaveResult save(Drawing &drawing, const QString &path)
 
 SaveResult saveCopy(const Drawing &drawing, const QString &path)
 {
-    if (path.trimmed().endsWith(u".dwg", Qt::CaseInsensitive))
-        return {
-            DrawingTexts::tr("%1: this program cannot write DWG files; give the file a name ending in .dxf").arg(path)};
-    return writeFile(drawing, path);
+    const QString refused = whyNoName(path);
+    return refused.isEmpty() ? writeFile(drawing, path) : SaveResult{refused};
 }
 
 SaveResult saveSymbolCopy(const Drawing &drawing, const QString &path)

@@ -12,9 +12,13 @@ struct SaveResult
     explicit operator bool() const { return error.isEmpty(); }
 };
 
+/// Why no drawing is written under this name: it ends in .dwg, and this program cannot write that format. Empty when
+/// one may be.
+QString whyNoName(const QString &path);
+
 /// Writes the drawing to `path` and makes that its path. The file is written beside, read back and compared, and only
 /// then takes the place of the old one: on failure the old file is as it was and the drawing still counts as modified.
-/// Names ending in .dwg are refused: this program cannot write that format.
+/// Names ending in .dwg are refused, see whyNoName().
 SaveResult save(Drawing &drawing, const QString &path);
 
 /// As save(), but leaves the drawing's path and modified state alone.

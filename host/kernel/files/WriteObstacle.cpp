@@ -1,6 +1,7 @@
 #include "host/kernel/files/WriteObstacle.h"
 
 #include "host/drawing/dwg/DwgText.h"
+#include "host/drawing/file/Save.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/languages/Texts.h"
@@ -18,6 +19,9 @@ using Kind = WriteObstacle::Kind;
 /// Against writing a document's own file.
 std::optional<WriteObstacle> ownObstacle(const QString &path, DrawingClaim &claim)
 {
+    // Nothing that somebody overrules would help.
+    if (const QString refused = drawing::whyNoName(path); !refused.isEmpty())
+        return {{Kind::Dwg, refused}};
     if (claim.isReadOnly())
         return {{Kind::ReadOnly, Kernel::tr("%1 was opened for reading only; save it under another name.").arg(path)}};
     if (const std::optional<LockHolder> holder = claim.successor())

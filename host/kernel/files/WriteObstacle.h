@@ -21,7 +21,7 @@ struct WriteObstacle
         OpenElsewhere, ///< open in another process
         ReadOnly,      ///< the drawing's own, which was opened for reading only
         Damaged,       ///< the file that the drawing was recovered from
-        Dwg,           ///< a DWG file, the drawing's own or another: what is written is no DWG
+        Dwg,           ///< a DWG file, or the drawing's own name is that of one: what is written is no DWG
         Changed,       ///< the drawing's own; something else has written it since
         Gone           ///< the drawing's own; nothing is there any more
     };
