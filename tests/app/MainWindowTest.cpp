@@ -949,6 +949,8 @@ TEST_F(MainWindowTest, DwgFilesOpenWithWhatCouldNotBeReadAboveThem)
     EXPECT_EQ(read(u"hurt.dwg"_s), file);
     EXPECT_EQ(read(u"saved.dxf"_s).count("\nCIRCLE\n"), 2);
     EXPECT_EQ(window->document()->title(), u"saved.dxf"_s);
+    EXPECT_FALSE(bar->isVisible()) << "the new file has all that is in the drawing";
+    EXPECT_FALSE(window->document()->drawing().isFromDwg());
     EXPECT_FALSE(window->document()->isModified());
 }
 

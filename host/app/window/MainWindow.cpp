@@ -267,6 +267,8 @@ void MainWindow::addTab(kernel::Document *document)
     connect(document, &kernel::Document::printed, m_commandLine, &CommandLine::print);
     connect(document, &kernel::Document::regenerated, &m_reportTimer, qOverload<>(&QTimer::start));
     connect(document, &kernel::Document::titleChanged, this, [this, document] { updateTitle(*document); });
+    // The form of its file is in the status bar.
+    connect(document, &kernel::Document::titleChanged, &m_reportTimer, qOverload<>(&QTimer::start));
     connect(document, &kernel::Document::runEnded, this, [this, document] {
         updateTitle(*document);
         updateState();

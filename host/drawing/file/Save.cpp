@@ -115,6 +115,7 @@ SaveResult save(Drawing &drawing, const QString &path)
     SaveResult result = saveCopy(drawing, path);
     if (result) {
         drawing.setPath(path);
+        drawing.leaveDwg();
         drawing.journal().markSaved();
     }
     return result;

@@ -139,6 +139,12 @@ const ReadingNotes &Drawing::readingNotes() const
     return d->notes;
 }
 
+void Drawing::leaveDwg()
+{
+    d->isFromDwg = false;
+    d->notes = {};
+}
+
 const BinaryOrigin &Drawing::binaryOrigin() const
 {
     return d->binary;

@@ -94,10 +94,12 @@ public:
     void setForm(FileForm form);
     /// Whether the file that was read is a binary one.
     bool isBinaryFile() const;
-    /// Whether the file that was read is a DWG file. The drawing is written as DXF, so not in its place.
+    /// Whether the drawing's file is a DWG file. The drawing is written as DXF, so not in its place.
     bool isFromDwg() const;
-    /// What of the file that was read is not in the drawing, or is doubtful.
+    /// What of its file is not in the drawing, or is doubtful.
     const ReadingNotes &readingNotes() const;
+    /// Another file is the drawing's own, which holds all of it as DXF.
+    void leaveDwg();
     /// What a drawing in the binary form is written with: how its file was, or how such files of its version are.
     const BinaryOrigin &binaryOrigin() const;
     /// What the file was read as: its text. Views into it are what KeptTag::place counts from.

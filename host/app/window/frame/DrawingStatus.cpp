@@ -78,7 +78,9 @@ void DrawingStatus::showTexts(const QString &coordinates, const QString &status)
 void DrawingStatus::show(const drawing::Drawing &drawing, const view::RenderReport &report)
 {
     const bool isModel = drawing.header().integer(u"$TILEMODE", 1) != 0;
-    m_drawing->setText((drawing.isFromDwg() ? tr("DWG %1, %2") : tr("DXF %1, %2"))
+    // A new drawing has no file yet, whatever its template is.
+    const bool isDwg = drawing.isFromDwg() && !drawing.path().isEmpty();
+    m_drawing->setText((isDwg ? tr("DWG %1, %2") : tr("DXF %1, %2"))
                            .arg(versionName(drawing.version()), isModel ? tr("model space") : tr("paper space")));
     const QString text = report.isWhole() ? tr("All entities drawn") : report.missing();
     const int width = std::max(m_notDrawn->window()->width() / 2, longestReport);

@@ -22,6 +22,15 @@ void LossBar::follow(kernel::Document *document)
     if (notes.hasFaults())
         say(u"%1: %2."_s.arg(files::visibleText(document->title()), notes.summary()), notes.faults(mostLines));
     setVisible(notes.hasFaults());
+    if (document)
+        connect(document, &kernel::Document::titleChanged, this, &LossBar::leaveWhenSaved);
+}
+
+/// What was saved under another name is all in that file.
+void LossBar::leaveWhenSaved()
+{
+    if (document() && !document()->drawing().readingNotes().hasFaults())
+        hide();
 }
 
 } // namespace host::app

@@ -5,8 +5,8 @@
 namespace host::app {
 
 /// Says how many objects of the active drawing's file could not be read, or that it is damaged; its list has which
-/// objects, and why. Closed, it stays
-/// closed until another drawing is shown.
+/// objects, and why. Closed, it stays closed until another drawing is shown; it goes when the drawing gets another
+/// file.
 class LossBar final : public NoticeBar
 {
     Q_OBJECT
@@ -16,6 +16,9 @@ public:
 
 protected:
     void follow(kernel::Document *document) override;
+
+private:
+    void leaveWhenSaved();
 };
 
 } // namespace host::app
