@@ -6477,6 +6477,18 @@ Revisionswolke fertiggestellt.</translation>
         <source>%1 objects and %2 parts of the file could not be read</source>
         <translation>%1 Objekte und %2 Teile der Datei konnten nicht gelesen werden</translation>
     </message>
+    <message>
+        <source>object %1</source>
+        <translation>Objekt %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>%1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 may be wrong: %2</source>
+        <translation>%1 ist vielleicht falsch: %2</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

@@ -6477,6 +6477,18 @@ Nube de revisión terminada.</translation>
         <source>%1 objects and %2 parts of the file could not be read</source>
         <translation>no se pudieron leer %1 objetos y %2 partes del archivo</translation>
     </message>
+    <message>
+        <source>object %1</source>
+        <translation>objeto %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>no se pudo leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 may be wrong: %2</source>
+        <translation>%1 puede ser incorrecto: %2</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

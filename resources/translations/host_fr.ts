@@ -6477,6 +6477,18 @@ Nuage de révision terminé.</translation>
         <source>%1 objects and %2 parts of the file could not be read</source>
         <translation>%1 objets et %2 parties du fichier n&apos;ont pas pu être lus</translation>
     </message>
+    <message>
+        <source>object %1</source>
+        <translation>objet %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>%1 n&apos;a pas pu être lu : %2</translation>
+    </message>
+    <message>
+        <source>%1 may be wrong: %2</source>
+        <translation>%1 est peut-être faux : %2</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

@@ -6477,6 +6477,18 @@ Fumetto di revisione completato.</translation>
         <source>%1 objects and %2 parts of the file could not be read</source>
         <translation>%1 oggetti e %2 parti del file non sono stati letti</translation>
     </message>
+    <message>
+        <source>object %1</source>
+        <translation>oggetto %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>%1 non è stato letto: %2</translation>
+    </message>
+    <message>
+        <source>%1 may be wrong: %2</source>
+        <translation>%1 può essere sbagliato: %2</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

@@ -931,7 +931,7 @@ TEST_F(MainWindowTest, DwgFilesOpenWithWhatCouldNotBeReadAboveThem)
     EXPECT_FALSE(list->isVisible());
     bar->findChild<QAbstractButton *>(u"lossDetails"_s)->click();
     ASSERT_TRUE(list->isVisible() && list->count() == 1);
-    EXPECT_EQ(list->item(0)->text(), u"CIRCLE 42: The object ends before its values do."_s);
+    EXPECT_EQ(list->item(0)->text(), u"CIRCLE 42 could not be read: The object ends before its values do."_s);
     window->workbench().documents().create();
     EXPECT_FALSE(bar->isVisible());
 

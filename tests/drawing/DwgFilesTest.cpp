@@ -94,7 +94,7 @@ TEST(DwgFiles, TellWhatCouldNotBeRead)
     ASSERT_TRUE(read);
     const ReadingNotes &notes = read.drawing->readingNotes();
     EXPECT_EQ(notes.summary(), u"1 object could not be read"_s);
-    EXPECT_EQ(notes.faults(10), QStringList{u"CIRCLE 43: The object ends before its values do."_s});
+    EXPECT_EQ(notes.faults(10), QStringList{u"CIRCLE 43 could not be read: The object ends before its values do."_s});
     EXPECT_EQ(notes.faults(0), QStringList{u"and 1 more"_s});
     EXPECT_EQ(read.drawing->entities().all().size(), std::size_t(circleCount));
 
@@ -130,12 +130,18 @@ TEST(DwgFiles, CountPartsOfTheFileApart)
 TEST(DwgFiles, ListWhatIsLostInFront)
 {
     using Kind = ReadingNote::Kind;
-    ReadingNotes notes{.lostObjects = 1, .lostParts = 0, .doubtfulCount = 2, .list = {}};
-    for (const auto &[kind, text] : {std::pair(Kind::Doubtful, u"a"_s), std::pair(Kind::Kept, u"b"_s),
-                                     std::pair(Kind::Doubtful, u"c"_s), std::pair(Kind::Lost, u"d"_s)})
-        notes.list.push_back({.kind = kind, .type = {}, .handle = {}, .text = text});
-    EXPECT_EQ(notes.faults(2), (QStringList{u"d"_s, u"a"_s, u"and 1 more"_s}));
-    EXPECT_EQ(notes.faults(3), (QStringList{u"d"_s, u"a"_s, u"c"_s}));
+    const ReadingNotes notes{.lostObjects = 1,
+                             .lostParts = 1,
+                             .doubtfulCount = 2,
+                             .list = {{Kind::Doubtful, u"LINE"_s, u"2A"_s, u"a"_s},
+                                      {Kind::Kept, {}, {}, u"b"_s},
+                                      {Kind::Doubtful, {}, {}, u"c"_s},
+                                      {Kind::Lost, {}, u"2B"_s, u"d"_s},
+                                      {Kind::Lost, {}, {}, u"e"_s}}};
+    const QString object = u"object 2B could not be read: d"_s;
+    const QString line = u"LINE 2A may be wrong: a"_s;
+    EXPECT_EQ(notes.faults(3), (QStringList{object, u"e"_s, line, u"and 1 more"_s}));
+    EXPECT_EQ(notes.faults(4), (QStringList{object, u"e"_s, line, u"c"_s}));
 }
 
 TEST(DwgFiles, HaveRegionsWithTheirModels)

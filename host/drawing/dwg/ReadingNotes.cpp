@@ -31,8 +31,19 @@ qsizetype formOf(qsizetype count)
 
 QString ReadingNote::message() const
 {
-    const QString object = QStringList{type, handle}.join(u' ').trimmed();
-    return object.isEmpty() ? text : u"%1: %2"_s.arg(object, text);
+    if (type.isEmpty() && handle.isEmpty())
+        return text;
+    const QString object =
+        type.isEmpty() ? DrawingTexts::tr("object %1").arg(handle) : QStringList{type, handle}.join(u' ').trimmed();
+    switch (kind) {
+    case Kind::Lost:
+        return DrawingTexts::tr("%1 could not be read: %2").arg(object, text);
+    case Kind::Doubtful:
+        return DrawingTexts::tr("%1 may be wrong: %2").arg(object, text);
+    case Kind::Kept:
+        break;
+    }
+    return u"%1: %2"_s.arg(object, text);
 }
 
 QString ReadingNotes::summary() const

@@ -22,7 +22,8 @@ struct ReadingNote
     QString handle; ///< of the object, in digits of base 16; empty where there is none
     QString text;   ///< a sentence, not translated
 
-    /// "LINE 2A: The object ends before its values do."
+    /// "LINE 2A could not be read: The object ends before its values do.", in the language of the program but for the
+    /// reason.
     QString message() const;
 };
 
