@@ -314,6 +314,7 @@ TEST(DwgContainers, TablesAreFoundWithoutTheHeader)
              {circle, std::uint64_t(MadeHandles::LayerZero), std::uint64_t(MadeHandles::NamedObjects)})
             EXPECT_EQ(read.record(handle), whole.record(handle));
         EXPECT_LT(read.drawing.text.find("CIRCLE"), read.drawing.text.find("OBJECTS"));
+        EXPECT_EQ(read.variable("$CLAYER") + read.variable("$DIMSCALE"), "") << "what is not there is not 0";
     }
 }
 

@@ -110,4 +110,25 @@ TEST(DwgContents, StylesThatTheHeaderDoesNotNameAreTheUsualOnes)
     EXPECT_EQ(read.lastPart(styles), "281 1|3 Realistic|350 A3|3 Wireframe|350 A0|") << "entries that name nothing";
 }
 
+TEST(DwgContents, NamesOfWhatIsLostAreThoseOfEveryDrawing)
+{
+    constexpr double lost = 0xbad;
+    for (const Release release : {Release::R14, Release::R2000, Release::R2007, Release::R2018}) {
+        MadeDrawing drawing(release);
+        drawing.setHeader("$CLAYER", lost);
+        drawing.setHeader("$CELTYPE", lost);
+        const std::uint64_t circle = drawing.addEntity(0x12, [](ObjectWriter &o) {
+            o.point({1.0, 2.0, 0.0});
+            o.real(5.0);
+            o.thickness(0.0);
+            o.extrusion();
+        });
+        drawing.head(circle).layer = 0xbad;
+        const ReadBack read = readBack(drawing);
+        EXPECT_NE(read.record(circle).find("|8 0|"), std::string::npos) << read.record(circle);
+        EXPECT_EQ(read.variable("$CLAYER") + read.variable("$CELTYPE"), "") << "they have their usual values";
+        EXPECT_EQ(read.variable("$TEXTSTYLE"), "9 $TEXTSTYLE|7 Standard|");
+    }
+}
+
 } // namespace host::dwg::test

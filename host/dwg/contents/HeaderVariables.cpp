@@ -41,7 +41,8 @@ public:
             if (!row.name.empty())
                 f.note(9, row.name);
             read(row);
-            if (row.name.empty() && row.kind != HeaderKind::Bits)
+            // What stands behind the end would be nothing but zeros.
+            if (f.values().hasFailed() || (row.name.empty() && row.kind != HeaderKind::Bits))
                 f.drop(begin);
         }
         return m_header;
@@ -107,7 +108,7 @@ private:
             return;
         case HeaderKind::Name:
         case HeaderKind::BlockName:
-            f.note(row.code, f.nameOf(reference()));
+            noteName(row.code);
             return;
         case HeaderKind::Reference:
             f.noteHandle(row.code, reference());
@@ -115,6 +116,16 @@ private:
         default:
             *root(row.kind) = reference();
         }
+    }
+
+    /// Nothing where what it names is lost, so that the variable has its usual value.
+    void noteName(int code)
+    {
+        const std::uint64_t handle = reference();
+        const std::string_view name = f.nameOf(handle);
+        const bool isRead = !(f.since(Release::R2007) ? f.references() : f.values()).hasFailed();
+        if (isRead && (handle == 0 || !name.empty()))
+            f.note(code, name);
     }
 
     /// Before R2007 references stand among the values.

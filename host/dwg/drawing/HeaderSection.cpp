@@ -25,6 +25,7 @@ HeaderValues notedValues(const Fields &fields)
         else if (value)
             *value += tagLines(code, text);
     });
+    std::erase_if(values, [](const auto &one) { return one.second.empty(); });
     return values;
 }
 

@@ -124,11 +124,16 @@ void readEntityReferences(Fields &fields, EntityValues &entity)
 /// Notes it, and reads the references that are left: to a material, a plot style and visual styles.
 void noteEntity(Fields &fields, const EntityValues &entity)
 {
-    fields.note(8, fields.nameOf(entity.layer));
-    if (entity.linetype != 0)
-        fields.note(6, entity.linetype == 1   ? std::string_view("ByBlock")
-                       : entity.linetype == 2 ? std::string_view("Continuous")
-                                              : fields.nameOf(entity.linetypeReference));
+    // Of a layer that is lost an entity comes to the one that every drawing has, and gets the linetype of its layer for
+    // one that is lost.
+    const std::string_view layer = fields.nameOf(entity.layer);
+    fields.note(8, layer.empty() ? std::string_view("0") : layer);
+    const std::string_view linetype = entity.linetype == 1   ? std::string_view("ByBlock")
+                                      : entity.linetype == 2 ? std::string_view("Continuous")
+                                      : entity.linetype == 0 ? std::string_view()
+                                                             : fields.nameOf(entity.linetypeReference);
+    if (!linetype.empty())
+        fields.note(6, linetype);
     if (entity.material == fromReference)
         fields.reference(347);
     else if (entity.material == 1 || entity.material == 2)

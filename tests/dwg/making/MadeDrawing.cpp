@@ -145,7 +145,8 @@ void writeHeaderValue(ObjectWriter &o, const HeaderRow &row, double number)
     default:
         // Before R2007 references stand among the values.
         BitWriter &out = o.since(Release::R2007) ? o.references() : o.values();
-        return out.handle(HandleReference::HardPointer, rootOf(row));
+        return out.handle(HandleReference::HardPointer,
+                          number != 0.0 ? static_cast<std::uint64_t>(number) : rootOf(row));
     }
 }
 

@@ -88,6 +88,7 @@ public:
     /// The handle of the object that is added next.
     std::uint64_t nextHandle() const { return m_nextHandle; }
     /// The number of a header variable by its name ("$LTSCALE"), in the unit of the file; all others are 0 and empty.
+    /// Of one that names something, the handle of that.
     void setHeader(const std::string &name, double number) { m_header[name] = number; }
 
     MadeParts parts() const;
