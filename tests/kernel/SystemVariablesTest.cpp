@@ -1,5 +1,6 @@
 #include "host/kernel/variables/SystemVariables.h"
 
+#include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/documents/UndoSteps.h"
 #include "host/kernel/platform/Editor.h"
 #include "host/kernel/variables/VariableHelp.h"
@@ -38,6 +39,13 @@ TEST_F(Bench, aProgramSavesWhatItSetInTheSameRun)
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     EXPECT_TRUE(saved.readAll().contains("AcDbWipeoutVariables"));
     EXPECT_FALSE(document().isModified());
+}
+
+TEST_F(Bench, aCurrentLinetypeWithoutANameIsTheLayers)
+{
+    document().drawing().header().set(u"$CELTYPE", host::drawing::Field{6, QString()});
+    EXPECT_EQ(lisp("(command \"LINE\" '(0 0) '(1 0) \"\")(list (getvar \"CELTYPE\") (assoc 6 (entget (entlast))))"),
+              "(\"ByLayer\" nil)");
 }
 
 TEST_F(Bench, modulesReadAndSetVariablesThroughTheDatabase)

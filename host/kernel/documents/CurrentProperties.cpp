@@ -36,7 +36,9 @@ FieldList withCurrentProperties(const drawing::Drawing &drawing, FieldList field
     const drawing::HeaderVariables &header = drawing.header();
     const auto addText = [&](int code, QStringView variable, const QString &usual) {
         const QString value = header.text(variable, usual);
-        if (!drawing::findField(fields, code) && value.compare(usual, Qt::CaseInsensitive) != 0)
+        // Damaged files may have no name there.
+        const bool isUsual = value.isEmpty() || value.compare(usual, Qt::CaseInsensitive) == 0;
+        if (!drawing::findField(fields, code) && !isUsual)
             fields.push_back({code, value});
     };
     addText(8, u"$CLAYER", QString());

@@ -64,7 +64,7 @@ std::optional<VariableValue> usableLinetype(const Document &document, const Vari
 VariableValue currentLinetype(const Document &document)
 {
     const QString name = document.drawing().header().text(u"$CELTYPE", u"ByLayer"_s);
-    const QString logical = logicalName(name);
+    const QString logical = logicalName(name.isEmpty() ? u"ByLayer"_s : name);
     return logical.isEmpty() ? name : logical;
 }
 
