@@ -1,12 +1,17 @@
 // Reading DWG files to the text that the drawing store takes: beside what the store does with this text, and at a size
-// and ten times that, where the times must grow as the sizes do.
+// and ten times that, where the times must grow as the sizes do. Where ORTAKIT_CORPUS names the folder of drawings made
+// elsewhere, those in it and in the folder dwg beside it are read as well.
 
 #include "bench/MadeDwg.h"
 #include "bench/Ratios.h"
 #include "host/drawing/records/Drawing.h"
 #include "host/dwg/drawing/DrawingText.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 using namespace bench;
 
@@ -20,18 +25,35 @@ host::dwg::DrawingText textOf(const FileBytes &file)
     return host::dwg::readDrawing({file.data(), file.size()});
 }
 
-void readFile(benchmark::State &state, const FileBytes &file)
+/// Drawings made elsewhere may have what is told as a problem.
+enum class Origin
+{
+    Here,
+    Elsewhere
+};
+
+void readFrom(benchmark::State &state, const FileBytes &file, Origin origin)
 {
     std::size_t textSize = 0;
     for (auto _ : state) {
         const host::dwg::DrawingText read = textOf(file);
-        if (read.text.empty() || !read.problems.list().empty())
-            return state.SkipWithError("the drawing made here cannot be read");
+        if (read.text.empty() || (origin == Origin::Here && !read.problems.list().empty()))
+            return state.SkipWithError("the drawing cannot be read");
         textSize = read.text.size();
         benchmark::DoNotOptimize(read.text.data());
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(file.size()));
     state.counters["text/file"] = static_cast<double>(textSize) / static_cast<double>(file.size());
+}
+
+void readFile(benchmark::State &state, const FileBytes &file)
+{
+    readFrom(state, file, Origin::Here);
+}
+
+void readForeign(benchmark::State &state, const FileBytes &file)
+{
+    readFrom(state, file, Origin::Elsewhere);
 }
 
 /// What the store does with the text: it finds its records and tags.
@@ -80,6 +102,34 @@ void add(const std::string &name, void (*run)(benchmark::State &, const FileByte
     benchmark::RegisterBenchmark(name.c_str(), run, file)->Unit(benchmark::kMillisecond);
 }
 
+/// Drawings made elsewhere that are large enough for their time to be more than that of looking for it.
+std::vector<std::filesystem::path> foreignDrawings()
+{
+    constexpr std::uintmax_t smallest = 50'000;
+    std::vector<std::filesystem::path> files;
+    const char *const corpus = std::getenv("ORTAKIT_CORPUS");
+    if (!corpus)
+        return files;
+    for (const std::filesystem::path &folder :
+         {std::filesystem::path(corpus), std::filesystem::path(corpus) / "../dwg"}) {
+        std::error_code isMissing;
+        for (const auto &entry : std::filesystem::directory_iterator(folder, isMissing)) {
+            if (entry.path().extension() == ".dwg" && entry.file_size() >= smallest)
+                files.push_back(entry.path());
+        }
+    }
+    std::ranges::sort(files, {}, [](const std::filesystem::path &file) { return file.filename(); });
+    return files;
+}
+
+FileBytes bytesOf(const std::filesystem::path &file)
+{
+    FileBytes bytes(std::filesystem::file_size(file));
+    std::ifstream(file, std::ios::binary)
+        .read(reinterpret_cast<char *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    return bytes;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -100,5 +150,7 @@ int main(int argc, char **argv)
         ratios.push_back({large, name + "/index", 0});
         ratios.push_back({large, name + "/copy", 0});
     }
+    for (const std::filesystem::path &file : foreignDrawings())
+        add(file.filename().string(), readForeign, bytesOf(file));
     return runWithRatios(argc, argv, ratios);
 }
