@@ -40,6 +40,9 @@ MapContent readRuns(Bytes map, std::size_t most, Problems &problems)
 {
     MapContent content;
     content.isWhole = !map.empty();
+    // Room that is not used costs nothing, while entries that move have twice their room for a time.
+    constexpr std::size_t smallestEntry = 2;
+    content.entries.reserve(std::min(most, map.size() / smallestEntry));
     std::size_t at = 0;
     while (map.size() - at >= 4) {
         // The length counts itself, not the checksum behind it.
