@@ -123,7 +123,12 @@ void BitReader::appendRawBytes(std::size_t count, std::string &bytes)
     bytes.resize(begin + count);
     char *to = bytes.data() + begin;
     // The last byte has its end in one byte more, which is there, as the bits are.
-    for (std::size_t i = 0; i < count; ++i)
+    std::size_t i = 0;
+    for (; i + sizeof(std::uint64_t) <= count; i += sizeof(std::uint64_t)) {
+        const std::uint64_t last = from[i + sizeof last] >> (8 - shift);
+        storeWord(loadWord(from + i) << shift | last, to + i);
+    }
+    for (; i < count; ++i)
         to[i] = static_cast<char>(from[i] << shift | from[i + 1] >> (8 - shift));
 }
 

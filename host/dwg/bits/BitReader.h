@@ -225,17 +225,26 @@ private:
             return aheadInFewBytes();
         // The last word is read from where it is whole, so that nothing behind the bytes is touched.
         const std::size_t begin = std::min(m_at / 8, m_size - wordSize);
-        std::uint64_t word = 0;
-        std::memcpy(&word, m_bytes + begin, wordSize);
-        if constexpr (std::endian::native == std::endian::little)
-            word = turnedAround(word);
-        return word << ((m_at - begin * 8) & 63);
+        return loadWord(m_bytes + begin) << ((m_at - begin * 8) & 63);
     }
     std::uint64_t aheadInFewBytes() const;
     /// One of more bytes than are looked at at a time, or one that is cut off.
     HandleReference longHandle();
     /// Units of UTF-16 up to the first ones that are not ASCII, of `units` that are there: how many.
     std::size_t takeAscii(std::size_t units, std::string &text);
+
+    /// Eight bytes as a word, the first one the highest.
+    static std::uint64_t loadWord(const std::uint8_t *bytes)
+    {
+        std::uint64_t word = 0;
+        std::memcpy(&word, bytes, sizeof word);
+        return std::endian::native == std::endian::little ? turnedAround(word) : word;
+    }
+    static void storeWord(std::uint64_t word, char *to)
+    {
+        word = std::endian::native == std::endian::little ? turnedAround(word) : word;
+        std::memcpy(to, &word, sizeof word);
+    }
 
     /// The bytes of a word in the other order: one instruction. A loop over the bytes would not become one
     /// with GCC 12.

@@ -5,14 +5,14 @@
 #include "host/dwg/drawing/Sections.h"
 
 #include <algorithm>
-#include <map>
+#include <unordered_map>
 
 namespace host::dwg {
 
 namespace {
 
 /// The tags of the variables by their names, as lines.
-using HeaderValues = std::map<std::string, std::string, std::less<>>;
+using HeaderValues = std::unordered_map<std::string, std::string>;
 
 /// What readHeader() noted.
 HeaderValues notedValues(const Fields &fields)
@@ -169,7 +169,7 @@ void writeHeaderSection(DrawingParts &parts)
     addCompanions(parts, values);
     records.beginSection("HEADER");
     for (const std::string_view name : headerOrder()) {
-        if (const auto found = values.find(name); found != values.end()) {
+        if (const auto found = values.find(std::string(name)); found != values.end()) {
             records.addTag(9, name);
             records.addLines(found->second);
         }

@@ -15,6 +15,14 @@ namespace {
 
 constexpr char hexDigits[] = "0123456789ABCDEF";
 
+/// The two digits of each byte.
+constexpr auto hexPairs = [] {
+    std::array<std::array<char, 2>, 256> pairs{};
+    for (std::size_t byte = 0; byte < pairs.size(); ++byte)
+        pairs[byte] = {hexDigits[byte >> 4], hexDigits[byte & 0xf]};
+    return pairs;
+}();
+
 /// The line of a group code, which has three places at least. Eight bytes, which are copied at one go with the size.
 struct CodeLine
 {
@@ -200,9 +208,8 @@ void TagLines::addBytes(int code, std::string_view bytes)
 {
     char *to = begin(code, 2 * bytes.size());
     for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        *to++ = hexDigits[byte >> 4];
-        *to++ = hexDigits[byte & 0xf];
+        std::memcpy(to, hexPairs[static_cast<unsigned char>(c)].data(), 2);
+        to += 2;
     }
     finish(code, to);
 }
