@@ -9,7 +9,7 @@ namespace host::dwg {
 namespace {
 
 /// How many bytes go into a checksum at a time: each has a table that carries it over those behind it.
-constexpr std::size_t slices = 8;
+constexpr std::size_t slices = 16;
 
 template <typename Number>
 using ChecksumTables = std::array<std::array<Number, 256>, slices>;
@@ -37,17 +37,27 @@ constexpr auto tables16 = checksumTables<std::uint16_t, 0xa001>();
 constexpr auto tables32 = checksumTables<std::uint32_t, 0xedb88320>();
 constexpr auto tables64 = checksumTables<std::uint64_t, 0x95ac9329ac4bc9b5>();
 
+/// The checksum behind `Count` more bytes, which are as many as it has or more.
+template <std::size_t Count, typename Number>
+Number sumBehind(const std::uint8_t *bytes, Number sum, const ChecksumTables<Number> &tables)
+{
+    Number next = 0;
+    for (std::size_t i = 0; i < Count; ++i) {
+        const std::size_t carried = i < sizeof sum ? sum >> 8 * i & 0xff : 0;
+        next = static_cast<Number>(next ^ tables[Count - 1 - i][bytes[i] ^ carried]);
+    }
+    return next;
+}
+
 template <typename Number>
 Number checksumOf(Bytes bytes, Number sum, const ChecksumTables<Number> &tables)
 {
-    for (; bytes.size() >= slices; bytes = bytes.subspan(slices)) {
-        Number next = 0;
-        for (std::size_t i = 0; i < slices; ++i) {
-            const std::size_t carried = i < sizeof sum ? sum >> 8 * i & 0xff : 0;
-            next = static_cast<Number>(next ^ tables[slices - 1 - i][bytes[i] ^ carried]);
-        }
-        sum = next;
-    }
+    constexpr std::size_t few = 4;
+    for (; bytes.size() >= slices; bytes = bytes.subspan(slices))
+        sum = sumBehind<slices>(bytes.data(), sum, tables);
+    // Most objects are short, so that what is left matters.
+    for (; sizeof sum <= few && bytes.size() >= few; bytes = bytes.subspan(few))
+        sum = sumBehind<few>(bytes.data(), sum, tables);
     for (const std::uint8_t byte : bytes)
         sum = static_cast<Number>(sum >> 8 ^ tables[0][(sum ^ byte) & 0xff]);
     return sum;
