@@ -1,3 +1,4 @@
+#include "host/dwg/drawing/AdriftEntities.h"
 #include "host/dwg/drawing/Sections.h"
 
 #include <algorithm>
@@ -28,8 +29,7 @@ bool mayStand(int type, bool isInList)
     constexpr int firstVertex = 0x0a;
     constexpr int lastVertex = 0x0e;
     const bool isVertex = type >= firstVertex && type <= lastVertex;
-    const bool isMark = type == blockBegin.type || type == blockEnd.type || type == listEnd.type;
-    return isInList ? isVertex || type == attribute : !isVertex && !isMark;
+    return isInList ? isVertex || type == attribute : !isVertex && !isMark(type);
 }
 
 /// Notes what stands for a mark that cannot be read, and tells it. `handle` is 0 where another object has it.
@@ -64,17 +64,50 @@ class OwnedEntities
 public:
     explicit OwnedEntities(DrawingParts &parts) : m_objects(parts.objects), m_records(parts.records) {}
 
-    void write(const Relations &relations)
+    void write(const DrawingBlock &block)
     {
-        for (const std::uint64_t handle : relations.owned)
-            writeEntity(handle);
-        std::uint64_t next = relations.firstOwned;
-        // An object is taken once, so a chain that bites its tail ends there.
-        while (next != 0 && writeEntity(next) && m_lastHandle != relations.lastOwned)
-            next = m_nextHandle;
+        write(block.relations);
+        if (block.isCut)
+            writeAdrift(block.relations);
     }
 
 private:
+    void write(const Relations &relations)
+    {
+        const std::size_t before = damageCount();
+        for (const std::uint64_t handle : relations.owned)
+            writeEntity(handle);
+        m_lastHandle = 0;
+        writeChain(relations.firstOwned, relations.lastOwned);
+        // A chain does not come to its end behind an entity that is damaged, or it comes there past others.
+        if (m_lastHandle != relations.lastOwned || damageCount() != before)
+            writeAdrift(relations);
+    }
+
+    /// `last` is 0 where the end is not known.
+    void writeChain(std::uint64_t next, std::uint64_t last)
+    {
+        // An object is taken once, so a chain that bites its tail ends there.
+        while (next != 0 && writeEntity(next) && m_lastHandle != last)
+            next = m_nextHandle;
+    }
+
+    /// What tells this owner and was not come to; in the order of the chains that are left.
+    void writeAdrift(const Relations &relations)
+    {
+        if (!m_adrift)
+            m_adrift.emplace(m_objects, m_records.spaces());
+        for (const std::uint64_t handle : m_adrift->of(relations.handle))
+            writeChain(handle, relations.lastOwned);
+    }
+
+    /// How much is wrong with what was read so far.
+    std::size_t damageCount() const
+    {
+        const Problems &problems = m_objects.problems();
+        return problems.lostCount() + problems.count(Problem::Kind::Warning);
+    }
+
     /// False when nothing more follows from there.
     bool writeEntity(std::uint64_t handle)
     {
@@ -106,6 +139,7 @@ private:
 
     DrawingObjects &m_objects;
     RecordWriter &m_records;
+    std::optional<AdriftEntities> m_adrift; ///< from where it is asked for
     int m_depth = 0;
     std::uint64_t m_lastHandle = 0; ///< of the entity that was written last
     std::uint64_t m_nextHandle = 0; ///< of the one behind it, before R2004
@@ -150,7 +184,7 @@ void writeBlocksSection(DrawingParts &parts)
         writeBlockBegin(parts, block);
         const std::uint64_t handle = block.relations.handle;
         if (handle != spaces.model && handle != spaces.paper)
-            entities.write(block.relations);
+            entities.write(block);
         writeEnd(parts.objects, parts.records, blockEnd, block.relations);
     }
     parts.records.endSection();
@@ -165,7 +199,7 @@ void writeEntitiesSection(DrawingParts &parts)
         const auto found =
             std::ranges::find(parts.blocks, space, [](const DrawingBlock &block) { return block.relations.handle; });
         if (found != parts.blocks.end())
-            entities.write(found->relations);
+            entities.write(*found);
     }
     parts.records.endSection();
 }

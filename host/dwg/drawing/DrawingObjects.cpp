@@ -1,5 +1,7 @@
 #include "host/dwg/drawing/DrawingObjects.h"
 
+#include "host/dwg/objects/ProxyTypes.h"
+
 #include <algorithm>
 
 namespace host::dwg {
@@ -82,6 +84,14 @@ const ObjectType *DrawingObjects::typeOf(int number) const
 const ObjectClass *DrawingObjects::classOf(int number) const
 {
     return knownClass(number).one;
+}
+
+bool DrawingObjects::isEntity(int number) const
+{
+    if (const ObjectType *type = typeOf(number))
+        return type->isEntity;
+    const ObjectClass *one = classOf(number);
+    return one ? one->isEntity : number == proxyEntityType;
 }
 
 std::string DrawingObjects::typeNameOf(int number) const

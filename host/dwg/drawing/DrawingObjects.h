@@ -41,6 +41,8 @@ public:
     const ObjectType *typeOf(int number) const;
     /// The class with this number; null when the number is none of a class.
     const ObjectClass *classOf(int number) const;
+    /// Whether objects of the type are entities, which stand in blocks.
+    bool isEntity(int number) const;
     /// What problems call the type.
     std::string typeNameOf(int number) const;
 

@@ -3,6 +3,7 @@
 #include "host/dwg/objects/TableTypes.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace host::dwg {
 
@@ -45,6 +46,19 @@ bool isRoot(const Root &root, const ObjectFrame &frame, const std::string &name,
     return !fields.hasFailed() && fields.relations().owner == 0;
 }
 
+/// What stands for a root that is lost has its handle, or one that is free where nothing tells it.
+void giveHandles(const DrawingObjects &objects, const std::vector<Root> &lost, Header &header)
+{
+    if (!lost.empty() && !objects.map().empty())
+        header.firstFree = std::max(header.firstFree, objects.map().back().handle + 1);
+    std::unordered_set<std::uint64_t> given;
+    for (const Root &root : lost) {
+        std::uint64_t &handle = header.*root.handle;
+        if (handle == 0 || objects.peek(handle) || !given.insert(handle).second)
+            handle = header.firstFree++;
+    }
+}
+
 } // namespace
 
 void findRoots(DrawingObjects &objects, const Names &names, Fields &fields, Header &header)
@@ -71,6 +85,7 @@ void findRoots(DrawingObjects &objects, const Names &names, Fields &fields, Head
         header.*found->handle = entry.handle;
         missing.erase(found);
     }
+    giveHandles(objects, missing, header);
     if (missing.size() < before)
         objects.problems().warn("The header does not tell where the tables are; they were looked for.");
 }

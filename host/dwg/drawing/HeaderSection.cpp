@@ -137,13 +137,13 @@ std::vector<ObjectClass> classesOf(const DrawingParts &parts)
     return classes;
 }
 
-/// Records that files do not have get the first handles that are free.
-void addCompanions(DrawingParts &parts, HeaderValues &values)
+/// Records that files do not have get the first handles that are free. `told` is what the file has for that one.
+void addCompanions(DrawingParts &parts, std::uint64_t told, HeaderValues &values)
 {
     const std::uint64_t firstFree = parts.header.firstFree;
     parts.records.setCompanions({parts.objects, parts.header.namedObjects, firstFree, parts.records.fields()});
     const Companions &companions = parts.records.companions();
-    if (companions.isEmpty())
+    if (companions.isEmpty() && firstFree == told)
         return;
     Fields &fields = parts.records.fields();
     fields.start({}, {}, {});
@@ -160,13 +160,14 @@ void writeHeaderSection(DrawingParts &parts)
     RecordWriter &records = parts.records;
     parts.header = readHeader(parts.container, records.fields(), parts.objects.problems());
     HeaderValues values = notedValues(records.fields());
+    const std::uint64_t firstFree = parts.header.firstFree;
     findRoots(parts.objects, records.names(), records.fields(), parts.header);
     records.setSpaces({parts.header.modelSpace, parts.header.paperSpace});
     addDerivedValues(parts.container.release, values);
     addFileValues(parts.container, values, parts.objects.problems());
     addSummary(parts.container, records.fields(), values);
     addUsualStyles(parts, values);
-    addCompanions(parts, values);
+    addCompanions(parts, firstFree, values);
     records.beginSection("HEADER");
     for (const std::string_view name : headerOrder()) {
         if (const auto found = values.find(std::string(name)); found != values.end()) {

@@ -10,6 +10,7 @@ struct DrawingBlock
 {
     BlockHead head;
     Relations relations;
+    bool isCut = false; ///< not all that it has is among the relations; what is missing tells its owner
 };
 
 /// A drawing on its way to the text form: what one section leaves for those behind it.

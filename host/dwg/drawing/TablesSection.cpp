@@ -7,16 +7,46 @@ namespace host::dwg {
 
 namespace {
 
+/// What a table says to have.
+struct TableContents
+{
+    std::vector<std::uint64_t> entries;
+    std::vector<std::uint64_t> further; ///< what the table of dimension styles has beside
+    bool isRead = false;
+};
+
+/// All entries of the table's type, by rising handle.
+std::vector<std::uint64_t> entriesByType(const DrawingObjects &objects, int tableType)
+{
+    std::vector<std::uint64_t> entries;
+    for (const MapEntry &entry : objects.map()) {
+        if (const auto frame = DrawingObjects::peek(entry); frame && frame->type == tableType + 1)
+            entries.push_back(entry.handle);
+    }
+    return entries;
+}
+
+/// Starts the fields with the table. One that cannot be read has all entries of its type.
+TableContents readTable(DrawingParts &parts, int type, std::uint64_t handle)
+{
+    TableContents table;
+    const auto frame = parts.objects.peek(handle);
+    if (frame && frame->type == type) {
+        Fields &fields = parts.records.fields();
+        parts.records.readHead(*frame, "TABLE", false);
+        table.entries = readTableEntries(fields, type, table.further);
+        table.isRead = !fields.hasFailed() && fields.relations().handle == handle;
+    }
+    if (!table.isRead)
+        table = {entriesByType(parts.objects, type), {}, false};
+    return table;
+}
+
 /// The table of blocks alone, in front of what refers to blocks by their names.
 void readBlockNames(DrawingParts &parts)
 {
-    RecordWriter &records = parts.records;
-    const auto frame = parts.objects.peek(parts.header.blockTable);
-    if (!frame || frame->type != blockTableType)
-        return;
-    records.readHead(*frame, "TABLE", false);
-    std::vector<std::uint64_t> further;
-    numberBlocks(readTableEntries(records.fields(), frame->type, further), records.spaces(), records.names());
+    const TableContents table = readTable(parts, blockTableType, parts.header.blockTable);
+    numberBlocks(table.entries, parts.records.spaces(), parts.records.names());
 }
 
 /// The number of entries. Blocks and linetypes have two more than are counted.
@@ -38,52 +68,131 @@ void noteTable(Fields &fields, int tableType, std::size_t count, const std::vect
         fields.noteHandle(340, style);
 }
 
-void writeBlockRecord(DrawingParts &parts, std::uint64_t handle)
+bool isSpace(const DrawingParts &parts, std::uint64_t block)
 {
-    RecordWriter &records = parts.records;
-    Fields &fields = records.fields();
-    const auto frame = parts.objects.take(handle);
-    if (!frame)
-        return;
-    if (frame->type != blockType)
-        return parts.objects.lose(handle, frame->type, "The table of blocks refers to it.");
-    records.readHead(*frame, "BLOCK_RECORD", false);
-    if (!records.checkHandle(handle, frame->type))
-        return;
-    BlockHead block = readBlockHead(fields);
-    block.entry.name = fields.nameOf(handle);
-    noteBlockRecord(fields, block);
-    block.preview = {};
-    if (fields.hasFailed())
-        parts.objects.lose(handle, frame->type, "The object ends before its values do.");
-    records.writeNoted("BLOCK_RECORD");
-    parts.blocks.push_back({std::move(block), fields.relations()});
+    const ObjectHead::Spaces &spaces = parts.records.spaces();
+    return block != 0 && (block == spaces.model || block == spaces.paper);
 }
 
-void writeTable(DrawingParts &parts, const char *name, std::uint64_t handle)
+/// What the block is called, for entities as well. The two spaces have their names whatever can be read of them.
+std::string nameOfBlock(DrawingParts &parts, std::uint64_t handle)
 {
-    RecordWriter &records = parts.records;
+    std::string &name = parts.records.names()[handle];
+    const bool isModel = handle == parts.records.spaces().model;
+    if (isSpace(parts, handle) && !(isModel ? isModelSpace(name) : isPaperSpace(name)))
+        name = isModel ? "*Model_Space" : "*Paper_Space";
+    return name;
+}
+
+/// Stands for the block of a space that cannot be read: what it has tells it as its owner.
+void writeSpaceStandIn(DrawingParts &parts, std::uint64_t handle)
+{
+    Fields &fields = parts.records.fields();
+    parts.objects.problems().add(
+        {Problem::Kind::Warning, "It cannot be read; one like it was made.", "BLOCK_RECORD", handle});
+    BlockHead block;
+    block.entry.name = nameOfBlock(parts, handle);
+    fields.start({}, {}, {});
+    fields.noteHandle(5, handle);
+    if (fields.since(Release::R2000))
+        fields.noteHandle(330, parts.header.blockTable);
+    noteBlockRecord(fields, block);
+    parts.records.writeFields("BLOCK_RECORD");
+    Relations relations;
+    relations.handle = handle;
+    parts.blocks.push_back({std::move(block), std::move(relations), true});
+}
+
+/// Takes the block and starts the fields with it.
+bool takeBlock(DrawingParts &parts, std::uint64_t handle)
+{
     const auto frame = parts.objects.take(handle);
     if (!frame)
-        return parts.objects.problems().lose(std::string("The table ") + name + " is missing.");
-    records.readHead(*frame, "TABLE", false);
-    std::vector<std::uint64_t> further;
-    std::vector<std::uint64_t> entries = readTableEntries(records.fields(), frame->type, further);
-    // Later releases count what was erased as well.
-    if (records.fields().until(Release::R14))
-        std::erase_if(entries, [&parts](std::uint64_t entry) { return !parts.objects.peek(entry); });
-    constexpr std::ptrdiff_t always = 2; // they stand in front here
-    if (frame->type == linetypeTableType && entries.size() >= always)
-        records.fields().setLinetypes({entries.begin() + always, entries.end()});
-    noteTable(records.fields(), frame->type, entries.size(), further);
-    records.writeNoted("TABLE", tagLines(2, name));
-    for (const std::uint64_t entry : entries) {
-        if (frame->type == blockTableType)
-            writeBlockRecord(parts, entry);
-        else
-            records.writeObject(entry);
+        return false;
+    if (frame->type != blockType) {
+        parts.objects.lose(handle, frame->type, "The table of blocks refers to it.");
+        return false;
     }
-    records.beginRecord("ENDTAB");
+    parts.records.readHead(*frame, "BLOCK_RECORD", false);
+    return parts.records.checkHandle(handle, frame->type);
+}
+
+void writeBlockRecord(DrawingParts &parts, std::uint64_t handle)
+{
+    Fields &fields = parts.records.fields();
+    if (!takeBlock(parts, handle)) {
+        if (isSpace(parts, handle))
+            writeSpaceStandIn(parts, handle);
+        return;
+    }
+    BlockHead block = readBlockHead(fields);
+    block.entry.name = nameOfBlock(parts, handle);
+    noteBlockRecord(fields, block);
+    block.preview = {};
+    const bool isCut = fields.hasFailed();
+    if (isCut)
+        parts.objects.lose(handle, blockType, "The object ends before its values do.");
+    parts.records.writeNoted("BLOCK_RECORD");
+    parts.blocks.push_back({std::move(block), fields.relations(), isCut});
+}
+
+/// The two spaces are among the blocks, in front where the table lacks them.
+void addSpaces(const DrawingParts &parts, std::vector<std::uint64_t> &blocks)
+{
+    const ObjectHead::Spaces &spaces = parts.records.spaces();
+    for (const std::uint64_t space : {spaces.paper, spaces.model}) {
+        if (std::ranges::find(blocks, space) == blocks.end())
+            blocks.insert(blocks.begin(), space);
+    }
+}
+
+/// Begins a table that cannot be read with what stands for it.
+void noteTableStandIn(DrawingParts &parts, const char *name, std::uint64_t handle)
+{
+    parts.objects.problems().lose(std::string("The table ") + name + " is missing.");
+    Fields &fields = parts.records.fields();
+    fields.start({}, {}, {});
+    fields.noteHandle(5, handle);
+    if (fields.since(Release::R2000))
+        fields.noteHandle(330, 0);
+}
+
+void writeEntries(DrawingParts &parts, int tableType, const std::vector<std::uint64_t> &entries)
+{
+    for (const std::uint64_t entry : entries) {
+        const auto frame = tableType != blockTableType ? parts.objects.peek(entry) : std::nullopt;
+        if (tableType == blockTableType)
+            writeBlockRecord(parts, entry);
+        else if (!frame || frame->type == tableType + 1)
+            parts.records.writeObject(entry);
+    }
+}
+
+void writeTable(DrawingParts &parts, const char *name, int type, std::uint64_t handle)
+{
+    Fields &fields = parts.records.fields();
+    // Its checksum is looked at, and that it was not taken for something else.
+    const auto seen = parts.objects.peek(handle);
+    const bool isTaken = seen && seen->type == type && parts.objects.take(handle);
+    TableContents table = readTable(parts, type, isTaken ? handle : 0);
+    if (!table.isRead)
+        noteTableStandIn(parts, name, handle);
+    // Later releases count what was erased as well.
+    if (fields.until(Release::R14))
+        std::erase_if(table.entries,
+                      [&parts](std::uint64_t entry) { return !parts.objects.peek(entry) && !isSpace(parts, entry); });
+    if (type == blockTableType)
+        addSpaces(parts, table.entries);
+    constexpr std::ptrdiff_t always = 2; // they stand in front here
+    if (type == linetypeTableType && table.entries.size() >= always)
+        fields.setLinetypes({table.entries.begin() + always, table.entries.end()});
+    noteTable(fields, type, table.entries.size(), table.further);
+    if (table.isRead)
+        parts.records.writeNoted("TABLE", tagLines(2, name));
+    else
+        parts.records.writeFields("TABLE", tagLines(2, name));
+    writeEntries(parts, type, table.entries);
+    parts.records.beginRecord("ENDTAB");
 }
 
 } // namespace
@@ -93,15 +202,15 @@ void writeTablesSection(DrawingParts &parts)
     const Header &header = parts.header;
     readBlockNames(parts);
     parts.records.beginSection("TABLES");
-    writeTable(parts, "VPORT", header.viewportTable);
-    writeTable(parts, "LTYPE", header.linetypeTable);
-    writeTable(parts, "LAYER", header.layerTable);
-    writeTable(parts, "STYLE", header.styleTable);
-    writeTable(parts, "VIEW", header.viewTable);
-    writeTable(parts, "UCS", header.systemTable);
-    writeTable(parts, "APPID", header.applicationTable);
-    writeTable(parts, "DIMSTYLE", header.dimensionStyleTable);
-    writeTable(parts, "BLOCK_RECORD", header.blockTable);
+    writeTable(parts, "VPORT", viewportTableType, header.viewportTable);
+    writeTable(parts, "LTYPE", linetypeTableType, header.linetypeTable);
+    writeTable(parts, "LAYER", layerTableType, header.layerTable);
+    writeTable(parts, "STYLE", styleTableType, header.styleTable);
+    writeTable(parts, "VIEW", viewTableType, header.viewTable);
+    writeTable(parts, "UCS", coordinateSystemTableType, header.systemTable);
+    writeTable(parts, "APPID", applicationTableType, header.applicationTable);
+    writeTable(parts, "DIMSTYLE", dimensionStyleTableType, header.dimensionStyleTable);
+    writeTable(parts, "BLOCK_RECORD", blockTableType, header.blockTable);
     parts.records.endSection();
 }
 

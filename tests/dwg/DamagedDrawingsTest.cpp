@@ -1,0 +1,158 @@
+// Drawings that lack what others are found by: what is left of them stands at its place.
+
+#include "tests/dwg/making/ReadBack.h"
+#include "tests/dwg/making/TypeNumbers.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace host::dwg::test {
+
+namespace {
+
+void writeUnitCircle(ObjectWriter &o)
+{
+    o.point({});
+    o.real(1.0);
+    o.thickness(0.0);
+    o.extrusion();
+}
+
+/// Circles 40 to 44 in model space, a layer 45, an object 46 that a dictionary names.
+MadeDrawing fiveCircles(Release release)
+{
+    MadeDrawing drawing(release);
+    for (int i = 0; i < 5; ++i)
+        drawing.addEntity(CircleType, writeUnitCircle);
+    drawing.addEntry(LayerType, layerWriter("WALL", true, [](ObjectWriter &o) { o.colour(1); }));
+    drawing.addObject("DICTIONARYVAR", "NAMED", [](ObjectWriter &o) {
+        o.small(0);
+        o.text("value");
+    });
+    return drawing;
+}
+
+/// A whole circle of model space, which its block does not have.
+FileBytes circleWith(Release release, std::uint64_t handle)
+{
+    MadeHead head;
+    head.type = CircleType;
+    head.isEntity = true;
+    head.handle = handle;
+    head.space = 2;
+    ObjectWriter o(release, head);
+    writeUnitCircle(o);
+    return o.bytes();
+}
+
+FileBytes without(const MadeDrawing &drawing, std::uint64_t handle)
+{
+    MadeParts parts = drawing.parts();
+    EXPECT_EQ(std::erase_if(parts.objects, [handle](const auto &object) { return object.handle == handle; }), 1u);
+    return madeFile(parts);
+}
+
+/// The records of a section or a table: " TYPE" where they have no handle, " 1A" with one.
+std::string recordsOf(const ReadBack &read, const std::string &container)
+{
+    const auto found = std::ranges::find(read.tree.nodes, container, &TextNode::name);
+    std::string records;
+    for (const std::size_t child : found->children) {
+        const TextNode &node = read.tree.nodes[child];
+        records += ' ' + (node.handle.empty() ? node.type() : node.handle);
+    }
+    return records;
+}
+
+/// What comes out of the circles, the table of layers, that of blocks, and the other objects.
+struct DamageRow
+{
+    const char *name;
+    std::uint64_t gone;
+    const char *entities = " 40 41 42 43 44";
+    const char *layers = " 10 45";
+    const char *blocks = " 1D 1A";
+    const char *objects = " C 46";
+    std::size_t lost = 1; ///< that are told
+    std::size_t made = 0; ///< like what cannot be read
+};
+
+const DamageRow damageRows[] = {
+    {.name = "the first entity", .gone = 0x40, .entities = " 41 42 43 44", .lost = 0},
+    {.name = "an entity", .gone = 0x42, .entities = " 40 41 43 44", .lost = 0},
+    {.name = "the last entity", .gone = 0x44, .entities = " 40 41 42 43", .lost = 0},
+    {.name = "the table of layers", .gone = MadeHandles::LayerTable},
+    {.name = "the table of blocks", .gone = MadeHandles::BlockTable, .blocks = " 1A 1D"},
+    // With it go its BLOCK and ENDBLK, for which others are made.
+    {.name = "model space", .gone = MadeHandles::ModelSpace, .lost = 2, .made = 3},
+    {.name = "paper space", .gone = MadeHandles::PaperSpace, .lost = 2, .made = 3},
+    {.name = "the dictionary of named objects", .gone = MadeHandles::NamedObjects},
+};
+
+class DamagedDrawings : public testing::TestWithParam<Release>
+{
+};
+
+} // namespace
+
+TEST_P(DamagedDrawings, HaveWhatIsLeftAtItsPlace)
+{
+    for (const DamageRow &row : damageRows) {
+        const ReadBack read = readBack(without(fiveCircles(GetParam()), row.gone));
+        EXPECT_EQ(recordsOf(read, "ENTITIES"), row.entities) << row.name;
+        EXPECT_EQ(recordsOf(read, "LAYER"), row.layers) << row.name;
+        EXPECT_EQ(recordsOf(read, "BLOCK_RECORD"), row.blocks) << row.name;
+        EXPECT_EQ(recordsOf(read, "OBJECTS"), row.objects) << row.name;
+        EXPECT_EQ(read.drawing.problems.lostCount(), row.lost) << row.name << '\n' << read.problems();
+        EXPECT_EQ(read.drawing.problems.count(Problem::Kind::Warning), row.made) << row.name << '\n' << read.problems();
+    }
+}
+
+TEST_P(DamagedDrawings, HaveEntitiesPastWhichAReferenceLeads)
+{
+    if (GetParam() > Release::R2000)
+        return; // there they are no chain
+    MadeParts parts = fiveCircles(GetParam()).parts();
+    const auto second = std::ranges::find(parts.objects, 0x41u, &MadeParts::Object::handle);
+    // One that leads to the fifth, and is lost since it has not its own handle.
+    second->bytes = std::ranges::find(parts.objects, 0x43u, &MadeParts::Object::handle)->bytes;
+    EXPECT_EQ(recordsOf(readBack(madeFile(parts)), "ENTITIES"), " 40 42 43 44");
+}
+
+TEST_P(DamagedDrawings, KeepTheOrderOfChainsThatAreLeft)
+{
+    if (GetParam() > Release::R2000)
+        return;
+    // 40 leads to 43, 42 and 41, and is lost.
+    MadeDrawing drawing(GetParam());
+    drawing.addEntity(CircleType, writeUnitCircle);
+    for (std::uint64_t handle = 0x41; handle <= 0x43; ++handle) {
+        MadeHead &head = drawing.head(drawing.addPart(CircleType, 0, writeUnitCircle));
+        head.space = 2;
+        head.next = handle == 0x41 ? 0 : handle - 1;
+    }
+    EXPECT_EQ(recordsOf(readBack(without(drawing, 0x40)), "ENTITIES"), " 43 42 41");
+}
+
+TEST_P(DamagedDrawings, GiveHandlesThatAreFreeToWhatStandsForOthers)
+{
+    // Where the header has the dictionary of named objects and the table of layers are circles.
+    MadeParts parts = fiveCircles(GetParam()).parts();
+    for (MadeParts::Object &object : parts.objects) {
+        if (object.handle == MadeHandles::NamedObjects || object.handle == MadeHandles::LayerTable)
+            object.bytes = circleWith(GetParam(), object.handle);
+    }
+    const ReadBack read = readBack(madeFile(parts));
+    EXPECT_EQ(recordsOf(read, "LAYER"), " 10 45");
+    EXPECT_EQ(recordsOf(read, "OBJECTS"), " 1001 46");
+    EXPECT_EQ(read.record(0x1000), GetParam() < Release::R2000
+                                       ? "0 TABLE|2 LAYER|5 1000|100 AcDbSymbolTable|70 2|"
+                                       : "0 TABLE|2 LAYER|5 1000|330 0|100 AcDbSymbolTable|70 2|");
+    EXPECT_EQ(read.variable("$HANDSEED"), "9 $HANDSEED|5 1002|");
+}
+
+INSTANTIATE_TEST_SUITE_P(Dwg, DamagedDrawings,
+                         testing::Values(Release::R14, Release::R2000, Release::R2007, Release::R2018),
+                         [](const auto &row) { return "AC" + std::to_string(static_cast<int>(row.param)); });
+
+} // namespace host::dwg::test
