@@ -13,6 +13,7 @@ struct Problem
     enum class Kind
     {
         Kept,    ///< an object of a class, or in a form, that is not known here: its bytes are in the result
+        Mended,  ///< damage that was made up for wholly: checksums fit again, or a whole copy was read
         Warning, ///< a checksum that does not fit, a number out of its range: what it concerns was read
         Lost     ///< what it concerns is not in the result
     };
@@ -36,6 +37,7 @@ public:
     static constexpr std::size_t mostKept = 1000;
 
     void warn(std::string text) { add({Problem::Kind::Warning, std::move(text), {}, 0}); }
+    void mend(std::string text) { add({Problem::Kind::Mended, std::move(text), {}, 0}); }
     void lose(std::string text) { add({Problem::Kind::Lost, std::move(text), {}, 0}); }
     void add(Problem problem);
 
@@ -47,7 +49,7 @@ public:
 
 private:
     std::vector<Problem> m_list;
-    std::array<std::size_t, 3> m_counts{};
+    std::array<std::size_t, 4> m_counts{};
     std::size_t m_lostObjects = 0;
 };
 

@@ -6489,6 +6489,10 @@ Revisionswolke fertiggestellt.</translation>
         <source>%1 may be wrong: %2</source>
         <translation>%1 ist vielleicht falsch: %2</translation>
     </message>
+    <message>
+        <source>the file is damaged; the drawing is whole</source>
+        <translation>die Datei ist beschädigt; die Zeichnung ist vollständig</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

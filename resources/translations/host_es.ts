@@ -6489,6 +6489,10 @@ Nube de revisión terminada.</translation>
         <source>%1 may be wrong: %2</source>
         <translation>%1 puede ser incorrecto: %2</translation>
     </message>
+    <message>
+        <source>the file is damaged; the drawing is whole</source>
+        <translation>el archivo está dañado; el dibujo está completo</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

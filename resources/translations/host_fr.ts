@@ -6489,6 +6489,10 @@ Nuage de révision terminé.</translation>
         <source>%1 may be wrong: %2</source>
         <translation>%1 est peut-être faux : %2</translation>
     </message>
+    <message>
+        <source>the file is damaged; the drawing is whole</source>
+        <translation>le fichier est endommagé ; le dessin est complet</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

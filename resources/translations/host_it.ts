@@ -6489,6 +6489,10 @@ Fumetto di revisione completato.</translation>
         <source>%1 may be wrong: %2</source>
         <translation>%1 può essere sbagliato: %2</translation>
     </message>
+    <message>
+        <source>the file is damaged; the drawing is whole</source>
+        <translation>il file è danneggiato; il disegno è completo</translation>
+    </message>
 </context>
 <context>
     <name>FileActions</name>

@@ -133,15 +133,23 @@ TEST(DwgFiles, ListWhatIsLostInFront)
     const ReadingNotes notes{.lostObjects = 1,
                              .lostParts = 1,
                              .doubtfulCount = 2,
+                             .mendedCount = 1,
                              .list = {{Kind::Doubtful, u"LINE"_s, u"2A"_s, u"a"_s},
                                       {Kind::Kept, {}, {}, u"b"_s},
+                                      {Kind::Mended, {}, {}, u"m"_s},
                                       {Kind::Doubtful, {}, {}, u"c"_s},
                                       {Kind::Lost, {}, u"2B"_s, u"d"_s},
                                       {Kind::Lost, {}, {}, u"e"_s}}};
     const QString object = u"object 2B could not be read: d"_s;
     const QString line = u"LINE 2A may be wrong: a"_s;
-    EXPECT_EQ(notes.faults(3), (QStringList{object, u"e"_s, line, u"and 1 more"_s}));
-    EXPECT_EQ(notes.faults(4), (QStringList{object, u"e"_s, line, u"c"_s}));
+    EXPECT_EQ(notes.faults(3), (QStringList{object, u"e"_s, line, u"and 2 more"_s}));
+    EXPECT_EQ(notes.faults(5), (QStringList{object, u"e"_s, line, u"c"_s, u"m"_s}));
+    EXPECT_EQ((ReadingNotes{.doubtfulCount = 1, .mendedCount = 1, .list = {}}).summary(),
+              u"some of the file is not as expected; what was read of it may be wrong"_s);
+    const ReadingNotes mended{.mendedCount = 1, .list = {}};
+    EXPECT_EQ(mended.summary(), u"the file is damaged; the drawing is whole"_s);
+    EXPECT_TRUE(mended.hasFaults());
+    EXPECT_FALSE(mended.hasLost());
 }
 
 TEST(DwgFiles, HaveRegionsWithTheirModels)

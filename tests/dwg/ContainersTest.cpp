@@ -37,9 +37,11 @@ struct DamageRow
     std::function<void(FileBytes &)> damage;
     const char *told;       ///< all problems
     bool isAllThere = true; ///< the text is that of the whole file
+    std::size_t mended = 0; ///< how many of the problems nothing is left of
 };
 
-void expectDamage(const DamageRow &row)
+void expectDamage(
+    const DamageRow &row, void (*prepare)(FileBytes &) = [](FileBytes &) {})
 {
     FileBytes file = circles(row.release);
     const ReadBack whole = readBack(file);
@@ -47,6 +49,7 @@ void expectDamage(const DamageRow &row)
     row.damage(file);
     const ReadBack read = readBack(file);
     EXPECT_EQ(read.problems(), row.told) << row.name;
+    EXPECT_EQ(read.drawing.problems.count(Problem::Kind::Mended), row.mended) << row.name;
     EXPECT_EQ(read.drawing.text == whole.drawing.text, row.isAllThere)
         << row.name << ", " << static_cast<int>(row.release);
 }
@@ -94,11 +97,11 @@ void changeNumber(FileBytes &file, std::size_t number)
 
 const DamageRow correctedRows[] = {
     {"a byte of the header", Release::R2007, [](FileBytes &file) { file[0x90] ^= 1; },
-     "1 damaged bytes were put right.\n"},
+     "1 damaged byte was put right.\n", true, 1},
     {"as many bytes of the header as can be put right", Release::R2007,
-     [](FileBytes &file) { invert(file, 0x80, 3 * 8); }, "24 damaged bytes were put right.\n"},
+     [](FileBytes &file) { invert(file, 0x80, 3 * 8); }, "24 damaged bytes were put right.\n", true, 1},
     {"the header", Release::R2007, [](FileBytes &file) { invert(file, 0x80, 3 * 8 + 1); },
-     "The header of the file is damaged; its copy was read.\n"},
+     "The header of the file is damaged; its copy was read.\n", true, 1},
     {"the header and its copy", Release::R2007,
      [](FileBytes &file) {
          invert(file, 0x80, 0x100);
@@ -110,7 +113,7 @@ const DamageRow correctedRows[] = {
      [](FileBytes &file) {
          rewritePage(file, 0x80, 3, ErrorCode::Maps, [](FileBytes &own) { own[correctedHead + 8] ^= 1; });
      },
-     "The header of the file is damaged; its copy was read.\n"},
+     "The header of the file is damaged; its copy was read.\n", true, 1},
     {"the same in its copy", Release::R2007,
      [](FileBytes &file) { changeHeaders(file, [](FileBytes &own) { own[correctedHead + 8] ^= 1; }); },
      "The checksum of the file's header does not fit.\n"},
@@ -124,14 +127,17 @@ const DamageRow correctedRows[] = {
     {"a byte behind what a page has", Release::R2007,
      [](FileBytes &file) { rewritePage(file, 0x480, 2, ErrorCode::Data, [](FileBytes &own) { own[499] ^= 1; }); }, ""},
     {"a byte of a page that its blocks do not tell", Release::R2007,
-     [](FileBytes &file) { rewritePage(file, 0x480, 2, ErrorCode::Data, [](FileBytes &own) { own[0] ^= 1; }); },
+     [](FileBytes &file) {
+         rewritePage(file, 0x480, 2, ErrorCode::Data, [](FileBytes &own) { own[0] ^= 1; });
+         file[0x480 + 20] ^= 1; // which they do tell
+     },
      "The checksum of a page of the section AcDb:Header does not fit.\n"
      "The mark in front of the header's variables is missing.\nThe header's variables cannot be read.\n"
      "The header does not tell where the tables are; they were looked for.\n",
      false},
     // The header's variables are the first page, of two blocks.
     {"two bytes of each block of a page", Release::R2007, [](FileBytes &file) { invert(file, 0x480, 2 * 2); },
-     "4 damaged bytes were put right.\n"},
+     "4 damaged bytes were put right.\n", true, 1},
 };
 
 /// Where the pages of a paged file are: those of the sections in their order, the map of sections, the map of pages.
@@ -157,13 +163,13 @@ constexpr std::size_t lastObjects = 2; ///< the page with the last objects, of t
 
 const DamageRow pagedRows[] = {
     {"the header", Release::R2004, [](FileBytes &file) { file[0x90] ^= 1; },
-     "The header of the file is damaged; its copy was read.\n"},
+     "The header of the file is damaged; its copy was read.\n", true, 1},
     {"the header, with other bytes behind its copy", Release::R2018,
      [](FileBytes &file) {
          invert(file, 0x80, 0x6c);
          file.resize(file.size() + 100);
      },
-     "The header of the file is damaged; its copy was read.\n"},
+     "The header of the file is damaged; its copy was read.\n", true, 1},
     {"the checksum of the header and its copy", Release::R2010,
      [](FileBytes &file) {
          file[0x80 + 0x68] ^= 1;

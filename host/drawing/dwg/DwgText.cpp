@@ -22,6 +22,8 @@ ReadingNote::Kind kindOf(dwg::Problem::Kind kind)
     switch (kind) {
     case dwg::Problem::Kind::Kept:
         return ReadingNote::Kind::Kept;
+    case dwg::Problem::Kind::Mended:
+        return ReadingNote::Kind::Mended;
     case dwg::Problem::Kind::Warning:
         return ReadingNote::Kind::Doubtful;
     case dwg::Problem::Kind::Lost:
@@ -35,6 +37,7 @@ ReadingNotes notesOf(const dwg::Problems &problems)
     ReadingNotes notes{.lostObjects = qsizetype(problems.lostObjectCount()),
                        .lostParts = qsizetype(problems.lostCount() - problems.lostObjectCount()),
                        .doubtfulCount = qsizetype(problems.count(dwg::Problem::Kind::Warning)),
+                       .mendedCount = qsizetype(problems.count(dwg::Problem::Kind::Mended)),
                        .list = {}};
     for (const dwg::Problem &problem : problems.list())
         notes.list.push_back({.kind = kindOf(problem.kind),

@@ -41,6 +41,7 @@ QString ReadingNote::message() const
     case Kind::Doubtful:
         return DrawingTexts::tr("%1 may be wrong: %2").arg(object, text);
     case Kind::Kept:
+    case Kind::Mended:
         break;
     }
     return u"%1: %2"_s.arg(object, text);
@@ -48,9 +49,11 @@ QString ReadingNote::message() const
 
 QString ReadingNotes::summary() const
 {
+    if (!hasFaults())
+        return {};
     if (!hasLost())
         return doubtfulCount == 0
-                   ? QString()
+                   ? DrawingTexts::tr("the file is damaged; the drawing is whole")
                    : DrawingTexts::tr("some of the file is not as expected; what was read of it may be wrong");
     QString sentence = DrawingTexts::tr(lostSentences[formOf(lostObjects)][formOf(lostParts)]);
     for (const qsizetype count : {lostObjects, lostParts})
@@ -62,13 +65,13 @@ QString ReadingNotes::summary() const
 QStringList ReadingNotes::faults(qsizetype limit) const
 {
     QStringList messages;
-    for (const auto kind : {ReadingNote::Kind::Lost, ReadingNote::Kind::Doubtful}) {
+    for (const auto kind : {ReadingNote::Kind::Lost, ReadingNote::Kind::Doubtful, ReadingNote::Kind::Mended}) {
         for (const ReadingNote &note : list) {
             if (note.kind == kind && messages.size() < limit)
                 messages.append(note.message());
         }
     }
-    if (const qsizetype further = lostObjects + lostParts + doubtfulCount - messages.size(); further > 0)
+    if (const qsizetype further = lostObjects + lostParts + doubtfulCount + mendedCount - messages.size(); further > 0)
         messages.append(DrawingTexts::tr("and %1 more").arg(further));
     return messages;
 }

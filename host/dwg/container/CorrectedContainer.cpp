@@ -43,7 +43,8 @@ public:
         while (reader.left() >= 64 * 8 && !reader.hasFailed())
             readSection(reader, container);
         if (m_corrected > 0)
-            m_problems.warn(std::to_string(m_corrected) + " damaged bytes were put right.");
+            m_problems.mend(m_corrected == 1 ? std::string("1 damaged byte was put right.")
+                                             : std::to_string(m_corrected) + " damaged bytes were put right.");
     }
 
 private:
@@ -57,8 +58,9 @@ private:
             return header;
         const bool hasCopy = m_file.size() >= pagesPlace + CorrectedHeader::room;
         const auto copy = hasCopy ? headerAt(m_file.size() - CorrectedHeader::room) : std::nullopt;
+        const char *const copyWasRead = "The header of the file is damaged; its copy was read.";
         if (copy && (copy->checksumFits || !header)) {
-            m_problems.warn("The header of the file is damaged; its copy was read.");
+            copy->checksumFits ? m_problems.mend(copyWasRead) : m_problems.warn(copyWasRead);
             return copy;
         }
         if (header)
@@ -70,18 +72,26 @@ private:
     {
         const auto page =
             correctedPage(m_file.subspan(place, CorrectedHeader::blocks * correctedBlock), ErrorCode::Maps);
-        return page ? readCorrectedHeader(*page) : std::nullopt;
+        const auto header = page ? readCorrectedHeader(page->own) : std::nullopt;
+        if (header && header->checksumFits)
+            m_corrected += page->corrected;
+        return header;
     }
 
+    struct CorrectedPage
+    {
+        PageBytes own;
+        std::size_t corrected = 0; ///< bytes; they are right where the checksums fit
+    };
+
     /// The bytes of a page's blocks, put right; nothing where they are damaged beyond that.
-    std::optional<PageBytes> correctedPage(Bytes bytes, ErrorCode code)
+    static std::optional<CorrectedPage> correctedPage(Bytes bytes, ErrorCode code)
     {
         PageBytes page(bytes.begin(), bytes.end());
         const Correction correction = correctPage(page, code);
         if (!correction.isWhole)
             return std::nullopt;
-        m_corrected += correction.count;
-        return ownBytesOf(page, code);
+        return CorrectedPage{ownBytesOf(page, code), correction.count};
     }
 
     /// A map where its checksums fit, else its copy, else the one of both that can be read at all, which `doubt`
@@ -116,11 +126,12 @@ private:
         const Bytes bytes =
             pageAt(place, blocksFor((map.packedSize + 7) / 8 * 8 * map.repeat, ErrorCode::Maps) * correctedBlock);
         const auto page = bytes.empty() ? std::nullopt : correctedPage(bytes, ErrorCode::Maps);
-        auto plain = page ? unpacked(*page, map.packedSize, map.size) : std::nullopt;
+        auto plain = page ? unpacked(page->own, map.packedSize, map.size) : std::nullopt;
         if (!plain)
             return std::nullopt;
-        const bool fits = packedChecksum2007(Bytes(*page).first(map.packedSize)) == map.packedChecksum &&
+        const bool fits = packedChecksum2007(Bytes(page->own).first(map.packedSize)) == map.packedChecksum &&
                           packedChecksum2007(*plain) == map.checksum;
+        m_corrected += fits ? page->corrected : 0;
         return Map{std::move(*plain), fits};
     }
 
@@ -236,8 +247,10 @@ private:
         if (unpackPage(packed, ownBytesOf(bytes, ErrorCode::Data), page) == PageState::Whole)
             return PageState::Whole;
         PageBytes blocks(bytes.begin(), bytes.end());
-        m_corrected += correctPage(blocks, ErrorCode::Data).count;
-        return unpackPage(packed, ownBytesOf(blocks, ErrorCode::Data), page);
+        const std::size_t corrected = correctPage(blocks, ErrorCode::Data).count;
+        const PageState state = unpackPage(packed, ownBytesOf(blocks, ErrorCode::Data), page);
+        m_corrected += state == PageState::Whole ? corrected : 0;
+        return state;
     }
 
     Bytes m_file;
@@ -245,7 +258,7 @@ private:
     std::map<std::int64_t, std::uint64_t> m_pages;
     Growth m_room;               ///< for sections
     Growth m_work;               ///< for pages, which a hostile file has again and again
-    std::size_t m_corrected = 0; ///< bytes
+    std::size_t m_corrected = 0; ///< bytes of what is whole now
 };
 
 } // namespace

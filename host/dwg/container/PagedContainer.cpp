@@ -98,7 +98,7 @@ private:
             std::find_end(m_file.begin() + pagesStart, m_file.end(), begin.begin(), begin.begin() + signature.size());
         const PlainHeader copy = mixedHeader(Bytes(found, m_file.end()));
         if (isWhole(copy)) {
-            m_problems.warn("The header of the file is damaged; its copy was read.");
+            m_problems.mend("The header of the file is damaged; its copy was read.");
             return copy;
         }
         m_problems.warn("The checksum of the file's header does not fit.");

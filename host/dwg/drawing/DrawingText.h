@@ -11,7 +11,7 @@ struct DrawingText
     Release release = Release::None; ///< that of the file; None where it is no drawing of 2.5 to R2018
     std::string text; ///< a whole file of the same release, lines ended by line feeds; empty where nothing can be had
     std::size_t objectCount = 0; ///< in the file's map
-    Problems problems;           ///< what is not in `text`, and what is doubtful
+    Problems problems;           ///< what is not in `text`, what is doubtful, what was made up for
 };
 
 /// Reads a drawing file of 2.5 to R2018 as if its twin in text form had been opened: the same records with the same
