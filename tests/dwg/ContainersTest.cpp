@@ -2,6 +2,7 @@
 // everything that is not hit comes out.
 
 #include "host/dwg/bits/Checksums.h"
+#include "host/dwg/container/Container.h"
 #include "host/dwg/container/CorrectedPages.h"
 #include "host/dwg/container/Pages.h"
 #include "tests/dwg/making/ReadBack.h"
@@ -44,6 +45,7 @@ void expectDamage(
     const DamageRow &row, void (*prepare)(FileBytes &) = [](FileBytes &) {})
 {
     FileBytes file = circles(row.release);
+    prepare(file);
     const ReadBack whole = readBack(file);
     EXPECT_EQ(whole.problems(), "") << row.name;
     row.damage(file);
@@ -250,7 +252,45 @@ const DamageRow locatorRows[] = {
      "The map of objects ends within a run.\n62 objects were found without the map of objects.\n"},
 };
 
+constexpr std::size_t previewSize = 16 + 4 + 5; ///< mark, length, one picture of four bytes
+
+/// Puts a preview at the end, which the file's first bytes tell. Up to R2000 their checksum would not fit.
+void addPreview(FileBytes &file)
+{
+    const std::size_t place = file.size();
+    std::ranges::copy(markBytes(SectionMark::Preview), std::back_inserter(file));
+    for (const std::uint8_t byte : {5, 0, 0, 0, 1, 2, 3, 4, 5})
+        file.push_back(byte);
+    for (std::size_t i = 0; i < 4; ++i)
+        file[0x0d + i] = static_cast<std::uint8_t>(place >> 8 * i);
+}
+
+std::uint8_t &inPreview(FileBytes &file, std::size_t offset)
+{
+    return file[file.size() - previewSize + offset];
+}
+
+const DamageRow previewRows[] = {
+    {"its place", Release::R2007, [](FileBytes &file) { file[0x0d] ^= 0x10; },
+     "The preview is not where the file tells; it was found by its mark.\n"},
+    {"its place, which is outside of the file", Release::R2018, [](FileBytes &file) { file[0x10] = 0xff; },
+     "The preview is not where the file tells; it was found by its mark.\n"},
+    {"its mark", Release::R2004, [](FileBytes &file) { inPreview(file, 3) ^= 1; }, "The preview cannot be found.\n",
+     false},
+    {"its length", Release::R2004, [](FileBytes &file) { inPreview(file, 16) = 6; },
+     "The preview ends before its pictures do.\n", false},
+    {"the file is cut within its length", Release::R2013, [](FileBytes &file) { file.resize(file.size() - 7); },
+     "The preview ends before its pictures do.\n", false},
+    {"it has no pictures", Release::R2010, [](FileBytes &file) { inPreview(file, 20) = 0; }, "", false},
+};
+
 } // namespace
+
+TEST(DwgContainers, PreviewsAreFoundAndToldWhereTheyAreNot)
+{
+    for (const DamageRow &row : previewRows)
+        expectDamage(row, addPreview);
+}
 
 TEST(DwgContainers, BlocksArePutRight)
 {

@@ -382,11 +382,31 @@ TEST(HostileDwg, WhatHoldsOthersTogetherIsMadeWhereItCannotBeRead)
 
 TEST(HostileDwg, APasswordIsTold)
 {
-    for (const Release release : {Release::R2000, Release::R2004, Release::R2007, Release::R2018}) {
-        FileBytes file = MadeDrawing(release).file();
-        file[0x18] |= 1;
-        const bool isTold = readBack(file).problems().find("protected by a password") != std::string::npos;
-        EXPECT_EQ(isTold, release >= Release::R2004);
+    struct Row
+    {
+        Release release;
+        std::uint8_t flags;
+        std::uint8_t further; ///< in the byte behind
+        bool isTold;
+    };
+    constexpr Row rows[] = {{Release::R2000, 1, 0, false}, {Release::R2004, 1, 0, true},
+                            {Release::R2007, 1, 0, true},  {Release::R2018, 0x33, 0, true},
+                            {Release::R2018, 2, 0, false}, {Release::R2018, 5, 0, false},
+                            {Release::R2018, 1, 1, false}, {Release::R2007, 0xff, 0xff, false}};
+    for (const Row &row : rows) {
+        FileBytes file = MadeDrawing(row.release).file();
+        file[0x18] = row.flags;
+        file[0x19] = row.further;
+        if (row.release >= Release::R2004) {
+            EXPECT_EQ(readBack(file).problems(), "") << "what can be read is not protected";
+        }
+        std::fill(file.begin() + 0x480, file.end(), 0x5a);
+        const auto isTold = [&file] { return readBack(file).problems().find("by a password") != std::string::npos; };
+        EXPECT_EQ(isTold(), row.isTold) << static_cast<int>(row.release) << " " << int(row.flags);
+        if (row.release >= Release::R2004) {
+            file[0x28] = 0;
+            EXPECT_FALSE(isTold()) << "a head that is damaged";
+        }
     }
 }
 

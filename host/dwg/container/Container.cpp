@@ -81,31 +81,55 @@ Release releaseOf(Bytes file)
 
 namespace {
 
-/// The preview, which all releases have at a place that the file's first bytes tell. The places of its pictures count
-/// from the begin of the file, as they do in text files.
-Bytes previewOf(Bytes file)
+std::uint32_t numberAt(Bytes file, std::size_t place)
 {
-    constexpr std::size_t placeOfPlace = 0x0d;
-    const std::size_t place = BitReader(file, placeOfPlace * 8, file.size() * 8).raw32();
-    if (place >= file.size())
-        return {};
-    const Bytes section = file.subspan(place);
+    return BitReader(file, place * 8, file.size() * 8).raw32();
+}
+
+/// What follows the mark of the preview, which all releases have at a place that the file's first bytes tell; else
+/// where the mark is. Empty without either, as in files that tell none.
+Bytes findPreview(Bytes file, Problems &problems)
+{
+    const std::size_t place = numberAt(file, 0x0d);
     const Bytes mark = markBytes(SectionMark::Preview);
-    if (section.size() < mark.size() || !std::equal(mark.begin(), mark.end(), section.begin()))
-        return {};
-    const Bytes content = section.subspan(mark.size());
+    const Bytes told = file.subspan(std::min(place, file.size()));
+    if (told.size() >= mark.size() && std::equal(mark.begin(), mark.end(), told.begin()))
+        return told.subspan(mark.size());
+    const auto found = std::search(file.begin(), file.end(), mark.begin(), mark.end());
+    if (found != file.end()) {
+        problems.warn("The preview is not where the file tells; it was found by its mark.");
+        return Bytes(found, file.end()).subspan(mark.size());
+    }
+    if (place != 0)
+        problems.lose("The preview cannot be found.");
+    return {};
+}
+
+/// The places of the preview's pictures count from the begin of the file, as they do in text files.
+Bytes previewOf(Bytes file, Problems &problems)
+{
+    const Bytes content = findPreview(file, problems);
+    if (content.empty())
+        return content;
     BitReader reader(content);
     const std::size_t size = reader.raw32();
     constexpr std::size_t sizeLength = 4;
     const bool hasPictures = reader.byte() != 0;
-    return hasPictures && size <= content.size() - sizeLength ? content.first(sizeLength + size) : Bytes();
+    if (!reader.hasFailed() && size <= content.size() - sizeLength)
+        return hasPictures ? content.first(sizeLength + size) : Bytes();
+    problems.lose("The preview ends before its pictures do.");
+    return {};
 }
 
-bool isProtected(Bytes file, Release release)
+/// Whether the file's first bytes can be believed where they tell that its data are encrypted.
+bool tellsProtection(Bytes file, Release release)
 {
-    constexpr std::size_t place = 0x18;
-    constexpr int isDataEncrypted = 1;
-    return release >= Release::R2004 && file.size() > place && (file[place] & isDataEncrypted) != 0;
+    constexpr std::uint32_t isDataEncrypted = 0x01;
+    constexpr std::uint32_t known = isDataEncrypted | 0x02 | 0x10 | 0x20; // properties, a signature, the time of that
+    constexpr std::uint32_t firstPage = 0x80;
+    const std::uint32_t flags = numberAt(file, 0x18);
+    return release >= Release::R2004 && (flags & isDataEncrypted) != 0 && (flags & ~known) == 0 &&
+           numberAt(file, 0x28) == firstPage;
 }
 
 } // namespace
@@ -120,16 +144,18 @@ Container openContainer(Bytes file, Problems &problems)
     }
     container.maintenance = file[0x0b];
     container.codePage = file[0x13] | file[0x14] << 8;
-    // Read on all the same: a byte that is damaged says so as well.
-    if (isProtected(file, container.release))
-        problems.lose("The file is protected by a password.");
+    const std::size_t lostBefore = problems.lostCount();
     if (container.release <= Release::R2000)
         openLocatorContainer(file, container, problems);
     else if (container.release == Release::R2007)
         openCorrectedContainer(file, container, problems);
     else
         openPagedContainer(file, container, problems);
-    container.preview = previewOf(file);
+    // What can be read is not encrypted, whatever is told.
+    const bool isRead = problems.lostCount() == lostBefore && !container.objects.empty();
+    if (!isRead && tellsProtection(file, container.release))
+        problems.lose("The file is protected by a password.");
+    container.preview = previewOf(file, problems);
     container.mostText = largestText(file.size(), container.objects.size());
     container.headerVariables =
         checkedSection(container, container.headerVariables, SectionMark::Header, "the header's variables", problems);

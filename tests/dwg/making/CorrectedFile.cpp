@@ -152,6 +152,7 @@ private:
         file.raw16(30);
         FileBytes whole = file.bytes();
         whole.resize(correctedHeaderPlace);
+        whole[0x28] = correctedHeaderPlace;
         for (const FileBytes *part : {&header, &m_pages, &header})
             whole.insert(whole.end(), part->begin(), part->end());
         return whole;

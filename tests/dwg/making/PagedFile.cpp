@@ -39,6 +39,7 @@ public:
         start.raw16(30); // the code page
         m_file = start.bytes();
         m_file.resize(pagesBegin);
+        m_file[0x28] = 0x80; // where the header is
     }
 
     FileBytes run()
