@@ -48,12 +48,18 @@ QStringList stringsOf(const QJsonValue &value)
     return texts;
 }
 
+/// "not-written", as JSON has it.
+QString wordOf(Outcome outcome)
+{
+    return QString::fromLatin1(outcomeRow(outcome).word);
+}
+
 QString lineOf(const FileResult &result)
 {
     QString line = native(result.file);
     if (!result.part.isEmpty())
         line = QCoreApplication::translate("Batch", "%1, case %2").arg(line, result.part);
-    line += u": "_s + QCoreApplication::translate("Batch", outcomeRow(result.outcome).shown);
+    line += u": "_s + shownOf(result.outcome);
     QStringList out;
     for (const QString &file : result.out)
         out.append(native(file));
@@ -67,9 +73,9 @@ ExitStatus statusOf(Outcome outcome)
     return outcomeRow(outcome).status;
 }
 
-QString wordOf(Outcome outcome)
+QString shownOf(Outcome outcome)
 {
-    return QString::fromLatin1(outcomeRow(outcome).word);
+    return QCoreApplication::translate("Batch", outcomeRow(outcome).shown);
 }
 
 QJsonObject objectOf(const FileResult &result)

@@ -38,8 +38,8 @@ struct FileResult
 
 /// The status that a program which did nothing else ends with.
 ExitStatus statusOf(Outcome outcome);
-/// "not-written", as JSON has it.
-QString wordOf(Outcome outcome);
+/// "not written", as lines of text have it, in the language of the program.
+QString shownOf(Outcome outcome);
 
 /// A result as it stands in "results", and back; nothing when the object is none.
 QJsonObject objectOf(const FileResult &result);

@@ -67,7 +67,7 @@ FileResult factsOf(const QString &path, const ProgramOptions &options)
 QString infoText(const FileResult &result)
 {
     const QString name = files::visibleText(native(result.file));
-    return result.isDone() ? name + u'\n' + factsText(result.more) : name + u": "_s + wordOf(result.outcome);
+    return result.isDone() ? name + u'\n' + factsText(result.more) : name + u": "_s + shownOf(result.outcome);
 }
 
 } // namespace
