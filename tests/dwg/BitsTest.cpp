@@ -2,6 +2,7 @@
 
 #include "host/dwg/bits/BitReader.h"
 #include "host/dwg/bits/Checksums.h"
+#include "host/dwg/bits/Utf8.h"
 #include "host/dwg/container/PageCompression.h"
 #include "host/dwg/container/UnpackedPage.h"
 #include "host/dwg/objects/Colours.h"
@@ -314,6 +315,28 @@ TEST(DwgBits, PagesUnpackAsFarAsTheyAreWhole)
         << "from in front of the page";
     for (std::size_t length = 0; length + 1 < packed.size(); ++length)
         unpacked({packed.begin(), packed.begin() + static_cast<std::ptrdiff_t>(length)}, 16, false);
+}
+
+TEST(DwgBits, BytesThatAreNoCharactersAreReplaced)
+{
+    // In the second text ? stands for U+FFFD.
+    const std::pair<std::string, std::string> rows[] = {
+        {"", ""},
+        {"eight by|\xc3\xa9|\xe2\x82\xac|\xf0\x9f\x98\x80|\xf4\x8f\xbf\xbf|",
+         "eight by|\xc3\xa9|\xe2\x82\xac|\xf0\x9f\x98\x80|\xf4\x8f\xbf\xbf|"},
+        {"eight bytes, then one \xff of none", "eight bytes, then one ? of none"},
+        {"\x80\xc0\xaf\xc1\xbf", "?????"},                        // no beginning; longer than needed
+        {"\xe0\x9f\xbf|\xf0\x8f\xbf\xbf", "???|????"},            // the same in three and four bytes
+        {"\xed\xa0\x80|\xf4\x90\x80\x80|\xf5", "???|????|?"},     // half a pair; beyond the last one
+        {"\xe2\x82|\xc3\xc3\xa9\xf0\x9f\x98", "??|?\xc3\xa9???"}, // ends too early
+    };
+    for (const auto &[bytes, expected] : rows) {
+        std::string text = bytes;
+        EXPECT_EQ(replaceNoUtf8(text), std::size_t(std::ranges::count(expected, '?')));
+        for (std::size_t at = text.find("\xef\xbf\xbd"); at != std::string::npos; at = text.find("\xef\xbf\xbd"))
+            text.replace(at, 3, "?");
+        EXPECT_EQ(text, expected);
+    }
 }
 
 TEST(DwgBits, ColoursHaveTheIndexThatIsNearest)

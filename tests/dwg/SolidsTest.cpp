@@ -78,6 +78,17 @@ void writeTextModel(ObjectWriter &o)
     o.int32(0);
 }
 
+void writeDamagedModel(ObjectWriter &o)
+{
+    const std::string_view line = "no\xe9 ^\t\x7f\x01";
+    o.flag(false);
+    o.flag(false);
+    o.int16(1);
+    o.int32(static_cast<std::int32_t>(line.size()));
+    o.values().rawBytes(line);
+    o.int32(0);
+}
+
 void writeBinaryModel(ObjectWriter &o)
 {
     o.flag(false);
@@ -102,11 +113,16 @@ const char *const noBinary = "3DSOLID 40: The model has a binary form that has n
 const std::string lines = "70 1|1 noi mi n o|1 =0;& {rn|";
 const std::string revision = "290 0|2 {01020304-0506-0708-6162-636465666768}|";
 
+const char *const noLetters = "3DSOLID 40: The model has bytes that are no letters; there are question marks instead.\n"
+                              "REGION 41: The model has bytes that are no letters; there are question marks instead.\n";
+const std::string damagedLine = "70 1|1 no` ^ ```|";
 const ModelRow modelRows[] = {
     {Release::R13, writeTextModel, lines, ""},
     {Release::R2000, writeTextModel, lines, ""},
     {Release::R2004, writeTextModel, lines, ""},
     {Release::R2010, writeTextModel, lines, ""},
+    {Release::R2000, writeDamagedModel, damagedLine, noLetters},
+    {Release::R2007, writeDamagedModel, damagedLine, noLetters},
     {Release::R2007, writeBinaryModel, "", noBinary},
     {Release::R2010, writeBinaryModel, "", noBinary},
     {Release::R2013, writeTextModel, lines + revision, ""},
@@ -333,6 +349,19 @@ TEST(DwgDataStore, RecordsAreReadWholeFromTheirPages)
     EXPECT_EQ(store.records[0].data, "ab");
     EXPECT_EQ(store.records[1].handle, 0x41u);
     EXPECT_EQ(store.records[1].data, "12345678");
+}
+
+TEST(DwgDataStore, NamesAreUtf8InTheText)
+{
+    StoreMaker maker = smallStore();
+    maker.segments[SchemaTable].names[0] = "Pi\xc3\xa9\xff\n\xed\xa0\x80";
+    MadeDrawing drawing(Release::R2018);
+    std::vector<MadeSection> sections = sectionsOf(drawing.parts());
+    sections.push_back({"AcDb:AcDsPrototype_1b", maker.bytes(SchemaTable, RecordTable)});
+    const ReadBack read = readBack(pagedFile(Release::R2018, sections));
+    const std::string bad = "\xef\xbf\xbd";
+    EXPECT_NE(read.drawing.text.find("\nPi\xc3\xa9" + bad + "^J" + bad + bad + bad + "\n"), std::string::npos);
+    EXPECT_EQ(read.problems(), "Texts have bytes that are no characters; they were replaced.\n");
 }
 
 TEST(DwgDataStore, SchemasDoNotMultiply)

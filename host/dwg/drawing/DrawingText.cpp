@@ -1,5 +1,6 @@
 #include "host/dwg/drawing/DrawingText.h"
 
+#include "host/dwg/bits/Utf8.h"
 #include "host/dwg/drawing/LaterRecords.h"
 #include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
@@ -17,6 +18,15 @@ void leaveOutLaterRecords(DrawingParts &parts)
     for (const std::uint64_t handle : later)
         parts.objects.leaveOut(handle);
     fields.leftOut() = std::move(later);
+}
+
+/// Texts of one byte a character are within names and models that objects of later releases have. Where they are
+/// damaged, nobody could open the text for them.
+void keepUtf8(DrawingText &result)
+{
+    const std::size_t replaced = result.release >= Release::R2007 ? replaceNoUtf8(result.text) : 0;
+    if (replaced > 0)
+        result.problems.warn("Texts have bytes that are no characters; they were replaced.");
 }
 
 /// From the header to the tables, from there to the blocks and what they have, and from the dictionary of named objects
@@ -58,6 +68,7 @@ DrawingText readDrawing(Bytes file)
     result.release = container.release;
     if (!container.objects.empty())
         writeDrawing(container, result);
+    keepUtf8(result);
     return result;
 }
 

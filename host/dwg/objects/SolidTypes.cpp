@@ -2,6 +2,7 @@
 #include "host/dwg/objects/ModelValues.h"
 #include "host/dwg/objects/TypeTable.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace host::dwg {
@@ -18,12 +19,25 @@ void noteModelLine(Fields &f, std::string_view line)
     }
 }
 
+/// A byte that no line of a model has gets the disguise of a question mark, so that who takes the disguise off finds
+/// letters everywhere.
+bool replaceNoLetters(std::string &model)
+{
+    constexpr char unknown = 159 - '?';
+    const auto isNone = [](char c) { return (c < ' ' && c != '\r' && c != '\n') || c > '~'; };
+    const bool hasAny = std::ranges::any_of(model, isNone);
+    std::ranges::replace_if(model, isNone, unknown);
+    return hasAny;
+}
+
 /// The model's lines, in pieces of any length, as they are: text files have them in the same disguise.
 void readModelText(Fields &f)
 {
     std::string model;
     while (const std::size_t size = f.count(8))
         model += f.values().rawBytes(size);
+    if (replaceNoLetters(model))
+        f.doubt("The model has bytes that are no letters; there are question marks instead.");
     std::string_view rest = model;
     while (!rest.empty()) {
         const std::size_t end = rest.find('\n');
