@@ -195,11 +195,13 @@ bool isListed(const EarlyEntityRow &row)
     return row.type == 16 || row.type == 17 || row.type == 20;
 }
 
-/// What stands in a list gets a polyline in front.
+/// What stands in a list gets an insert or a polyline in front.
 EarlyFileMaker makerOf(const EarlyEntityRow &row)
 {
     EarlyFileMaker maker = makerWithTables(row.release);
-    if (isListed(row))
+    if (row.type == 16)
+        maker.addEntity(14, 0x80, 0, "w0 1.0 2.0");
+    else if (isListed(row))
         maker.addEntity(19, 0x80, 0, "");
     maker.addEntity(row.type, row.flags, row.options, row.values);
     return maker;
@@ -209,7 +211,9 @@ EarlyFileMaker makerOf(const EarlyEntityRow &row)
 std::string expectedOf(const EarlyEntityRow &row)
 {
     std::string records = isListed(row) ? "POLYLINE 8 0 66 1" : "";
-    if (isListed(row))
+    if (row.type == 16)
+        records = "INSERT 8 0 66 1 2 TREE 10 1.0 20 2.0\n";
+    else if (isListed(row))
         records += row.release < r10 ? "\n" : " 10 0.0 20 0.0 30 0.0\n";
     records += row.record[0] ? row.record + std::string("\n") : "";
     const bool isOpen = isListed(row) ? row.type != 17 : (row.flags & 0x80) != 0;
@@ -279,6 +283,30 @@ TEST(EarlyDwg, DeletedRecordsOfTablesAreCountedAlone)
     EXPECT_NE(drawing.text.find("TABLE\n  2\nLAYER\n 70\n3\n"), std::string::npos);
     EXPECT_EQ(problemsOf(drawing), "LTYPE: Its values do not fill its record.\n"
                                    "STYLE: Its values do not fill its record.\n");
+}
+
+TEST(EarlyDwg, RecordsOfTablesWithoutNamesAreLostAndCounted)
+{
+    EarlyFileMaker maker(r9);
+    maker.addRecord(EarlyTableKind::Layers, 0, "", "w1 w0");
+    maker.addRecord(EarlyTableKind::Linetypes, 0, "", "\"- z47 b65 b2 1.5 1.0 -0.5 z80");
+    maker.addRecord(EarlyTableKind::Layers, 0, "WALLS", "w2 w1");
+    maker.addRecord(EarlyTableKind::Blocks, 0, "A\x03", "l1073741824");
+    for (const int flags : {0, 1})
+        maker.addRecord(EarlyTableKind::Styles, flags, "", "0.0 1.0 0.0 b0 0.2 \"shapes z122");
+    maker.setHeader(0x14a, "w1");
+    for (const char *layer : {"w1", "w2"})
+        maker.addEntityOn(layer, 2, 0x02, 0, "b1 1.0 2.0");
+    const DrawingText drawing = readDrawing(maker.file());
+    const TextTree tree = readTree(drawing.text);
+    EXPECT_EQ(recordsOf(tree, "LAYER"), "LAYER 2 0 70 0 62 7 6 CONTINUOUS\nLAYER 2 WALLS 70 0 62 2 6 CONTINUOUS\n");
+    EXPECT_EQ(recordsOf(tree, "ENTITIES"), "POINT 8 0 10 1.0 20 2.0\nPOINT 8 WALLS 10 1.0 20 2.0\n");
+    EXPECT_EQ(recordsOf(tree, "HEADER").find("$CLAYER"), std::string::npos);
+    EXPECT_TRUE(recordsOf(tree, "STYLE").starts_with("STYLE 2  70 1 40 0.0")) << recordsOf(tree, "STYLE");
+    std::string expected;
+    for (const char *type : {"LTYPE", "LAYER", "STYLE", "BLOCK"})
+        expected += type + std::string(": It has no name.\n");
+    EXPECT_EQ(problemsOf(drawing), expected);
 }
 
 TEST(EarlyDwg, BlocksHaveWhatTheirTableSays)
@@ -362,6 +390,49 @@ TEST(EarlyDwg, TheHeaderHasWhatItsReleaseHas)
     EXPECT_EQ(early.find("$TILEMODE"), std::string::npos);
 }
 
+TEST(EarlyDwg, ValuesOfTheHeaderThatCannotBeAreLeftOut)
+{
+    constexpr std::pair<std::size_t, const char *> places[] = {
+        {0x5e, "0.0 1e200 0.0"}, {0x128, "w-1"}, {0x132, "h000000000000F0FF"}, {0x31b, "w257"}, {0x31f, "l99999999 l0"},
+        {0x353, "-1e300"},       {0x36f, "w-1"},
+    };
+    EarlyFileMaker maker = makerWithTables(r12);
+    for (const auto &[at, values] : places)
+        maker.setHeader(at, values);
+    const DrawingText drawing = readDrawing(maker.file());
+    std::string expected;
+    for (const char *name : {"$INSBASE", "$ORTHOMODE", "$LTSCALE", "$CECOLOR", "$TDCREATE", "$ANGBASE"}) {
+        EXPECT_EQ(drawing.text.find(name), std::string::npos) << name;
+        expected += std::string("The value of ") + name + " cannot be; it is left out.\n";
+    }
+    EXPECT_EQ(problemsOf(drawing), expected);
+    EXPECT_NE(drawing.text.find("$USERI1\n 70\n-1\n"), std::string::npos);
+}
+
+TEST(EarlyDwg, WhatIsNoDrawingIsRefused)
+{
+    const std::string refusal = "Neither header and tables nor entities are those of a drawing.\n";
+    EarlyFileMaker maker = makerWithTables(r9);
+    const EarlyFileMaker::File whole = maker.file();
+    for (const char *release : {"AC1003", "AC1004", "AC1006", "AC1009"}) {
+        for (const int filling : {0x00, 0xff, 0x14, -1}) {
+            // -1: a file of another release, whose header stands elsewhere.
+            EarlyFileMaker::File file = filling < 0 ? EarlyFileMaker::File(whole.begin() + 64, whole.end())
+                                                    : EarlyFileMaker::File(5000, static_cast<std::uint8_t>(filling));
+            std::copy_n(release, 6, file.begin());
+            const DrawingText drawing = readDrawing(file);
+            EXPECT_EQ(drawing.text, "") << release << ' ' << filling;
+            EXPECT_TRUE(problemsOf(drawing).ends_with(refusal)) << release << ' ' << filling;
+        }
+    }
+    // One entity that can be read is a drawing, and so is the first layer.
+    EXPECT_NE(readDrawing(whole).text, "");
+    maker.addEntity(3, 0, 0, "1.0 2.0 3.0");
+    EarlyFileMaker::File file = maker.file();
+    std::fill_n(file.begin() + 0x2c, 50, std::uint8_t{0xff});
+    EXPECT_EQ(recordsOf(readTree(readDrawing(file).text), "ENTITIES"), "CIRCLE 8 0 10 1.0 20 2.0 40 3.0\n");
+}
+
 TEST(EarlyDwg, ListsHaveAnOwnerAndAnEnd)
 {
     struct ListRow
@@ -373,6 +444,7 @@ TEST(EarlyDwg, ListsHaveAnOwnerAndAnEnd)
     constexpr int polyline = 19;
     constexpr int vertex = 20;
     constexpr int end = 17;
+    constexpr int attribute = 16;
     constexpr int repeat = 5;
     const ListRow rows[] = {
         {{{polyline, 0x80}, {vertex, 0}, {end, 0}, {repeat, 0}}, "POLYLINE VERTEX SEQEND REPEAT ", 0},
@@ -381,6 +453,9 @@ TEST(EarlyDwg, ListsHaveAnOwnerAndAnEnd)
         {{{polyline | 0x80, 0x80}, {vertex, 0}, {end, 0}, {repeat, 0}}, "REPEAT ", 0},
         {{{polyline, 0}, {vertex, 0}, {end, 0}, {repeat, 0}}, "POLYLINE REPEAT ", 2},
         {{{polyline, 0x88}, {vertex, 0}, {end, 0}, {repeat, 0}}, "REPEAT ", 1},
+        {{{repeat, 0x80}, {vertex, 0}, {end, 0}}, "REPEAT ", 2},
+        {{{polyline, 0x80}, {attribute, 0}, {vertex, 0}, {end, 0}}, "POLYLINE VERTEX SEQEND ", 1},
+        {{{polyline, 0x80}, {repeat | 0x80, 0x80}, {vertex, 0}}, "POLYLINE VERTEX SEQEND ", 0},
     };
     for (const ListRow &row : rows) {
         EarlyFileMaker maker(r9);

@@ -48,7 +48,7 @@ public:
     {
         if (m_file.release < Release::R9)
             m_problems.warn("The file is of a release before R9, and read by the layout of R9.");
-        const std::size_t variables = writeEarlyHeader(m_file, m_names, m_text);
+        const std::size_t variables = writeEarlyHeader(m_file, m_names, m_text, m_problems);
         writeEarlyTables(m_file, m_names, m_text, m_problems);
         beginSection("BLOCKS");
         for (const EarlyBlock &block : readEarlyBlocks(m_file, m_names))
@@ -58,7 +58,10 @@ public:
         writeRecords(m_file.entities.begin);
         writeMark("ENDSEC");
         writeMark("EOF");
-        tellCodePage(variables);
+        if (m_hasEntity || m_names.hasFirstLayer())
+            return tellCodePage(variables);
+        m_text.clear();
+        m_problems.lose("Neither header and tables nor entities are those of a drawing.");
     }
 
 private:
@@ -101,6 +104,8 @@ private:
 
     void writeBlock(const EarlyBlock &block)
     {
+        if (block.name.empty())
+            return lose("BLOCK", "It has no name.");
         const auto first = m_frames.take(m_frames.placeOf(block.address));
         if (!first || first->type != earlyBlock)
             return lose("BLOCK", "There is no block at its place: " + block.name + '.');
@@ -149,13 +154,13 @@ private:
     {
         const bool isListed = belongsToEarlyList(frame.type & ~EarlyFrame::deletedNumber);
         if (frame.isDeleted()) {
-            if (!isListed && EarlyRecord::hasList(frame.flags))
+            if (EarlyRecord::hasList(frame.type & ~EarlyFrame::deletedNumber, frame.flags))
                 openList(frame, List::Dropped);
             return false;
         }
-        if (isListed && m_list == List::None)
+        if (isListed && !mayFollow(frame.type))
             lose(earlyType(frame.type)->name, "There is no entity that it belongs to.");
-        if (isListed && m_list != List::Open)
+        if (isListed && (m_list != List::Open || !mayFollow(frame.type)))
             return false;
         if (!isListed)
             closeList();
@@ -167,10 +172,19 @@ private:
         return isWritten;
     }
 
+    /// Whether what opened the list, if any did, has entities of the type in it.
+    bool mayFollow(int type) const
+    {
+        const int listed = m_hasAttributes ? earlyAttribute : earlyVertex;
+        return m_list != List::None && (type == earlyEndOfList || type == listed);
+    }
+
     void openList(const EarlyFrame &frame, List list)
     {
         closeList();
-        m_list = EarlyRecord::hasList(frame.flags) ? list : List::None;
+        const int type = frame.type & ~EarlyFrame::deletedNumber;
+        m_list = EarlyRecord::hasList(type, frame.flags) ? list : List::None;
+        m_hasAttributes = type == EarlyRecord::insertNumber;
     }
 
     void closeList()
@@ -202,6 +216,7 @@ private:
         if (!noteEarlyExtendedData(m_record.extendedData(), m_names, m_fields))
             warn(type, "The extended data are left out.");
         m_fields.write(m_text);
+        m_hasEntity = m_hasEntity || type.read;
         return true;
     }
 
@@ -256,7 +271,9 @@ private:
     Fields m_fields;
     EarlyRecord m_record;
     const EarlyBlock *m_block = nullptr; ///< whose BLOCK is read
+    bool m_hasEntity = false;            ///< one whose values say more than its length
     List m_list = List::None;
+    bool m_hasAttributes = false; ///< in the list; else vertices
 };
 
 } // namespace

@@ -1,12 +1,16 @@
 #include "host/dwg/early/EarlyHeader.h"
 
+#include <cmath>
+
 namespace host::dwg {
 
 namespace {
 
 enum class EarlyKind
 {
-    Number,
+    Number, ///< from 0 on
+    Signed,
+    Colour,
     Byte,
     Real,
     Angle,
@@ -66,7 +70,7 @@ constexpr EarlyHeaderRow earlyHeaderRows[] = {
     {0x18e, EarlyKind::Style, 7, "$TEXTSTYLE"},
     {0x14a, EarlyKind::Layer, 8, "$CLAYER"},
     {0x31d, EarlyKind::Linetype, 6, "$CELTYPE"},
-    {0x31b, EarlyKind::Number, 62, "$CECOLOR"},
+    {0x31b, EarlyKind::Colour, 62, "$CECOLOR"},
     {0x1a3, EarlyKind::Real, 40, "$DIMSCALE"},
     {0x1ab, EarlyKind::Real, 40, "$DIMASZ"},
     {0x1b3, EarlyKind::Real, 40, "$DIMEXO"},
@@ -104,9 +108,9 @@ constexpr EarlyHeaderRow earlyHeaderRows[] = {
     {0x47e, EarlyKind::Text, 1, "$DIMBLK1", Release::R10},
     {0x49f, EarlyKind::Text, 1, "$DIMBLK2", Release::R10},
     {0x52c, EarlyKind::DimensionStyle, 2, "$DIMSTYLE", Release::R12},
-    {0x52e, EarlyKind::Number, 70, "$DIMCLRD", Release::R12},
-    {0x530, EarlyKind::Number, 70, "$DIMCLRE", Release::R12},
-    {0x532, EarlyKind::Number, 70, "$DIMCLRT", Release::R12},
+    {0x52e, EarlyKind::Colour, 70, "$DIMCLRD", Release::R12},
+    {0x530, EarlyKind::Colour, 70, "$DIMCLRE", Release::R12},
+    {0x532, EarlyKind::Colour, 70, "$DIMCLRT", Release::R12},
     {0x5df, EarlyKind::Real, 40, "$DIMTFAC", Release::R12},
     {0x6ab, EarlyKind::Real, 40, "$DIMGAP", Release::R12},
     {0x164, EarlyKind::Number, 70, "$LUNITS"},
@@ -141,7 +145,7 @@ constexpr EarlyHeaderRow earlyHeaderRows[] = {
     {0x319, EarlyKind::Number, 70, "$COORDS"},
     {0x3d7, EarlyKind::Number, 70, "$SPLFRAME"},
     {0x50c, EarlyKind::Number, 70, "$SPLINETYPE", Release::R10},
-    {0x3d5, EarlyKind::Number, 70, "$SPLINESEGS"},
+    {0x3d5, EarlyKind::Signed, 70, "$SPLINESEGS"},
     {0x3db, EarlyKind::Number, 70, "$ATTDIA"},
     {0x3d9, EarlyKind::Number, 70, "$ATTREQ"},
     {0x4ec, EarlyKind::Number, 70, "$HANDLING", Release::R10},
@@ -159,11 +163,11 @@ constexpr EarlyHeaderRow earlyHeaderRows[] = {
     {0x5e7, EarlyKind::Space, 10, "$PUCSORG", Release::R12},
     {0x5ff, EarlyKind::Space, 10, "$PUCSXDIR", Release::R12},
     {0x617, EarlyKind::Space, 10, "$PUCSYDIR", Release::R12},
-    {0x36f, EarlyKind::Number, 70, "$USERI1"},
-    {0x371, EarlyKind::Number, 70, "$USERI2"},
-    {0x373, EarlyKind::Number, 70, "$USERI3"},
-    {0x375, EarlyKind::Number, 70, "$USERI4"},
-    {0x377, EarlyKind::Number, 70, "$USERI5"},
+    {0x36f, EarlyKind::Signed, 70, "$USERI1"},
+    {0x371, EarlyKind::Signed, 70, "$USERI2"},
+    {0x373, EarlyKind::Signed, 70, "$USERI3"},
+    {0x375, EarlyKind::Signed, 70, "$USERI4"},
+    {0x377, EarlyKind::Signed, 70, "$USERI5"},
     {0x379, EarlyKind::Real, 40, "$USERR1"},
     {0x381, EarlyKind::Real, 40, "$USERR2"},
     {0x389, EarlyKind::Real, 40, "$USERR3"},
@@ -198,51 +202,83 @@ class EarlyHeaderReader
 public:
     EarlyHeaderReader(Fields &fields, const EarlyNames &names) : f(fields), m_names(names) {}
 
-    void read(const EarlyHeaderRow &row)
+    enum class Result
+    {
+        Possible,
+        Impossible, ///< a value that the variable has in no drawing
+        Nameless    ///< the name of what is lost
+    };
+
+    Result read(const EarlyHeaderRow &row)
     {
         switch (row.kind) {
         case EarlyKind::Number:
+            return possible(f.note(row.code, f.values().raw16()) <= 0x7fff);
+        case EarlyKind::Signed:
             f.note(row.code, static_cast<std::int16_t>(f.values().raw16()));
-            return;
+            return Result::Possible;
+        case EarlyKind::Colour:
+            return possible(f.note(row.code, f.values().raw16()) <= 256);
         case EarlyKind::Byte:
             f.note(row.code, static_cast<int>(f.values().byte()));
-            return;
-        case EarlyKind::Real:
-            f.rawReal(row.code);
-            return;
-        case EarlyKind::Angle:
-            f.noteAngle(row.code, f.rawReal());
-            return;
-        case EarlyKind::Flat:
-            f.rawFlatPoint(row.code);
-            return;
-        case EarlyKind::Place:
-            if (f.since(Release::R10))
-                f.rawPoint(row.code);
-            else
-                f.rawFlatPoint(row.code);
-            return;
-        case EarlyKind::Space:
-            f.rawPoint(row.code);
-            return;
+            return Result::Possible;
         case EarlyKind::Text:
             f.note(row.code, f.values().rawText(earlyTextSize(row.name)));
-            return;
-        case EarlyKind::Date: {
-            constexpr double millisecondsOfADay = 86400000.0;
-            const double days = f.values().raw32();
-            f.note(row.code, days + f.values().raw32() / millisecondsOfADay);
-            return;
-        }
+            return Result::Possible;
         case EarlyKind::Handle:
             f.noteHandle(row.code, takeEarlyHandle(f.values(), 8));
-            return;
+            return Result::Possible;
+        case EarlyKind::Date:
+            return possible(readDate(row.code));
+        case EarlyKind::Real:
+        case EarlyKind::Angle:
+        case EarlyKind::Flat:
+        case EarlyKind::Place:
+        case EarlyKind::Space:
+            return possible(readReals(row));
         default:
-            f.note(row.code, name(row.kind));
+            return readName(row);
         }
     }
 
 private:
+    static Result possible(bool isPossible) { return isPossible ? Result::Possible : Result::Impossible; }
+
+    bool readDate(int code)
+    {
+        constexpr std::uint32_t millisecondsOfADay = 86400000;
+        constexpr std::uint32_t lastDay = 5373484; // of the year 9999
+        const std::uint32_t days = f.values().raw32();
+        const std::uint32_t milliseconds = f.values().raw32();
+        f.note(code, days + static_cast<double>(milliseconds) / millisecondsOfADay);
+        return days <= lastDay && milliseconds <= millisecondsOfADay;
+    }
+
+    /// True where none is farther than the corners of a drawing that has nothing in it.
+    bool readReals(const EarlyHeaderRow &row)
+    {
+        constexpr double farthest = 1e20;
+        const auto isNear = [](double value) { return std::abs(value) <= farthest; };
+        if (row.kind == EarlyKind::Real)
+            return isNear(f.rawReal(row.code));
+        if (row.kind == EarlyKind::Angle) {
+            const double radians = f.rawReal();
+            f.noteAngle(row.code, radians);
+            return isNear(radians);
+        }
+        const bool isFlat = row.kind == EarlyKind::Flat || (row.kind == EarlyKind::Place && !f.since(Release::R10));
+        const Point point = isFlat ? f.rawFlatPoint(row.code) : f.rawPoint(row.code);
+        return isNear(point.x) && isNear(point.y) && isNear(point.z);
+    }
+
+    /// Variables may name no coordinate system, but always a layer, a style or a linetype.
+    Result readName(const EarlyHeaderRow &row)
+    {
+        const std::string_view found = name(row.kind);
+        f.note(row.code, found);
+        return found.empty() && row.kind != EarlyKind::System ? Result::Nameless : Result::Possible;
+    }
+
     std::string_view name(EarlyKind kind)
     {
         constexpr std::size_t none = 0xffff;
@@ -267,7 +303,7 @@ private:
 
 } // namespace
 
-std::size_t writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::string &text)
+std::size_t writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std::string &text, Problems &problems)
 {
     const Names noNames;
     Fields fields(file.release, noNames);
@@ -284,10 +320,14 @@ std::size_t writeEarlyHeader(const EarlyFile &file, const EarlyNames &names, std
             continue;
         fields.start(BitReader(file.bytes, row.at * 8, file.variablesEnd * 8), {}, {});
         fields.note(9, row.name);
-        reader.read(row);
+        const auto result = reader.read(row);
         // Files of earlier releases end their header before what came later.
-        if (!fields.hasFailed())
+        if (fields.hasFailed())
+            continue;
+        if (result == EarlyHeaderReader::Result::Possible)
             fields.write(text);
+        else if (result == EarlyHeaderReader::Result::Impossible)
+            problems.warn("The value of " + std::string(row.name) + " cannot be; it is left out.");
     }
     fields.start({}, {}, {});
     fields.note(0, "ENDSEC");

@@ -4,6 +4,15 @@
 
 namespace host::dwg {
 
+namespace {
+
+bool isEarlyControl(char c)
+{
+    return static_cast<unsigned char>(c) < 0x20;
+}
+
+} // namespace
+
 EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table, std::size_t index)
 {
     const std::size_t begin = table.at + index * table.recordSize;
@@ -14,6 +23,8 @@ EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table
     record.body = BitReader(file.bytes, begin * 8, end * 8);
     record.flags = record.body.byte();
     record.name = record.body.rawText(earlyNameSize);
+    if (std::ranges::any_of(record.name, isEarlyControl))
+        record.name.clear();
     if (file.isChecked())
         record.body.raw16();
     return record;
@@ -48,6 +59,18 @@ std::string_view EarlyNames::name(EarlyTableKind kind, std::size_t index) const
 {
     const auto &names = m_names[static_cast<std::size_t>(kind)];
     return index < names.size() ? std::string_view(names[index]) : std::string_view();
+}
+
+std::string_view EarlyNames::layer(std::size_t index) const
+{
+    const std::string_view found = name(EarlyTableKind::Layers, index);
+    return found.empty() ? "0" : found;
+}
+
+bool EarlyNames::hasFirstLayer() const
+{
+    const auto &layers = m_names[static_cast<std::size_t>(EarlyTableKind::Layers)];
+    return std::ranges::find(layers, "0") != layers.end();
 }
 
 std::string_view EarlyNames::linetype(std::size_t index) const

@@ -8,10 +8,12 @@ namespace host::dwg {
 /// A record of a table.
 struct EarlyTableRecord
 {
-    int flags = 0; ///< as the text form has them
-    std::string name;
-    BitReader body; ///< what the table's records have of their own
+    int flags = 0;    ///< as the text form has them
+    std::string name; ///< empty where there is none, or one that cannot be
+    BitReader body;   ///< what the table's records have of their own
 
+    /// A style that is no more than a file of shapes has no name.
+    bool isOfShapes() const { return (flags & 0x01) != 0; }
     bool isDeleted() const { return (flags & 0x80) != 0; }
 };
 
@@ -26,6 +28,10 @@ public:
     explicit EarlyNames(const EarlyFile &file);
 
     std::string_view name(EarlyTableKind kind, std::size_t index) const;
+    /// The same of layers: "0" where there is none, or one without a name.
+    std::string_view layer(std::size_t index) const;
+    /// Whether the layer "0" is there, as it is in every drawing.
+    bool hasFirstLayer() const;
     /// The same with BYLAYER and BYBLOCK, which have numbers of their own.
     std::string_view linetype(std::size_t index) const;
 

@@ -49,12 +49,13 @@ void EarlyRecord::begin(const EarlyType &type, BitReader record, int flags, Earl
     m_isInPaperSpace = hasEarlyFlag(further, earlyPaperSpace);
     if (m_isInPaperSpace)
         takeNumber();
-    noteHead(flags);
+    noteHead(flags, hasList(type.number, flags));
 }
 
-bool EarlyRecord::hasList(int flags)
+bool EarlyRecord::hasList(int type, int flags)
 {
-    return hasEarlyFlag(flags, earlyFollowers);
+    constexpr int polyline = 19;
+    return (type == insertNumber || type == polyline) && hasEarlyFlag(flags, earlyFollowers);
 }
 
 void EarlyRecord::takeExtendedData(bool isThere)
@@ -78,20 +79,21 @@ void EarlyRecord::takePlace(int flags)
     m_handle = hasEarlyFlag(flags, earlyHandle) ? takeEarlyHandle(values, values.byte()) : 0;
 }
 
-void EarlyRecord::noteHead(int flags)
+void EarlyRecord::noteHead(int flags, bool isFollowed)
 {
     if (hasEarlyFlag(flags, earlyHandle))
         f.noteHandle(5, m_handle);
-    f.note(8, m_names.name(EarlyTableKind::Layers, static_cast<std::size_t>(m_layer)));
-    if (hasEarlyFlag(flags, earlyLinetype))
-        f.note(6, m_names.linetype(static_cast<std::size_t>(m_linetype)));
+    f.note(8, m_names.layer(static_cast<std::size_t>(m_layer)));
+    const std::string_view linetype = m_names.linetype(static_cast<std::size_t>(m_linetype));
+    if (hasEarlyFlag(flags, earlyLinetype) && !linetype.empty())
+        f.note(6, linetype);
     if (hasEarlyFlag(flags, earlyElevation) && !isSpatial())
         f.note(38, m_elevation);
     if (hasEarlyFlag(flags, earlyThickness))
         f.note(39, m_thickness);
     if (hasEarlyFlag(flags, earlyColour))
         f.note(62, m_colour);
-    if (hasEarlyFlag(flags, earlyFollowers))
+    if (isFollowed)
         f.note(66, 1);
     if (m_isInPaperSpace)
         f.note(67, 1);

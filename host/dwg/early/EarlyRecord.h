@@ -38,8 +38,9 @@ public:
     /// entity's length.
     void begin(const EarlyType &type, BitReader record, int flags, EarlyForm form);
 
-    /// Whether flags say that attributes or vertices follow.
-    static bool hasList(int flags);
+    /// Whether attributes or vertices follow: the flags say so, of a type that can have any.
+    static bool hasList(int type, int flags);
+    static constexpr int insertNumber = 14;
     bool has(unsigned option) const { return (m_options & option) != 0; }
     bool isSpatial() const { return f.since(Release::R10); }
     EarlyForm form() const { return m_form; }
@@ -83,7 +84,7 @@ public:
 private:
     void takeExtendedData(bool isThere);
     void takePlace(int flags);
-    void noteHead(int flags);
+    void noteHead(int flags, bool isFollowed);
 
     Fields &f;
     const EarlyNames &m_names;

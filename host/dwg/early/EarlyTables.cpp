@@ -62,7 +62,8 @@ void readEarlyLinetype(EarlyTableFields &r)
 void readEarlyLayer(EarlyTableFields &r)
 {
     r.number(62);
-    r.f.note(6, r.names.linetype(r.f.values().raw16()));
+    const std::string_view linetype = r.names.linetype(r.f.values().raw16());
+    r.f.note(6, linetype.empty() ? "CONTINUOUS" : linetype);
 }
 
 void readEarlyStyle(EarlyTableFields &r)
@@ -204,6 +205,8 @@ private:
     {
         if (record.isDeleted())
             return;
+        if (record.name.empty() && !(row.kind == EarlyTableKind::Styles && record.isOfShapes()))
+            return m_problems.add({Problem::Kind::Lost, "It has no name.", row.name, 0});
         begin(row.name, record.body);
         m_fields.note(2, record.name);
         m_fields.note(70, record.flags);

@@ -119,11 +119,11 @@ void EarlyFileMaker::add(File &section, int type, int flags, const File &rest)
     addChecksum(section, begin);
 }
 
-std::size_t EarlyFileMaker::addTo(File &section, int type, int flags, int options, std::string_view values)
+std::size_t EarlyFileMaker::addTo(File &section, int type, int flags, int options, std::string_view values,
+                                  std::string_view layer)
 {
     const std::size_t place = section.size();
-    File rest;
-    put(rest, 0, 2);
+    File rest = valuesOf(layer);
     put(rest, static_cast<std::uint64_t>(options), 2);
     append(rest, valuesOf(values));
     add(section, type, flags, rest);
@@ -133,6 +133,12 @@ std::size_t EarlyFileMaker::addTo(File &section, int type, int flags, int option
 std::size_t EarlyFileMaker::addEntity(int type, int flags, int options, std::string_view values)
 {
     return addTo(m_entities, type, flags, options, values);
+}
+
+std::size_t EarlyFileMaker::addEntityOn(std::string_view layer, int type, int flags, int options,
+                                        std::string_view values)
+{
+    return addTo(m_entities, type, flags, options, values, layer);
 }
 
 std::size_t EarlyFileMaker::addToBlocks(int type, int flags, int options, std::string_view values)

@@ -29,7 +29,10 @@ public:
     /// Adds an entity, on the first layer, and returns its place in its section. `values` are those behind the options:
     /// the head's first.
     std::size_t addEntity(int type, int flags, int options, std::string_view values);
-    /// The same in the section of blocks, whose table must be made separately, and in the one of further entities.
+    /// The same on the layer that two bytes (`w1`) say.
+    std::size_t addEntityOn(std::string_view layer, int type, int flags, int options, std::string_view values);
+    /// The same as addEntity() in the section of blocks, whose table must be made separately, and in the one of further
+    /// entities.
     std::size_t addToBlocks(int type, int flags, int options, std::string_view values);
     std::size_t addFurther(int type, int flags, int options, std::string_view values);
     /// Adds what sends the reader to another place; so many bytes from the begin of the section that it counts from.
@@ -48,7 +51,8 @@ public:
 private:
     bool isChecked() const { return m_release >= Release::R12; }
     void add(File &section, int type, int flags, const File &rest);
-    std::size_t addTo(File &section, int type, int flags, int options, std::string_view values);
+    std::size_t addTo(File &section, int type, int flags, int options, std::string_view values,
+                      std::string_view layer = "w0");
     void addChecksum(File &bytes, std::size_t begin) const;
 
     Release m_release;
