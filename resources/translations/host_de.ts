@@ -106,6 +106,10 @@
         <source>%1: there is no file %2</source>
         <translation>%1: die Datei %2 gibt es nicht</translation>
     </message>
+    <message>
+        <source>%1 is there already, beside the drawing, and may be another one: name another folder, or --force to replace it</source>
+        <translation>%1 ist neben der Zeichnung schon vorhanden und kann eine andere sein: einen anderen Ordner nennen, oder --force, um sie zu ersetzen</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -15670,10 +15674,6 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
         <translation>der Ordner, in den sie unter ihren Namen geschrieben werden</translation>
     </message>
     <message>
-        <source>write files although another program has them open</source>
-        <translation>schreibt Dateien, obwohl ein anderes Programm sie geöffnet hat</translation>
-    </message>
-    <message>
         <source>the most that each drawing may take</source>
         <translation>so lange darf jede Zeichnung höchstens dauern</translation>
     </message>
@@ -15776,6 +15776,14 @@ Endet mit Status 0, wenn alle Zeichnungen heil sind oder ausgebessert wurden, 1,
     <message>
         <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
         <translation>speichert jede geänderte Zeichnung, wo sie ist, mit einer Kopie der alten, wo SETBACKUPFOLDER einen Ordner dafür genannt hat; was sich so nicht speichern lässt, wie DWG-Dateien, bearbeitet das Werkzeug nicht</translation>
+    </message>
+    <message>
+        <source>write files although another program has them open, or they lie beside a drawing under its result&apos;s name</source>
+        <translation>schreibt Dateien, obwohl ein anderes Programm sie geöffnet hat oder sie neben einer Zeichnung unter dem Namen ihres Ergebnisses liegen</translation>
+    </message>
+    <message>
+        <source>write files as well that another program has open, or has changed since they were opened, or that lie beside a drawing under its result&apos;s name</source>
+        <translation>schreibt auch Dateien, die ein anderes Programm geöffnet oder seit dem Öffnen geändert hat oder die neben einer Zeichnung unter dem Namen ihres Ergebnisses liegen</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,10 @@
         <source>%1: there is no file %2</source>
         <translation>%1: no existe el archivo %2</translation>
     </message>
+    <message>
+        <source>%1 is there already, beside the drawing, and may be another one: name another folder, or --force to replace it</source>
+        <translation>%1 ya existe junto al dibujo y puede ser otro: indique otra carpeta, o --force para reemplazarlo</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -15658,10 +15662,6 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
         <translation>la carpeta en que se escriben, con sus nombres</translation>
     </message>
     <message>
-        <source>write files although another program has them open</source>
-        <translation>escribir archivos aunque otro programa los tenga abiertos</translation>
-    </message>
-    <message>
         <source>the most that each drawing may take</source>
         <translation>lo máximo que puede tardar cada dibujo</translation>
     </message>
@@ -15776,6 +15776,14 @@ Termina con el estado 0 cuando todos los dibujos están intactos o fueron repara
     <message>
         <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
         <translation>guardar en su lugar cada dibujo cambiado, con una copia del anterior si SETBACKUPFOLDER ha nombrado una carpeta para ello; la herramienta no trabaja con lo que no se puede guardar así, como los archivos DWG</translation>
+    </message>
+    <message>
+        <source>write files although another program has them open, or they lie beside a drawing under its result&apos;s name</source>
+        <translation>escribir archivos aunque otro programa los tenga abiertos, o estén junto a un dibujo con el nombre de su resultado</translation>
+    </message>
+    <message>
+        <source>write files as well that another program has open, or has changed since they were opened, or that lie beside a drawing under its result&apos;s name</source>
+        <translation>escribir también archivos que otro programa tenga abiertos, o haya cambiado desde que se abrieron, o que estén junto a un dibujo con el nombre de su resultado</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,10 @@
         <source>%1: there is no file %2</source>
         <translation>%1&#xa0;: il n&apos;y a pas de fichier %2</translation>
     </message>
+    <message>
+        <source>%1 is there already, beside the drawing, and may be another one: name another folder, or --force to replace it</source>
+        <translation>%1 existe déjà à côté du dessin et peut en être un autre : nommez un autre dossier, ou --force pour le remplacer</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -15670,10 +15674,6 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
         <translation>le dossier où les écrire, sous leurs noms</translation>
     </message>
     <message>
-        <source>write files although another program has them open</source>
-        <translation>écrit des fichiers bien qu&apos;un autre programme les ait ouverts</translation>
-    </message>
-    <message>
         <source>the most that each drawing may take</source>
         <translation>la durée maximale pour chaque dessin</translation>
     </message>
@@ -15776,6 +15776,14 @@ Finit par le statut 0 quand tous les dessins sont sains ou ont été réparés, 
     <message>
         <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
         <translation>enregistre chaque dessin modifié à sa place, avec une copie de l&apos;ancien où SETBACKUPFOLDER a nommé un dossier pour cela ; l&apos;outil ne traite pas ce qui ne peut être enregistré ainsi, comme les fichiers DWG</translation>
+    </message>
+    <message>
+        <source>write files although another program has them open, or they lie beside a drawing under its result&apos;s name</source>
+        <translation>écrit les fichiers même si un autre programme les a ouverts, ou s&apos;ils se trouvent à côté d&apos;un dessin sous le nom de son résultat</translation>
+    </message>
+    <message>
+        <source>write files as well that another program has open, or has changed since they were opened, or that lie beside a drawing under its result&apos;s name</source>
+        <translation>écrit aussi les fichiers qu&apos;un autre programme a ouverts, ou modifiés depuis leur ouverture, ou qui se trouvent à côté d&apos;un dessin sous le nom de son résultat</translation>
     </message>
 </context>
 <context>

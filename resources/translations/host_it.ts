@@ -106,6 +106,10 @@
         <source>%1: there is no file %2</source>
         <translation>%1: non c&apos;è alcun file %2</translation>
     </message>
+    <message>
+        <source>%1 is there already, beside the drawing, and may be another one: name another folder, or --force to replace it</source>
+        <translation>%1 esiste già accanto al disegno e può essere un altro: indicare un&apos;altra cartella, o --force per sostituirlo</translation>
+    </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
@@ -15658,10 +15662,6 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
         <translation>la cartella in cui scriverli, con i loro nomi</translation>
     </message>
     <message>
-        <source>write files although another program has them open</source>
-        <translation>scrivere i file anche se un altro programma li ha aperti</translation>
-    </message>
-    <message>
         <source>the most that each drawing may take</source>
         <translation>il massimo che ogni disegno può impiegare</translation>
     </message>
@@ -15776,6 +15776,14 @@ Termina con lo stato 0 quando tutti i disegni sono integri o sono stati riparati
     <message>
         <source>save each drawing that was changed where it is, with a copy of the old one where SETBACKUPFOLDER has named a folder for that; the tool does not run over what cannot be saved so, such as DWG files</source>
         <translation>salvare al suo posto ogni disegno modificato, con una copia del vecchio dove SETBACKUPFOLDER ha nominato una cartella per questo; lo strumento non lavora su ciò che non può essere salvato così, come i file DWG</translation>
+    </message>
+    <message>
+        <source>write files although another program has them open, or they lie beside a drawing under its result&apos;s name</source>
+        <translation>scrivi i file anche se un altro programma li tiene aperti, o si trovano accanto a un disegno con il nome del suo risultato</translation>
+    </message>
+    <message>
+        <source>write files as well that another program has open, or has changed since they were opened, or that lie beside a drawing under its result&apos;s name</source>
+        <translation>scrivi anche file che un altro programma tiene aperti, o ha modificato da quando sono stati aperti, o che si trovano accanto a un disegno con il nome del suo risultato</translation>
     </message>
 </context>
 <context>

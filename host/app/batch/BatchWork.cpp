@@ -5,6 +5,7 @@
 #include "host/app/workbench/ProgramOutput.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/files/WriteObstacle.h"
+#include "host/kernel/files/FileStamp.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -44,6 +45,20 @@ QString whyNotToWrite(const QString &path, bool isForced)
 }
 
 void closeAll(Workbench &workbench)
+QString whyNotBeside(const QString &drawing, const QString &target, bool isForced)
+{
+    const auto present = kernel::identityOf(target);
+    if (isForced || !present || present == kernel::identityOf(drawing))
+        return {};
+    const auto folderOf = [](const QString &path) { return QFileInfo(kernel::canonicalFile(path)).path(); };
+    return folderOf(target) != folderOf(drawing)
+               ? QString()
+               : QCoreApplication::translate("Batch",
+                                             "%1 is there already, beside the drawing, and may be another one: "
+                                             "name another folder, or --force to replace it")
+                     .arg(files::visibleText(native(target)));
+}
+
 {
     kernel::DocumentManager &documents = workbench.documents();
     while (documents.active() && documents.close(documents.documents().back().get()))

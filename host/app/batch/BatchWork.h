@@ -19,6 +19,10 @@ void setForce(Workbench &workbench, const ProgramOptions &options);
 /// overruled stands against it only as long as nobody forces it.
 QString whyNotToWrite(const QString &path, bool isForced);
 
+/// Why the result of a drawing is not to be written as `target`, whose name the run made up: a file that is there
+/// beside the drawing, and is not the drawing itself, may be another one. Empty when it may be, and when it is forced.
+QString whyNotBeside(const QString &drawing, const QString &target, bool isForced);
+
 /// Tells the problems from `told` on.
 void tellProblems(const Workbench &workbench, qsizetype &told);
 /// Tells which files a session or program should have written and did not.

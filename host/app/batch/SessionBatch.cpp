@@ -176,6 +176,8 @@ QString SessionBatch::writeResults(kernel::Document &document, const QString &pa
         const QString target = resultPath(m_options.outFolder, drawing, u"dxf"_s);
         result.out.append(target);
         if (const QString error = document.saveCopy(target).error; !error.isEmpty())
+        if (const QString obstacle = whyNotBeside(path, target, m_options.isForced); !obstacle.isEmpty())
+            return obstacle;
             return error;
     }
     if (!m_options.withPictures)

@@ -68,7 +68,9 @@ UseRow auditUse()
                     .help = QT_TRANSLATE_NOOP("Uses", "the folder to write them into, under their names"),
                     .apply = takeText<&ProgramOptions::outFolder>,
                     .kind = ValueKind::Folder},
-                   forceOption(QT_TRANSLATE_NOOP("Uses", "write files although another program has them open")),
+                   forceOption(QT_TRANSLATE_NOOP("Uses",
+                                                 "write files although another program has them open, or they lie "
+                                                 "beside a drawing under its result's name")),
                    jobsOption(),
                    timeLimitOption(QT_TRANSLATE_NOOP("Uses", "the most that each drawing may take"),
                                    QT_TRANSLATE_NOOP("Uses", "no limit")),

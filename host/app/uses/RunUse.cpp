@@ -51,8 +51,9 @@ QList<OptionRow> runOptions()
          .help = QT_TRANSLATE_NOOP("Uses", "where pictures go that the session takes, and those of --png"),
          .apply = takeText<&ProgramOptions::pictureFolder>,
          .kind = ValueKind::Folder},
-        forceOption(QT_TRANSLATE_NOOP(
-            "Uses", "write files as well that another program has open, or has changed since they were opened")),
+        forceOption(QT_TRANSLATE_NOOP("Uses",
+                                      "write files as well that another program has open, or has changed since "
+                                      "they were opened, or that lie beside a drawing under its result's name")),
         timeLimitOption(QT_TRANSLATE_NOOP("Uses", "the most the session may take with one drawing; one that does not "
                                                   "stop then ends the program"),
                         "120"),

@@ -96,8 +96,9 @@ QList<OptionRow> resultOptions()
          .apply = setFlag<&ProgramOptions::isInPlace>},
         recoverOption(QT_TRANSLATE_NOOP("Uses", "open damaged drawings as far as they are sound, and tell on standard "
                                                 "error what was dropped")),
-        forceOption(QT_TRANSLATE_NOOP("Uses", "write files as well that another program has open, or has changed since "
-                                              "they were opened")),
+        forceOption(QT_TRANSLATE_NOOP("Uses",
+                                      "write files as well that another program has open, or has changed since "
+                                      "they were opened, or that lie beside a drawing under its result's name")),
         timeLimitOption(QT_TRANSLATE_NOOP("Uses", "the most it may take with one drawing"), "120"),
         memoryLimitOption(),
         jobsOption(),

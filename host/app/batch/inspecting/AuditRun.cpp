@@ -40,7 +40,9 @@ QString writeMended(const drawing::Drawing &mended, const QString &input, const 
     if (source && source == kernel::identityOf(output))
         return QCoreApplication::translate("Inspecting", "%1: what is mended is not written over the drawing")
             .arg(native(output));
-    const QString obstacle = whyNotToWrite(output, isForced);
+    QString obstacle = whyNotToWrite(output, isForced);
+    if (obstacle.isEmpty())
+        obstacle = whyNotBeside(input, output, isForced);
     return obstacle.isEmpty() ? drawing::saveCopy(mended, output).error : obstacle;
 }
 

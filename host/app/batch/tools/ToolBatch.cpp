@@ -64,7 +64,7 @@ private:
     FileResult runOne(Workbench &workbench, const QString &path);
     void workOn(kernel::Document &document, const QString &path, FileResult &result);
     kernel::RunResult runCommand(kernel::Document &document, ToolDriver &driver);
-    QString whyNotInPlace(const QString &path) const;
+    QString whyNotToSave(const QString &path) const;
     void writeDrawing(kernel::Document &document, const QString &path, FileResult &result);
     QString keepApart(kernel::Document &document) const;
     QString writeState(const QString &path) const;
@@ -283,7 +283,7 @@ FileResult ToolBatch::runOne(Workbench &workbench, const QString &path)
     FileResult result{.file = path};
     const MessageKeeper keeper;
     const LimitWatch watch(LimitWatch::withTimeToStop(timeLimit()), native(path));
-    if (const QString obstacle = whyNotInPlace(path); !obstacle.isEmpty()) {
+    if (const QString obstacle = whyNotToSave(path); !obstacle.isEmpty()) {
         writeMessage(obstacle);
         result.outcome = Outcome::NotWritten;
         result.messages = keeper.messages();
@@ -434,10 +434,12 @@ void ToolBatch::workOn(kernel::Document &document, const QString &path, FileResu
     writeDrawing(document, path, result);
 }
 
-/// Why the drawing cannot be saved where it is; empty when it can, or need not. Looked at first: the tool tells what it
-/// does, and may write files beside.
-QString ToolBatch::whyNotInPlace(const QString &path) const
+/// Why the drawing cannot be saved where it is, or its copy is not written; empty when it can, or need not. Looked at
+/// first: the tool tells what it does, and may write files beside.
+QString ToolBatch::whyNotToSave(const QString &path) const
 {
+    if (!m_options.outFolder.isEmpty())
+        return whyNotBeside(path, resultPath(m_options.outFolder, path, u"dxf"_s), m_options.isForced);
     return m_options.isInPlace && m_tool.changes ? whyNotToWrite(path, m_options.isForced) : QString();
 }
 
