@@ -93,6 +93,8 @@ Bytes findPreview(Bytes file, Problems &problems)
     const std::size_t place = numberAt(file, 0x0d);
     const Bytes mark = markBytes(SectionMark::Preview);
     const Bytes told = file.subspan(std::min(place, file.size()));
+    if (place == 0)
+        return {};
     if (told.size() >= mark.size() && std::equal(mark.begin(), mark.end(), told.begin()))
         return told.subspan(mark.size());
     const auto found = std::search(file.begin(), file.end(), mark.begin(), mark.end());
@@ -100,8 +102,7 @@ Bytes findPreview(Bytes file, Problems &problems)
         problems.warn("The preview is not where the file tells; it was found by its mark.");
         return Bytes(found, file.end()).subspan(mark.size());
     }
-    if (place != 0)
-        problems.lose("The preview cannot be found.");
+    problems.lose("The preview cannot be found.");
     return {};
 }
 
