@@ -918,6 +918,23 @@ TEST_F(MainWindowTest, RecordsASessionThatPlays)
     EXPECT_TRUE(drawn.contains(u"(40 . 5.0)"_s)) << drawn.toStdString();
 }
 
+TEST_F(MainWindowTest, ExternalReferencesThatAreNotWholeAreToldOnce)
+{
+    write(u"hurt.dwg"_s, dwgFile(2, 1));
+    window->start({write(u"host.dxf"_s, smallDrawing())});
+    lisp(u"(entmake '((0 . \"BLOCK\") (2 . \"H\") (70 . 4) (10 0.0 0.0 0.0) (1 . \"hurt.dwg\")))"
+         "(entmake '((0 . \"ENDBLK\")))(entmake '((0 . \"INSERT\") (2 . \"H\") (10 0.0 0.0 0.0)))"_s);
+    const QString told = u"hurt.dwg: 1 object could not be read."_s;
+    for (const char *look : {"_.ZOOM", "_.REGEN"}) {
+        lisp(u"(command \"%1\")"_s.arg(QString::fromLatin1(look)) + u"(command)"_s);
+        window->grab();
+        EXPECT_EQ(history().count(told), 1) << look << '\n' << history().toStdString();
+    }
+    lisp(u"(command \"_.-XREF\" \"_Reload\" \"H\")"_s);
+    window->grab();
+    EXPECT_EQ(history().count(told), 2) << "reading it again was asked for, and the view does not say it too";
+}
+
 TEST_F(MainWindowTest, DwgFilesOpenWithWhatCouldNotBeReadAboveThem)
 {
     auto *bar = window->findChild<QWidget *>(u"lossBar"_s);

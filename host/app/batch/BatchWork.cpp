@@ -1,11 +1,12 @@
 #include "host/app/batch/BatchWork.h"
 
 #include "files/qt/VisibleText.h"
+#include "host/app/batch/RecoveryTelling.h"
 #include "host/app/batch/UnattendedFeeder.h"
 #include "host/app/workbench/ProgramOutput.h"
 #include "host/kernel/documents/Session.h"
-#include "host/kernel/files/WriteObstacle.h"
 #include "host/kernel/files/FileStamp.h"
+#include "host/kernel/files/WriteObstacle.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -44,7 +45,6 @@ QString whyNotToWrite(const QString &path, bool isForced)
     return obstacle && !(isForced && obstacle->mayBeOverruled()) ? obstacle->text : QString();
 }
 
-void closeAll(Workbench &workbench)
 QString whyNotBeside(const QString &drawing, const QString &target, bool isForced)
 {
     const auto present = kernel::identityOf(target);
@@ -59,6 +59,7 @@ QString whyNotBeside(const QString &drawing, const QString &target, bool isForce
                      .arg(files::visibleText(native(target)));
 }
 
+void closeAll(Workbench &workbench)
 {
     kernel::DocumentManager &documents = workbench.documents();
     while (documents.active() && documents.close(documents.documents().back().get()))
@@ -76,6 +77,13 @@ drawing::ReadableFiles readableFor(const ProgramOptions &options)
             return;
         told->insert(path);
         writeMessage(u"%1 was not read: %2"_s.arg(files::visibleText(native(path)), reason));
+    };
+    readable.incomplete = [told = std::make_shared<QSet<QString>>()](const QString &path,
+                                                                     const drawing::ReadingNotes &notes) {
+        if (told->contains(path))
+            return;
+        told->insert(path);
+        tellLost(path, notes);
     };
     return readable;
 }

@@ -33,7 +33,7 @@ int tellMissing(const QString &path, const view::RenderReport &report);
 /// Closes all drawings without saving, those that programs opened too.
 void closeAll(Workbench &workbench);
 
-/// What files drawings may name; what is refused is told once each.
+/// What files drawings may name; what is refused is told once each, and what of a drawing among them could not be read.
 drawing::ReadableFiles readableFor(const ProgramOptions &options);
 
 /// A path as people write it on this system.

@@ -34,7 +34,8 @@ private:
     void playOn(kernel::Document &document, const QString &path, const PlaybackCase &one, FileResult &result);
     void writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played,
                       FileResult &result);
-    QString writeResults(kernel::Document &document, const QString &path, FileResult &result);
+    QString writeResults(kernel::Document &document, const QString &path, const IncompleteTold &told,
+                         FileResult &result);
     QString picturePath(const QString &drawing) const;
 
     const ProgramOptions &m_options;
@@ -167,22 +168,23 @@ QString SessionBatch::picturePath(const QString &drawing) const
 }
 
 /// The drawing and its picture as they are in the end; of a session with cases nothing, each having its own end.
-QString SessionBatch::writeResults(kernel::Document &document, const QString &path, FileResult &result)
+QString SessionBatch::writeResults(kernel::Document &document, const QString &path, const IncompleteTold &told,
+                                   FileResult &result)
 {
     if (!m_script.cases.isEmpty())
         return {};
     const QString drawing = path.isEmpty() ? document.title() : path;
     if (!m_options.outFolder.isEmpty() && document.isModified()) {
         const QString target = resultPath(m_options.outFolder, drawing, u"dxf"_s);
-        result.out.append(target);
-        if (const QString error = document.saveCopy(target).error; !error.isEmpty())
         if (const QString obstacle = whyNotBeside(path, target, m_options.isForced); !obstacle.isEmpty())
             return obstacle;
+        result.out.append(target);
+        if (const QString error = document.saveCopy(target).error; !error.isEmpty())
             return error;
     }
     if (!m_options.withPictures)
         return {};
-    const view::ExportResult picture = writeDrawingPicture(document, picturePath(drawing));
+    const view::ExportResult picture = writeDrawingPicture(document, picturePath(drawing), told);
     if (tellMissing(picturePath(drawing), picture.report) != ExitDone)
         result.outcome = Outcome::CutShort;
     result.out.append(picturePath(drawing));
@@ -192,13 +194,16 @@ QString SessionBatch::writeResults(kernel::Document &document, const QString &pa
 void SessionBatch::writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played,
                                 FileResult &result)
 {
+    const IncompleteTold tellOnce = readableFor(m_options).incomplete;
     result.out = played.files;
+    for (const auto &[reference, notes] : played.references)
+        tellOnce(reference, notes);
     for (const auto &[picture, report] : played.incomplete)
         if (tellMissing(picture, report) != ExitDone)
             result.outcome = Outcome::CutShort;
     const QMetaObject::Connection told = QObject::connect(&document, &kernel::Document::printed, &document,
                                                           [](const QString &text) { writeMessage(text.trimmed()); });
-    const QString error = writeResults(document, path, result);
+    const QString error = writeResults(document, path, tellOnce, result);
     QObject::disconnect(told);
     if (error.isEmpty())
         return;

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace host::app {
@@ -44,6 +45,7 @@ struct PlaybackResult
     QStringList files;    ///< drawings and pictures that were written
     bool wasLeft = false; ///< an `only-if` ended it
     std::vector<std::pair<QString, view::RenderReport>> incomplete{}; ///< pictures that do not show all, by their path
+    std::map<QString, drawing::ReadingNotes> references{}; ///< files seen in pictures that could not be read whole
 };
 
 } // namespace host::app

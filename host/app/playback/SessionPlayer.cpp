@@ -308,7 +308,10 @@ QString SessionPlayer::screenshot(const Step &step, QWidget *window)
     if (window) {
         error = writeWidgetPicture(*window, path);
     } else {
-        const view::ExportResult written = writeDrawingPicture(m_document, path);
+        const view::ExportResult written =
+            writeDrawingPicture(m_document, path, [this](const QString &reference, const drawing::ReadingNotes &notes) {
+                m_result.references.insert_or_assign(reference, notes);
+            });
         error = written.error;
         if (written && !written.report.isWhole())
             m_result.incomplete.emplace_back(path, written.report);

@@ -15,11 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace host::app {
 
-view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path)
+view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path, IncompleteTold told)
 {
     if (const auto obstacle = kernel::obstacleToWriting(path, &document.session()))
         return {.error = obstacle->text, .report = {}};
-    return writeDrawingPicture(document.drawing(), path, kernel::expressionSurroundings(document));
+    drawing::MacroSurroundings surroundings = kernel::expressionSurroundings(document);
+    if (told)
+        surroundings.incomplete = std::move(told);
+    return writeDrawingPicture(document.drawing(), path, surroundings);
 }
 
 view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QWidget;
 
 namespace host::kernel {
@@ -20,8 +22,11 @@ namespace host::app {
 /// the drawing may ask for.
 view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
                                        const drawing::MacroSurroundings &surroundings);
-/// The same for an open document, which knows more system variables, as it is now, saved or not.
-view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path);
+/// Told of a drawing that is seen through an external reference, with what of its file could not be read.
+using IncompleteTold = std::function<void(const QString &path, const drawing::ReadingNotes &notes)>;
+/// The same for an open document, which knows more system variables, as it is now, saved or not. Without `told` the
+/// document prints what its references lack, once.
+view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path, IncompleteTold told = {});
 
 /// The same with the sheets of layouts: any number in a PDF, one or none in the other formats.
 view::ExportResult writePages(view::Exporter &exporter, const QString &path, const QStringList &layouts);

@@ -11,8 +11,10 @@ namespace host::kernel {
 drawing::ReadResult openSource(CommandContext &context, const QString &path)
 {
     drawing::ReadResult source = drawing::Drawing::open(path);
-    if (source && source.drawing->readingNotes().hasFaults())
+    if (source && source.drawing->readingNotes().hasFaults()) {
         context.print(u"\n%1: %2."_s.arg(path, source.drawing->readingNotes().summary()));
+        context.document().countIncompleteAsTold(path);
+    }
     return source;
 }
 

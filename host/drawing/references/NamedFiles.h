@@ -22,6 +22,8 @@ struct ReadableFiles
     QStringList files;
     /// Told the full path of a file that is there and is not read, and why; may be empty.
     std::function<void(const QString &path, const QString &reason)> refused;
+    /// Told of a drawing that was read, with what of its file could not be or is doubtful; may be empty.
+    std::function<void(const QString &path, const ReadingNotes &notes)> incomplete{};
 };
 
 /// Looks by full paths, from the drawing's folder on (the working folder for a drawing without a path), and in the

@@ -7,6 +7,8 @@
 
 namespace host::drawing {
 
+struct ReadingNotes;
+
 /// What a drawing may ask of its surroundings, above all its macro expressions. A function that is missing knows
 /// nothing; lengths and angles are plain decimal numbers then.
 struct MacroSurroundings
@@ -24,6 +26,8 @@ struct MacroSurroundings
     std::function<QString(const QString &name)> file{};
     /// Told of a file that was found and could not be read; may be missing.
     std::function<void(const QString &path, const QString &reason)> unread{};
+    /// Told of a drawing that was read, with what of its file could not be or is doubtful; may be missing.
+    std::function<void(const QString &path, const ReadingNotes &notes)> incomplete{};
 };
 
 /// The most characters that an expression gives. More is cut off there and marked.

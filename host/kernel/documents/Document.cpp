@@ -334,6 +334,19 @@ void Document::tellUnread(const QString &path, const QString &reason)
               : Kernel::tr("\n%1 was not read: %2.\n").arg(files::visibleText(QDir::toNativeSeparators(path)), reason));
 }
 
+void Document::tellIncomplete(const QString &path, const drawing::ReadingNotes &notes)
+{
+    if (m_incomplete.contains(path))
+        return;
+    countIncompleteAsTold(path);
+    print(QStringLiteral("\n%1: %2.\n").arg(files::visibleText(QDir::toNativeSeparators(path)), notes.summary()));
+}
+
+void Document::countIncompleteAsTold(const QString &path)
+{
+    m_incomplete.insert(QFileInfo(path).canonicalFilePath());
+}
+
 void Document::addKeptBack(const KeptBack &item)
 {
     if (m_keptBack.add(item))

@@ -219,6 +219,10 @@ public:
     const QStringList &readableFiles() const { return m_readableFiles; }
     /// Says once that a file which the drawing names was not read.
     void tellUnread(const QString &path, const QString &reason);
+    /// Says once of a drawing which this one names that not all of its file could be read.
+    void tellIncomplete(const QString &path, const drawing::ReadingNotes &notes);
+    /// Whoever read the file has said so.
+    void countIncompleteAsTold(const QString &path);
     /// What the drawing and programs in it were kept from doing.
     const KeptBackList &keptBack() const { return m_keptBack; }
     /// One more, which is told by whoever adds it.
@@ -342,7 +346,8 @@ private:
     CommandMemory m_memory;
     QStringList m_commandNames; ///< outermost first
     QStringList m_readableFiles;
-    QSet<QString> m_unread; ///< what was told
+    QSet<QString> m_unread;     ///< what was told
+    QSet<QString> m_incomplete; ///< likewise
     KeptBackList m_keptBack;
     QString m_lastCommand; ///< for an empty line
     bool m_isDialogOpen = false;

@@ -56,6 +56,9 @@ MacroSurroundings expressionSurroundings(Document &document)
     surroundings.unread = [&document](const QString &path, const QString &reason) {
         document.tellUnread(path, reason);
     };
+    surroundings.incomplete = [&document](const QString &path, const drawing::ReadingNotes &notes) {
+        document.tellIncomplete(path, notes);
+    };
     return surroundings;
 }
 
@@ -64,6 +67,7 @@ MacroSurroundings expressionSurroundings(const drawing::Drawing &drawing, drawin
     MacroSurroundings surroundings =
         surroundingsWith([&drawing](const QString &name) { return drawing::drawingVariable(drawing, name); });
     surroundings.unread = readable.refused;
+    surroundings.incomplete = readable.incomplete;
     surroundings.file = drawing::namedFiles(drawing, std::move(readable));
     return surroundings;
 }

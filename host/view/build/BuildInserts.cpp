@@ -152,11 +152,13 @@ void addAttributes(BuildContext &context, Reference &reference)
 }
 
 /// Whether the insert of another drawing can be left at what its reference shows. One that is not to be had is a mark
-/// with its name.
+/// with its name; one whose file could not be read whole is shown in part.
 bool finishExternal(BuildContext &context, const TagList &tags, const ExternalView &external)
 {
     context.display.isExternal = true;
     context.display.isHidden = external.state == ExternalView::State::LeftOut;
+    context.display.isSimplified =
+        external.state == ExternalView::State::Shown && external.drawing->readingNotes().hasLost();
     if (external.state != ExternalView::State::Missing)
         return true;
     const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));

@@ -39,7 +39,7 @@ int depthOf(const Scene *scene)
 
 } // namespace
 
-std::shared_ptr<const drawing::Drawing> ExternalFiles::open(const QString &path)
+std::shared_ptr<const drawing::Drawing> ExternalFiles::open(const QString &path, const drawing::MacroSurroundings &told)
 {
     if (const auto known = m_known.constFind(path); known != m_known.constEnd())
         return *known;
@@ -47,7 +47,12 @@ std::shared_ptr<const drawing::Drawing> ExternalFiles::open(const QString &path)
     std::shared_ptr<const drawing::Drawing> drawing;
     if (size <= std::min(largestExternal, m_bytesLeft)) {
         m_bytesLeft -= size;
-        drawing = drawing::Drawing::open(path).drawing;
+        drawing::ReadResult read = drawing::Drawing::open(path);
+        if (!read && told.unread)
+            told.unread(path, read.error.message());
+        if (read && read.drawing->readingNotes().hasFaults() && told.incomplete)
+            told.incomplete(path, read.drawing->readingNotes());
+        drawing = std::move(read.drawing);
     }
     return *m_known.insert(path, drawing);
 }
@@ -75,15 +80,18 @@ ExternalView openExternal(Scene &host, const drawing::Block &block)
             view.state = ExternalView::State::LeftOut;
             return view;
         }
-        view.drawing = host.externalFiles().open(path);
+        view.drawing = host.externalFiles().open(path, host.surroundings());
         if (view.drawing)
             break;
     }
     if (!view.drawing || !host.externalFiles().takeReference())
         return view;
     const Vec3 base = view.drawing->header().point(u"$INSBASE"_s);
-    drawing::MacroSurroundings surroundings{.length = host.surroundings().length, .angle = host.surroundings().angle};
-    surroundings.file = drawing::namedFilesWithin(*view.drawing, find);
+    drawing::MacroSurroundings surroundings{.length = host.surroundings().length,
+                                            .angle = host.surroundings().angle,
+                                            .file = drawing::namedFilesWithin(*view.drawing, find),
+                                            .unread = host.surroundings().unread,
+                                            .incomplete = host.surroundings().incomplete};
     view.scene = std::make_shared<Scene>(*view.drawing, std::move(surroundings), host, block.name);
     view.placement = Matrix::translation(block.basePoint - (isUsable(base) ? base : Vec3{}));
     view.state = ExternalView::State::Shown;

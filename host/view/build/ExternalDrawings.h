@@ -3,6 +3,7 @@
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/references/NamedFiles.h"
+#include "host/drawing/text/MacroExpression.h"
 
 #include <QHash>
 
@@ -19,8 +20,9 @@ class Scene;
 class ExternalFiles
 {
 public:
-    /// Null for a file that is no drawing, or not to be had; that is kept in mind as well.
-    std::shared_ptr<const drawing::Drawing> open(const QString &path);
+    /// Null for a file that is no drawing, or not to be had; that is kept in mind as well. Where it is read, `told`
+    /// hears why it could not be, or what of it could not.
+    std::shared_ptr<const drawing::Drawing> open(const QString &path, const drawing::MacroSurroundings &told);
     /// Takes one of the references that may be followed; false when there are no more.
     bool takeReference() { return --m_referencesLeft >= 0; }
     /// Files are read anew the next time. What was handed out stays.

@@ -10,6 +10,7 @@
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/text/DateText.h"
+#include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/view/build/Scene.h"
 
 #include <QFileInfo>
@@ -110,14 +111,15 @@ void addUnits(QJsonObject &facts, const Drawing &drawing)
     facts.insert(u"measurement"_s, drawing.header().integer(u"$MEASUREMENT") == 1 ? u"metric"_s : u"imperial"_s);
 }
 
-void addExtents(QJsonObject &facts, const Drawing &drawing)
+/// What drawings that this one shows lack is told.
+void addExtents(QJsonObject &facts, const Drawing &drawing, const drawing::ReadableFiles &readable)
 {
     QJsonObject extents;
     const drawing::Vec3 low = drawing.header().point(u"$EXTMIN");
     const drawing::Vec3 high = drawing.header().point(u"$EXTMAX");
     if (drawing.header().get(u"$EXTMIN") && low.x <= high.x && low.y <= high.y)
         extents.insert(u"header"_s, QJsonArray{pointArray(low), pointArray(high)});
-    view::Scene scene(drawing);
+    view::Scene scene(drawing, kernel::expressionSurroundings(drawing, readable));
     const drawing::Box box = scene.extents(view::Scene::modelSpace);
     if (!box.isEmpty())
         extents.insert(u"measured"_s, QJsonArray{pointArray(box.low), pointArray(box.high)});
@@ -238,7 +240,7 @@ QJsonObject drawingFacts(const Drawing &drawing, const drawing::ReadableFiles &r
     addFormat(facts, drawing);
     addSummary(facts, drawing);
     addUnits(facts, drawing);
-    addExtents(facts, drawing);
+    addExtents(facts, drawing, readable);
     addCounts(facts, counts, drawing);
     facts.insert(u"layers"_s, layersArray(drawing, counts));
     facts.insert(u"blocks"_s, blocksArray(drawing, counts));
