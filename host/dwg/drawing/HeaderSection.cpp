@@ -19,12 +19,21 @@ HeaderValues notedValues(const Fields &fields)
 {
     HeaderValues values;
     std::string *value = nullptr;
+    std::size_t begin = 0;
+    std::size_t at = 0;
+    const auto close = [&] {
+        if (value)
+            fields.write(*value, begin, at);
+    };
     fields.forEachTag([&](int code, std::string_view text) {
-        if (code == 9)
+        if (code == 9) {
+            close();
             value = &values[std::string(text)];
-        else if (value)
-            *value += tagLines(code, text);
+            begin = at + 1;
+        }
+        ++at;
     });
+    close();
     std::erase_if(values, [](const auto &one) { return one.second.empty(); });
     return values;
 }
