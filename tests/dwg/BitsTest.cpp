@@ -6,6 +6,7 @@
 #include "host/dwg/container/PageCompression.h"
 #include "host/dwg/container/UnpackedPage.h"
 #include "host/dwg/objects/Colours.h"
+#include "tests/dwg/making/BitWriter.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -210,6 +211,85 @@ TEST(DwgBits, BytesAndTextsAreTheSameAtAnyPlace)
                 << length << ' ' << shift;
             EXPECT_EQ(text.utf16(length), ascii.substr(0, length)) << length << ' ' << shift;
             EXPECT_TRUE(text.utf16(1).empty() && text.hasFailed());
+        }
+    }
+}
+
+TEST(DwgBits, TextsEndAtTheirFirstZero)
+{
+    struct Row
+    {
+        std::u16string units;
+        std::string text;
+    };
+    const std::vector<Row> rows = {
+        {u"", ""},
+        {u"abc", "abc"},
+        {std::u16string(u"ab\0cdefgh", 9), "ab"},
+        {std::u16string(u"abcd\0efgh", 9), "abcd"},
+        {std::u16string(u"\0", 1), ""},
+        {u"ab\u00e4cdefg\u20ac", "ab\xc3\xa4"
+                                 "cdefg\xe2\x82\xac"},
+        {u"\U0001f600abcd\U0001f600", "\xf0\x9f\x98\x80"
+                                      "abcd\xf0\x9f\x98\x80"},
+        {{u'a', 0xd83d, u'b', 0xde00, 0xd83d},
+         "a\xef\xbf\xbd"
+         "b\xef\xbf\xbd\xef\xbf\xbd"},
+        {{0xd83d, 0, u'x'}, "\xef\xbf\xbd"},
+        {std::u16string(300, u'x') + u'\u0416' + std::u16string(300, u'y'),
+         std::string(300, 'x') + "\xd0\x96" + std::string(300, 'y')},
+    };
+    for (const Row &row : rows) {
+        for (int shift = 0; shift < 8; ++shift) {
+            test::BitWriter writer;
+            writer.bits(0, shift);
+            for (const char16_t unit : row.units)
+                writer.raw16(unit);
+            writer.byte(0x5a);
+            const std::vector<std::uint8_t> bytes = writer.bytes();
+            BitReader reader(bytes);
+            reader.skip(static_cast<std::size_t>(shift));
+            EXPECT_EQ(reader.utf16(row.units.size()), row.text) << shift;
+            EXPECT_EQ(reader.byte(), 0x5a) << row.text << ' ' << shift;
+        }
+    }
+}
+
+TEST(DwgBits, RunsAreTheSameBits)
+{
+    std::mt19937 random(4);
+    const std::vector<std::uint8_t> bytes = anyBytes(24, random);
+    for (std::size_t begin = 0; begin < 70; ++begin) {
+        for (std::size_t end = begin + 1; end < begin + 70; ++end) {
+            BitReader reader(bytes);
+            reader.seek(end);
+            const BitRun run = reader.runFrom(begin);
+            ASSERT_EQ(run.count, std::min(end - begin, BitRun::most));
+            for (const std::size_t other : {begin, begin + 1}) {
+                BitReader again(bytes, other, end);
+                bool isSame = end - other >= run.count;
+                for (std::size_t i = 0; isSame && i < run.count; ++i)
+                    isSame = bitByBit(bytes, begin + i, 1) == bitByBit(bytes, other + i, 1);
+                EXPECT_EQ(again.isNext(run), isSame) << begin << ' ' << end << ' ' << other;
+            }
+        }
+    }
+}
+
+TEST(DwgChecksums, OfPagesAreTheSumsOfTheirBytes)
+{
+    std::mt19937 random(5);
+    for (const std::size_t size : {1, 7, 8, 127, 128, 129, 5551, 5552, 5553, 0x7400}) {
+        for (const bool isHighest : {false, true}) {
+            const std::vector<std::uint8_t> bytes =
+                isHighest ? std::vector<std::uint8_t>(size, 0xff) : anyBytes(size, random);
+            std::uint32_t first = 0xfff0;
+            std::uint32_t second = 0xffef;
+            for (const std::uint8_t byte : bytes) {
+                first = (first + byte) % 0xfff1;
+                second = (second + first) % 0xfff1;
+            }
+            EXPECT_EQ(pageChecksum(bytes, 0xffef'fff0), second << 16 | first) << size;
         }
     }
 }

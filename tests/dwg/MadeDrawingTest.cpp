@@ -2,6 +2,7 @@
 
 #include "host/dwg/container/PageCompression.h"
 #include "tests/dwg/making/ReadBack.h"
+#include "tests/dwg/making/TypeNumbers.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -20,6 +21,12 @@ void writeCircle(ObjectWriter &o)
     o.real(5.0);
     o.thickness(0.25);
     o.extrusion({0.0, 0.0, -1.0});
+}
+
+void tellOwner(MadeHead &head)
+{
+    head.space = 0;
+    head.owner = MadeHandles::ModelSpace;
 }
 
 } // namespace
@@ -75,6 +82,59 @@ TEST_P(MadeFiles, HaveAsManyObjectsAsAreAdded)
     EXPECT_EQ(read.problems(), "");
     EXPECT_EQ(read.drawing.objectCount, MadeDrawing(GetParam()).parts().objects.size() + count);
     EXPECT_EQ(read.lastPart(0x40 + count - 1), read.lastPart(0x40));
+}
+
+// Most heads are those of entities before, and are taken over from there: none but those that are the same.
+TEST_P(MadeFiles, EntitiesHaveTheirOwnHeads)
+{
+    struct Row
+    {
+        void (*change)(MadeHead &head);
+        std::string owner; ///< and what else stands in front of "AcDbEntity"
+        std::string tags;  ///< behind it
+    };
+    const std::string usualOwner = "330 1D|";
+    const std::string usualTags = "8 0|";
+    constexpr std::uint64_t layer = MadeHandles::First;
+    const std::vector<Row> rows = {
+        {[](MadeHead &) {}, usualOwner, usualTags},
+        {[](MadeHead &head) { head.colour = 3; }, usualOwner, "8 0|62 3|"},
+        {[](MadeHead &head) { head.layer = layer; }, usualOwner, "8 WALL|"},
+        {[](MadeHead &head) { head.isVisible = false; }, usualOwner, "8 0|60 1|"},
+        {tellOwner, usualOwner, usualTags},
+        {[](MadeHead &head) { head.space = 1; }, "330 1A|", "67 1|8 0|"},
+        {[](MadeHead &head) { head.linetypeScale = 0.5; }, usualOwner, "8 0|48 0.5|"},
+        {[](MadeHead &head) { head.reactors = {0x10}; }, "102 {ACAD_REACTORS|330 10|102 }|" + usualOwner, usualTags},
+        {[](MadeHead &head) { head.reactors = {0x11}; }, "102 {ACAD_REACTORS|330 11|102 }|" + usualOwner, usualTags},
+        {[](MadeHead &head) { head.tellsNeighbours = false; }, usualOwner, usualTags},
+        {[](MadeHead &head) {
+             tellOwner(head);
+             head.isOwnerCounted = true;
+         },
+         usualOwner, usualTags},
+        {[](MadeHead &head) {
+             tellOwner(head);
+             head.isOwnerCounted = true;
+             ++head.owner; // as far away as that of the one before
+         },
+         "330 1E|", usualTags},
+    };
+    MadeDrawing drawing(GetParam());
+    ASSERT_EQ(drawing.addEntry(LayerType, layerWriter("WALL", true, [](ObjectWriter &o) { o.colour(1); })), layer);
+    // Each one twice in a row, and again after all others.
+    std::vector<std::pair<std::uint64_t, const Row *>> entities;
+    for (std::size_t i = 0; i < 4 * rows.size(); ++i) {
+        const Row &row = rows[i / 2 % rows.size()];
+        entities.emplace_back(drawing.addEntity(CircleType, writeCircle), &row);
+        row.change(drawing.head(entities.back().first));
+    }
+    const ReadBack read = readBack(drawing);
+    EXPECT_EQ(read.problems(), "");
+    for (const auto &[handle, row] : entities) {
+        const std::string record = read.record(handle);
+        EXPECT_EQ(record.substr(record.find('|', record.find("|5 ") + 1)),
+                  '|' + row->owner + "100 AcDbEntity|" + row->tags + "100 AcDbCircle|" + read.lastPart(handle));
+    }
 }
 
 TEST(MadePages, UnpackToWhatWasPacked)

@@ -1,6 +1,7 @@
 #include "host/dwg/bits/BitReader.h"
 
 #include <algorithm>
+#include <array>
 
 namespace host::dwg {
 
@@ -71,6 +72,14 @@ void BitReader::endAt(std::size_t position)
     moveTo(m_at);
 }
 
+BitRun BitReader::runFrom(std::size_t begin) const
+{
+    BitReader back = *this;
+    back.m_at = std::min(begin, m_at);
+    const std::size_t count = std::min(m_at - back.m_at, BitRun::most);
+    return count == 0 ? BitRun() : BitRun{back.ahead() >> (wordBits - count) << (wordBits - count), count};
+}
+
 bool BitReader::lookAhead(std::size_t count)
 {
     if (!isThere(count))
@@ -84,9 +93,7 @@ std::uint64_t BitReader::raw64()
 {
     if (!isThere(wordBits))
         return 0;
-    // The last bits stand in a ninth byte, unless the first one begins a byte.
-    const std::uint64_t last = m_bytes[(m_at + wordBits - 1) / 8] >> (8 - m_at % 8);
-    const std::uint64_t value = ahead() | last;
+    const std::uint64_t value = wholeWord();
     moveTo(m_at + wordBits);
     return turnedAround(value);
 }
@@ -180,10 +187,10 @@ Point BitReader::extrusion(Release release)
     return release >= Release::R2000 && bit() ? Point{0.0, 0.0, 1.0} : point();
 }
 
-std::uint64_t BitReader::modularUnsigned()
+std::uint64_t BitReader::longModular(std::uint8_t first)
 {
-    std::uint64_t value = 0;
-    for (int shift = 0; shift < 64; shift += 7) {
+    std::uint64_t value = first & 0x7f;
+    for (int shift = 7; shift < 64; shift += 7) {
         const std::uint64_t next = byte();
         value |= (next & 0x7f) << shift;
         if ((next & 0x80) == 0)
@@ -281,23 +288,37 @@ std::string BitReader::text16()
     return utf16(static_cast<std::uint16_t>(shortInteger()));
 }
 
-std::size_t BitReader::takeAscii(std::size_t units, std::string &text)
+std::uint64_t BitReader::nextUnits(std::size_t count) const
 {
-    constexpr std::size_t unitsAtOnce = 3;
-    constexpr std::uint64_t beyondAscii = 0x80ff'80ff'80ff;
-    std::size_t taken = 0;
-    text.resize(units);
-    for (; units - taken >= unitsAtOnce; taken += unitsAtOnce) {
-        const std::uint64_t next = ahead() >> 16;
-        if ((next & beyondAscii) != 0)
+    if (count >= unitsAtOnce)
+        return wholeWord();
+    constexpr std::uint64_t blanks = 0x2000'2000'2000'2000;
+    const std::size_t bits = 16 * count;
+    return ahead() >> (wordBits - bits) << (wordBits - bits) | blanks >> bits;
+}
+
+void BitReader::takeAscii(std::size_t end, std::string &text)
+{
+    constexpr std::uint64_t beyondAscii = 0x80ff'80ff'80ff'80ff;
+    constexpr std::uint64_t each = 0x0100'0100'0100'0100;
+    std::array<char, 32 * unitsAtOnce> taken;
+    std::size_t count = 0;
+    while (m_at < end) {
+        const std::size_t there = std::min((end - m_at) / 16, unitsAtOnce);
+        const std::uint64_t units = nextUnits(there);
+        // Of a unit that is zero the subtraction sets the highest bit.
+        if (((units | (units - each)) & beyondAscii) != 0)
             break;
-        text[taken] = static_cast<char>(next >> 40);
-        text[taken + 1] = static_cast<char>(next >> 24);
-        text[taken + 2] = static_cast<char>(next >> 8);
-        moveTo(m_at + 16 * unitsAtOnce);
+        for (std::size_t i = 0; i < unitsAtOnce; ++i)
+            taken[count + i] = static_cast<char>(units >> (56 - 16 * i));
+        count += there;
+        moveTo(m_at + 16 * there);
+        if (count > taken.size() - unitsAtOnce) {
+            text.append(taken.data(), count);
+            count = 0;
+        }
     }
-    text.resize(taken);
-    return taken;
+    text.append(taken.data(), count);
 }
 
 std::string BitReader::utf16(std::size_t units)
@@ -307,9 +328,9 @@ std::string BitReader::utf16(std::size_t units)
         return {};
     }
     std::string text;
-    std::size_t i = takeAscii(units, text);
+    const std::size_t end = m_at + 16 * units;
     std::uint32_t pending = 0;
-    for (; i < units; ++i) {
+    for (takeAscii(end, text); m_at < end; takeAscii(pending == 0 ? end : m_at, text)) {
         const std::uint32_t unit = raw16();
         if (pending != 0 && isLowHalf(unit)) {
             appendUtf8(text, 0x10000 + ((pending & 0x3ff) << 10) + (unit & 0x3ff));
@@ -319,12 +340,13 @@ std::string BitReader::utf16(std::size_t units)
         if (pending != 0)
             appendUtf8(text, 0xfffd);
         pending = isHighHalf(unit) ? unit : 0;
-        if (pending == 0)
+        if (unit == 0)
+            moveTo(end);
+        else if (pending == 0)
             appendUtf8(text, isLowHalf(unit) ? 0xfffd : unit);
     }
     if (pending != 0)
         appendUtf8(text, 0xfffd);
-    text.resize(std::min(text.size(), text.find('\0')));
     return text;
 }
 

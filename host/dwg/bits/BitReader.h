@@ -57,6 +57,15 @@ struct HandleReference
     std::uint64_t from(std::uint64_t from) const;
 };
 
+/// A few bits, the first one the highest; those behind them are 0.
+struct BitRun
+{
+    static constexpr std::size_t most = 57; ///< that can be looked at at a time, wherever they begin
+
+    std::uint64_t bits = 0;
+    std::size_t count = 0; ///< 1 to `most`
+};
+
 struct Point
 {
     double x = 0.0;
@@ -104,6 +113,14 @@ public:
         m_hasFailed = true;
         m_seen = m_at;
     }
+
+    /// Whether these bits come next.
+    bool isNext(const BitRun &run) const
+    {
+        return left() >= run.count && !m_hasFailed && (ahead() ^ run.bits) >> (wordBits - run.count) == 0;
+    }
+    /// The bits from `begin` up to here, as far as a run has room for them.
+    BitRun runFrom(std::size_t begin) const;
 
     // Raw values: the bits as they are.
     bool bit() { return bits(1) != 0; }
@@ -184,7 +201,11 @@ public:
     Point extrusion(Release release);
     Point point() { return {real(), real(), real()}; }
     /// Bytes of seven bits, the lowest first, as long as the highest bit says that another one follows.
-    std::uint64_t modularUnsigned();
+    std::uint64_t modularUnsigned()
+    {
+        const std::uint8_t first = byte();
+        return (first & 0x80) == 0 ? first : longModular(first);
+    }
     std::int64_t modularSigned();
     /// The same in units of 15 bits.
     std::uint32_t modularShort();
@@ -228,10 +249,22 @@ private:
         return loadWord(m_bytes + begin) << ((m_at - begin * 8) & 63);
     }
     std::uint64_t aheadInFewBytes() const;
+    /// A number of which the first byte was read.
+    std::uint64_t longModular(std::uint8_t first);
     /// One of more bytes than are looked at at a time, or one that is cut off.
     HandleReference longHandle();
-    /// Units of UTF-16 up to the first ones that are not ASCII, of `units` that are there: how many.
-    std::size_t takeAscii(std::size_t units, std::string &text);
+    /// The next 64 bits, which are there.
+    std::uint64_t wholeWord() const
+    {
+        // The last bits stand in a ninth byte, unless the first one begins a byte.
+        const std::uint64_t last = m_bytes[(m_at + wordBits - 1) / 8] >> (8 - m_at % 8);
+        return ahead() | last;
+    }
+    static constexpr std::size_t unitsAtOnce = 4;
+    /// The next `count` units of UTF-16, 1 to 4 that are there, with blanks behind them.
+    std::uint64_t nextUnits(std::size_t count) const;
+    /// Takes units of UTF-16 up to the bit `end`, as long as those that are looked at together are ASCII and no zeros.
+    void takeAscii(std::size_t end, std::string &text);
 
     /// Eight bytes as a word, the first one the highest.
     static std::uint64_t loadWord(const std::uint8_t *bytes)

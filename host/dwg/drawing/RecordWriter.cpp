@@ -32,11 +32,8 @@ bool hasLaterGroups(const Fields &fields)
 
 std::string tagLines(int code, std::string_view value)
 {
-    std::string text = std::to_string(code);
-    text.insert(0, text.size() < 3 ? 3 - text.size() : 0, ' ');
-    text += '\n';
-    text += value;
-    text += '\n';
+    std::string text;
+    addTagLines(code, value, text);
     return text;
 }
 
@@ -98,14 +95,12 @@ void RecordWriter::beginSection(std::string_view name)
 
 void RecordWriter::beginRecord(std::string_view type)
 {
-    m_text += "  0\n";
-    m_text += type;
-    m_text += '\n';
+    addTag(0, type);
 }
 
 void RecordWriter::addTag(int code, std::string_view value)
 {
-    m_text += tagLines(code, value);
+    addTagLines(code, value, m_text);
 }
 
 void RecordWriter::readHead(const ObjectFrame &frame, std::string_view typeName, bool isEntity)
@@ -131,11 +126,13 @@ void RecordWriter::writeFields(std::string_view recordType, std::string_view lin
 
 void RecordWriter::writeNoted(std::string_view recordType, std::string_view lines)
 {
-    const std::size_t companion = m_fields.companion();
-    const std::size_t extended = m_fields.mark();
-    m_head.noteExtendedData(m_fields);
-    m_fields.moveForward(extended, companion);
-    const std::size_t end = companion + m_fields.mark() - extended;
+    std::size_t end = m_fields.companion();
+    if (m_head.hasExtendedData()) {
+        const std::size_t extended = m_fields.mark();
+        m_head.noteExtendedData(m_fields);
+        m_fields.moveForward(extended, end);
+        end += m_fields.mark() - extended;
+    }
     beginRecord(recordType);
     m_text += lines;
     m_fields.write(m_text, 0, end);

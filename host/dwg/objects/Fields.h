@@ -132,6 +132,8 @@ public:
     BitReader &values() { return m_values; }
     BitReader &texts() { return m_texts; }
     BitReader &references() { return m_references; }
+    const BitReader &values() const { return m_values; }
+    const BitReader &references() const { return m_references; }
     /// What is not written, so that nothing refers to it as its extension dictionary or entry.
     std::unordered_set<std::uint64_t> &leftOut() { return m_leftOut; }
     /// The extension dictionaries of what was read before: those of R13 do not tell what they are.
@@ -218,6 +220,9 @@ public:
     void note(int code, const std::string &text) { note(code, std::string_view(text)); }
     void note(int code, const char *text) { note(code, std::string_view(text)); }
     void noteHandle(int code, std::uint64_t handle) { m_tags.addHandle(code, handle); }
+    /// The tags from `from` on, as other objects may have them.
+    TagLines::Kept keep(std::size_t from) const { return m_tags.keep(from); }
+    void note(const TagLines::Kept &kept) { m_tags.add(kept); }
     template <typename Number>
     Number noteUnless(int code, Number value, Unless unless)
     {

@@ -99,6 +99,12 @@ EntityValues readEntityValues(Fields &fields, bool hasRgbBesideBook)
     return entity;
 }
 
+/// The entity behind one that does not tell it, before R2004.
+std::uint64_t nextBehind(const Fields &fields)
+{
+    return fields.until(Release::R2000) ? fields.relations().handle + 1 : 0;
+}
+
 /// Up to R14 the layer stands in front of the neighbours, later behind them and the colour's name.
 void readEntityReferences(Fields &fields, EntityValues &entity)
 {
@@ -113,7 +119,7 @@ void readEntityReferences(Fields &fields, EntityValues &entity)
     if (fields.until(Release::R2000)) {
         if (!entity.hasNoLinks)
             fields.reference();
-        const std::uint64_t next = entity.hasNoLinks ? fields.relations().handle + 1 : fields.reference();
+        const std::uint64_t next = entity.hasNoLinks ? nextBehind(fields) : fields.reference();
         fields.relations().next = next;
     }
     entity.colourName = entity.colour.isNamed ? fields.reference() : 0;
@@ -194,14 +200,14 @@ std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release r
         return std::nullopt;
     ObjectFrame frame;
     frame.bytes = objects.subspan(begin, size);
-    BitReader body(frame.bytes);
-    frame.type = body.objectType(release);
+    reader.endAt((begin + size) * 8);
+    frame.type = reader.objectType(release);
     if (release >= Release::R2000 && release <= Release::R2007)
-        frame.referencesStart = body.raw32();
+        frame.referencesStart = reader.raw32();
     else if (release >= Release::R2010)
         frame.referencesStart = size * 8 - referenceBits;
-    frame.bodyStart = static_cast<std::uint32_t>(body.position());
-    if (body.hasFailed() || frame.referencesStart > size * 8)
+    frame.bodyStart = static_cast<std::uint32_t>(reader.position() - begin * 8);
+    if (reader.hasFailed() || frame.referencesStart > size * 8)
         return std::nullopt;
     return frame;
 }
@@ -209,8 +215,8 @@ std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release r
 bool hasItsChecksum(Bytes objects, std::uint64_t place, const ObjectFrame &frame)
 {
     const Bytes whole = objects.subspan(place, static_cast<std::size_t>(&frame.bytes.back() + 1 - &objects[place]));
-    BitReader told(objects, (place + whole.size()) * 8, objects.size() * 8);
-    return checksum16(whole, 0xc0c1) == told.raw16();
+    const Bytes told = objects.subspan(place + whole.size());
+    return told.size() >= 2 && checksum16(whole, 0xc0c1) == (told[0] | told[1] << 8);
 }
 
 BitReader textsOf(Bytes bytes, std::size_t end)
@@ -218,7 +224,7 @@ BitReader textsOf(Bytes bytes, std::size_t end)
     const auto numberAt = [bytes](std::size_t bit) { return BitReader(bytes, bit, bytes.size() * 8).raw16(); };
     // The last bit says whether there are any.
     const std::size_t flag = end - std::min<std::size_t>(end, 1);
-    if (end < 17 || !BitReader(bytes, flag, end).bit())
+    if (end < 17 || (bytes[flag / 8] << flag % 8 & 0x80) == 0)
         return BitReader(bytes, flag, flag);
     std::size_t at = end - 17;
     std::size_t size = numberAt(at);
@@ -246,11 +252,34 @@ void ObjectHead::read(const ObjectFrame &frame, bool isEntity, Fields &fields)
     fields.start(BitReader(frame.bytes, frame.bodyStart, valuesEnd), texts, BitReader(frame.bytes, m_objectEnd, all));
     fields.relations().isEntity = isEntity;
     fields.relations().handle = fields.values().handle().value;
+    if (isEntity) {
+        if (!repeatEntityHead(fields))
+            readEntityHead(fields);
+        return;
+    }
     readExtensions(fields);
-    if (isEntity)
-        readEntityHead(fields);
-    else
-        readObjectHead(fields);
+    readObjectHead(fields);
+}
+
+bool ObjectHead::repeatEntityHead(Fields &fields)
+{
+    const RepeatedHeads::Head *const head = m_repeated.repeat(fields);
+    if (!head)
+        return false;
+    m_space = head->space;
+    Relations &relations = fields.relations();
+    relations.owner = head->owner;
+    relations.next = nextBehind(fields);
+    m_graphicsMark = fields.mark();
+    return true;
+}
+
+/// Whether the head has nothing that goes by its handle, or is kept elsewhere than among the tags.
+bool ObjectHead::mayBeRepeated(const Fields &fields, bool hasNoLinks) const
+{
+    return fields.since(Release::R2000) && (fields.since(Release::R2004) || hasNoLinks) && !m_hasBookColour &&
+           m_extensions.empty() && m_reactors.empty() && m_graphics.empty() && fields.relations().dictionary == 0 &&
+           !fields.relations().hasStoredData;
 }
 
 void ObjectHead::readExtensions(Fields &fields)
@@ -268,6 +297,9 @@ void ObjectHead::readExtensions(Fields &fields)
 void ObjectHead::readEntityHead(Fields &fields)
 {
     BitReader &values = fields.values();
+    const std::size_t valuesBegin = values.position();
+    const std::size_t referencesBegin = fields.references().position();
+    readExtensions(fields);
     if (values.bit()) {
         const std::uint64_t size = fields.since(Release::R2010) ? values.longLong() : values.raw32();
         m_graphics = values.rawBytes(size);
@@ -290,6 +322,9 @@ void ObjectHead::readEntityHead(Fields &fields)
         fields.note(fields.since(Release::R2010) ? 160 : 92, m_graphics.size());
         fields.noteBinary(310, m_graphics);
     }
+    // The handle is the first tag.
+    if (mayBeRepeated(fields, entity.hasNoLinks))
+        m_repeated.keep(fields, valuesBegin, referencesBegin, 1, m_space);
 }
 
 bool ObjectHead::isInPaperSpace(const Fields &fields)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/dwg/objects/Fields.h"
+#include "host/dwg/objects/RepeatedHeads.h"
 
 namespace host::dwg {
 
@@ -46,6 +46,7 @@ public:
     /// Such entities may have the 24 bits of the colour beside the reference to it, of which no known file tells: from
     /// the next one on it is tried the other way. Whether all of the entity is read then tells which one is right.
     void tryOtherBookColours() { m_hasRgbBesideBook = !m_hasRgbBesideBook; }
+    bool hasExtendedData() const { return !m_extensions.empty(); }
     /// Notes the extended data behind everything else.
     void noteExtendedData(Fields &fields) const;
 
@@ -58,12 +59,15 @@ private:
 
     void readExtensions(Fields &fields);
     void readEntityHead(Fields &fields);
+    bool repeatEntityHead(Fields &fields);
+    bool mayBeRepeated(const Fields &fields, bool hasNoLinks) const;
     void readObjectHead(Fields &fields);
     bool isInPaperSpace(const Fields &fields);
     void readRelations(Fields &fields, std::int32_t reactorCount, bool hasNoDictionary);
     void noteRelations(Fields &fields) const;
 
     Spaces m_spaces;
+    RepeatedHeads m_repeated;
     std::vector<Extension> m_extensions;
     std::vector<std::uint64_t> m_reactors;
     std::string m_graphics;

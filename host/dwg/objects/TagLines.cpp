@@ -141,6 +141,22 @@ char *putText(std::string_view text, DoubleBytes page, char *to)
 
 } // namespace
 
+void addTagLines(int code, std::string_view value, std::string &text)
+{
+    // In one piece, as most of them are short.
+    std::array<char, 64> lines;
+    char *end = putCode(code, lines.data());
+    if (value.size() < lines.size() - mostOfACode) {
+        end = std::copy(value.begin(), value.end(), end);
+        *end++ = '\n';
+        text.append(lines.data(), end);
+        return;
+    }
+    text.append(lines.data(), end);
+    text += value;
+    text += '\n';
+}
+
 void TagLines::clear(std::size_t most)
 {
     m_size = 0;
@@ -212,6 +228,30 @@ void TagLines::addBytes(int code, std::string_view bytes)
         to += 2;
     }
     finish(code, to);
+}
+
+TagLines::Kept TagLines::keep(std::size_t from) const
+{
+    Kept kept;
+    write(kept.lines, from, m_tags.size());
+    for (std::size_t i = from; i < m_tags.size(); ++i)
+        kept.tags.push_back({m_tags[i].size, m_tags[i].code});
+    return kept;
+}
+
+void TagLines::add(const Kept &kept)
+{
+    if (m_room - m_size < kept.lines.size())
+        grow(kept.lines.size());
+    if (kept.lines.size() > m_most - m_size) {
+        m_isFull = true;
+        return;
+    }
+    std::copy(kept.lines.begin(), kept.lines.end(), m_lines.get() + m_size);
+    for (const Kept::Tag &tag : kept.tags) {
+        m_tags.push_back({m_size, tag.size, tag.code});
+        m_size += tag.size;
+    }
 }
 
 /// Whether the tags have the order of the codes; not found out where a code that comes twice has several tags.

@@ -12,6 +12,9 @@
 
 namespace host::dwg {
 
+/// Adds a tag as two lines to a text, its value as it stands.
+void addTagLines(int code, std::string_view value, std::string &text);
+
 /// The tags of one object as the lines that a text file has of them: each tag a line with its group code and one with
 /// its value. Kept in one piece that is made once for all objects, so that adding a tag costs its bytes alone.
 ///
@@ -36,6 +39,24 @@ public:
     void addText(int code, std::string_view text);
     /// Bytes, two hexadecimal digits each.
     void addBytes(int code, std::string_view bytes);
+
+    /// Some tags as they were added to one object, for others.
+    struct Kept
+    {
+        struct Tag
+        {
+            std::uint32_t size; ///< of both lines
+            int code;
+        };
+
+        std::string lines;
+        std::vector<Tag> tags;
+    };
+
+    /// Those from `from` on.
+    Kept keep(std::size_t from) const;
+    /// Adds them all, or none.
+    void add(const Kept &kept);
 
     std::size_t count() const { return m_tags.size(); }
     /// As Fields::arrange().

@@ -63,7 +63,9 @@ void ObjectWriter::writeExtensions(const MadeHead &head)
 
 void ObjectWriter::writeRelations(const MadeHead &head)
 {
-    if (head.space == 0)
+    if (head.space == 0 && head.isOwnerCounted)
+        reference(head.handle - head.owner, HandleReference::Behind);
+    else if (head.space == 0)
         reference(head.owner, HandleReference::SoftPointer);
     for (const std::uint64_t reactor : head.reactors)
         reference(reactor, HandleReference::SoftPointer);
@@ -80,7 +82,7 @@ void ObjectWriter::writeEntityHead(const MadeHead &head)
     if (until(Release::R14))
         m_values.bit(true); // the layer's linetype
     if (until(Release::R2000))
-        m_values.bit(false); // its neighbours are told
+        m_values.bit(!head.tellsNeighbours);
     writeEntityColour(head);
     m_values.real(head.linetypeScale);
     if (since(Release::R2000)) {
@@ -99,7 +101,7 @@ void ObjectWriter::writeEntityHead(const MadeHead &head)
         m_values.byte(weightOfLayer);
     if (until(Release::R14))
         reference(head.layer);
-    if (until(Release::R2000))
+    if (until(Release::R2000) && head.tellsNeighbours)
         writeLinks();
     if (head.bookColour != 0)
         reference(head.bookColour);

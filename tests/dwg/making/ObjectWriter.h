@@ -19,6 +19,7 @@ struct MadeHead
     bool isEntity = false;
     std::uint64_t handle = 0;
     std::uint64_t owner = 0;
+    bool isOwnerCounted = false; ///< from the handle, not told as it is
     std::vector<Extension> extensions;
     std::vector<std::uint64_t> reactors;
     std::uint64_t dictionary = 0; ///< the extension dictionary
@@ -27,6 +28,7 @@ struct MadeHead
     std::uint64_t layer = 0;
     std::uint64_t previous = 0; ///< the neighbours in the block, before R2004
     std::uint64_t next = 0;
+    bool tellsNeighbours = true;
     int colour = 256;               ///< an index
     std::uint64_t bookColour = 0;   ///< the object that is the colour, from R2004 on; 0: none
     bool hasRgbBesideBook = false;  ///< the colour's number stands in front of that, too
