@@ -28,9 +28,19 @@ std::vector<ObjectClass> readClasses(const Container &container, Problems &probl
 std::vector<MapEntry> readObjectMap(const Container &container, Problems &problems);
 constexpr std::uint64_t lostPlace = ~std::uint64_t(0);
 
+/// Which tags a variable of the header has: those from `begin` to before `end`.
+struct HeaderNote
+{
+    std::size_t place = 0; ///< headerPlace() of its name
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
 /// What the header says of the drawing as a whole.
 struct Header
 {
+    std::vector<HeaderNote> noted; ///< the variables, as far as they can be read
+
     // Handles of the tables, dictionaries and entries that everything else is found from.
     std::uint64_t blockTable = 0;
     std::uint64_t layerTable = 0;
@@ -47,8 +57,7 @@ struct Header
     std::uint64_t firstFree = 0; ///< a handle that no object has
 };
 
-/// Reads the header's variables into `fields`, which are theirs: each noted as group 9 with its tags. `maintenance` is
-/// the container's.
+/// Reads the header's variables into `fields`, which are theirs.
 Header readHeader(const Container &container, Fields &fields, Problems &problems);
 
 /// Group 70 of $MEASUREMENT, 1 for metric patterns; nothing where the file does not tell it.

@@ -1,5 +1,8 @@
 #include "host/dwg/contents/HeaderTable.h"
 
+#include <unordered_map>
+#include <vector>
+
 namespace host::dwg {
 
 using Kind = HeaderKind;
@@ -629,6 +632,29 @@ std::span<const std::string_view> headerOrder()
                                                  "$CSHADOW",
                                                  "$SHADOWPLANELOCATION"};
     return names;
+}
+
+std::size_t headerPlace(std::string_view name)
+{
+    static const auto places = [] {
+        std::unordered_map<std::string_view, std::size_t> byName;
+        for (const std::string_view one : headerOrder())
+            byName.emplace(one, byName.size());
+        return byName;
+    }();
+    const auto found = places.find(name);
+    return found != places.end() ? found->second : headerOrder().size();
+}
+
+std::span<const std::size_t> headerPlaces()
+{
+    static const auto places = [] {
+        std::vector<std::size_t> ofRows;
+        for (const HeaderRow &row : headerRows())
+            ofRows.push_back(headerPlace(row.name));
+        return ofRows;
+    }();
+    return places;
 }
 
 } // namespace host::dwg

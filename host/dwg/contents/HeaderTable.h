@@ -60,5 +60,9 @@ std::span<const HeaderRow> headerRows();
 
 /// The variables' names in the order of the text form.
 std::span<const std::string_view> headerOrder();
+/// The place of a name in that order; behind the last one for what the text form does not have.
+std::size_t headerPlace(std::string_view name);
+/// The places of the rows' names, in the order of the rows.
+std::span<const std::size_t> headerPlaces();
 
 } // namespace host::dwg

@@ -7,11 +7,12 @@ namespace host::dwg {
 namespace {
 
 /// Variables that stand in one number from R2000 on.
-void noteBits(Fields &f, std::uint32_t bits)
+void noteBits(Fields &f, std::uint32_t bits, std::vector<HeaderNote> &noted)
 {
-    const auto note = [&f](const char *name, int code, int value) {
-        f.note(9, name);
+    const auto note = [&](const char *name, int code, int value) {
+        const std::size_t begin = f.mark();
         f.note(code, value);
+        noted.push_back({headerPlace(name), begin, f.mark()});
     };
     const auto has = [bits](std::uint32_t bit) { return (bits & bit) != 0 ? 1 : 0; };
     note("$CELWEIGHT", 370, lineWeight(static_cast<int>(bits & 0x1f)));
@@ -34,18 +35,23 @@ public:
 
     Header run()
     {
-        for (const HeaderRow &row : headerRows()) {
+        const std::span<const HeaderRow> rows = headerRows();
+        m_header.noted.reserve(rows.size());
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const HeaderRow &row = rows[i];
             if (f.release() < row.first || f.release() > row.last)
                 continue;
             const std::size_t begin = f.mark();
-            if (!row.name.empty())
-                f.note(9, row.name);
             read(row);
+            if (row.kind == HeaderKind::Bits)
+                continue;
             // What stands behind the end would be nothing but zeros.
-            if (f.values().hasFailed() || (row.name.empty() && row.kind != HeaderKind::Bits))
+            if (f.values().hasFailed() || row.name.empty())
                 f.drop(begin);
+            else
+                m_header.noted.push_back({headerPlaces()[i], begin, f.mark()});
         }
-        return m_header;
+        return std::move(m_header);
     }
 
 private:
@@ -99,7 +105,8 @@ private:
             f.noteHandle(row.code, m_header.firstFree);
             return;
         case HeaderKind::Bits:
-            noteBits(f, static_cast<std::uint32_t>(f.int32()));
+            if (const auto bits = static_cast<std::uint32_t>(f.int32()); !f.values().hasFailed())
+                noteBits(f, bits, m_header.noted);
             return;
         case HeaderKind::StyleKind:
             // 3 means that a plot style is referred to.
@@ -190,7 +197,7 @@ Header readHeader(const Container &container, Fields &fields, Problems &problems
         const std::size_t end = std::min<std::size_t>(values.raw32(), size * 8);
         fields.start(BitReader(bytes, 32, end), textsOf(bytes, end), BitReader(bytes, end, size * 8));
     }
-    const Header header = HeaderReader(fields).run();
+    Header header = HeaderReader(fields).run();
     if (fields.hasFailed())
         problems.lose("The header's variables end too early.");
     return header;

@@ -5,45 +5,45 @@
 #include "host/dwg/drawing/Sections.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 namespace host::dwg {
 
 namespace {
 
-/// The tags of the variables by their names, as lines.
-using HeaderValues = std::unordered_map<std::string, std::string>;
-
-/// What readHeader() noted.
-HeaderValues notedValues(const Fields &fields)
+/// The tags of the variables, as lines.
+class HeaderValues
 {
-    HeaderValues values;
-    std::string *value = nullptr;
-    std::size_t begin = 0;
-    std::size_t at = 0;
-    const auto close = [&] {
-        if (value)
-            fields.write(*value, begin, at);
-    };
-    fields.forEachTag([&](int code, std::string_view text) {
-        if (code == 9) {
-            close();
-            value = &values[std::string(text)];
-            begin = at + 1;
+public:
+    /// What was read with the header, whose tags `fields` still have.
+    HeaderValues(const Header &header, const Fields &fields) : m_lines(headerOrder().size() + 1)
+    {
+        for (const HeaderNote &note : header.noted)
+            fields.write(m_lines[note.place], note.begin, note.end);
+    }
+
+    /// Those of one; empty for one that the drawing does not have.
+    std::string &operator[](std::string_view name) { return m_lines[headerPlace(name)]; }
+
+    void write(RecordWriter &records) const
+    {
+        for (std::size_t i = 0; i < headerOrder().size(); ++i) {
+            if (m_lines[i].empty())
+                continue;
+            records.addTag(9, headerOrder()[i]);
+            records.addLines(m_lines[i]);
         }
-        ++at;
-    });
-    close();
-    std::erase_if(values, [](const auto &one) { return one.second.empty(); });
-    return values;
-}
+    }
+
+private:
+    std::vector<std::string> m_lines; ///< in the order of the text form, and behind that what it does not have
+};
 
 /// Variables that later releases have beside others, with their values.
 void addDerivedValues(Release release, HeaderValues &values)
 {
     for (const auto &[local, universal] : {std::pair{"$TDCREATE", "$TDUCREATE"}, {"$TDUPDATE", "$TDUUPDATE"}}) {
         // Files have the times without a zone alone; which one the writer was in is not known.
-        if (release >= Release::R2000 && values.count(local) != 0)
+        if (release >= Release::R2000)
             values[universal] = values[local];
     }
     if (release <= Release::R14)
@@ -119,13 +119,13 @@ void addUsualStyles(DrawingParts &parts, HeaderValues &values)
     const DictionaryEntries styles = readEntries(parts.objects, entryOf(named, "ACAD_VISUALSTYLE"), fields);
     for (const auto &[variable, code, style] :
          {UsualStyle{"$INTERFEREOBJVS", 345, "Realistic"}, UsualStyle{"$INTERFEREVPVS", 346, "Wireframe"}}) {
-        const auto found = values.find(variable);
-        if (found == values.end() || found->second != tagLines(code, "0"))
+        std::string &value = values[variable];
+        if (value != tagLines(code, "0"))
             continue;
         fields.start({}, {}, {});
         fields.noteHandle(code, entryOf(styles, style));
-        found->second.clear();
-        fields.write(found->second);
+        value.clear();
+        fields.write(value);
     }
 }
 
@@ -168,7 +168,7 @@ void writeHeaderSection(DrawingParts &parts)
 {
     RecordWriter &records = parts.records;
     parts.header = readHeader(parts.container, records.fields(), parts.objects.problems());
-    HeaderValues values = notedValues(records.fields());
+    HeaderValues values(parts.header, records.fields());
     const std::uint64_t firstFree = parts.header.firstFree;
     findRoots(parts.objects, records.names(), records.fields(), parts.header);
     records.setSpaces({parts.header.modelSpace, parts.header.paperSpace});
@@ -178,12 +178,7 @@ void writeHeaderSection(DrawingParts &parts)
     addUsualStyles(parts, values);
     addCompanions(parts, firstFree, values);
     records.beginSection("HEADER");
-    for (const std::string_view name : headerOrder()) {
-        if (const auto found = values.find(std::string(name)); found != values.end()) {
-            records.addTag(9, name);
-            records.addLines(found->second);
-        }
-    }
+    values.write(records);
     records.endSection();
 }
 
