@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 
 namespace host::dwg {
@@ -63,20 +64,52 @@ Number checksumOf(Bytes bytes, Number sum, const ChecksumTables<Number> &tables)
     return sum;
 }
 
+/// In which order eight bytes are summed.
+enum class ByteOrder
+{
+    AsTheyAre,
+    PairsBackwards
+};
+
 /// The two sums of a page.
 class PageSums
 {
 public:
-    /// As many bytes as can be summed before the second sum has to be reduced.
-    static constexpr std::size_t run = 0x15b0;
-
     explicit PageSums(std::uint32_t seed) : m_first(seed & 0xffff), m_second(seed >> 16) {}
 
-    /// At most as many as a run has.
-    void add(Bytes bytes)
+    /// Other orders than the usual one are those of whole eights.
+    void add(Bytes bytes, ByteOrder order = ByteOrder::AsTheyAre)
     {
-        for (; bytes.size() >= block; bytes = bytes.subspan(block))
-            addBlock(bytes.data());
+        while (!bytes.empty()) {
+            const Bytes part = bytes.first(std::min(run, bytes.size()));
+            addRun(part, order == ByteOrder::AsTheyAre ? usualWeights : backwardWeights);
+            bytes = bytes.subspan(part.size());
+        }
+    }
+    std::uint32_t value() const { return m_second << 16 | m_first; }
+
+private:
+    static constexpr std::uint32_t modulus = 0xfff1;
+    /// As many bytes as can be summed before the second sum has to be reduced.
+    static constexpr std::size_t run = 0x15b0;
+    static constexpr std::size_t eight = sizeof(std::uint64_t);
+    /// As many eights as can be summed before a sum of them is longer than 16 bits.
+    static constexpr std::size_t eights = 16;
+
+    /// How often the second sum has each of eight bytes: as often as it has those behind it. Four numbers of 16 bits
+    /// for every other byte, the first one the lowest.
+    struct Weights
+    {
+        std::uint64_t even;
+        std::uint64_t odd;
+    };
+    static constexpr Weights usualWeights = {0x0002'0004'0006'0008, 0x0001'0003'0005'0007};
+    static constexpr Weights backwardWeights = {0x0008'0006'0004'0002, 0x0007'0005'0003'0001};
+
+    void addRun(Bytes bytes, const Weights &weights)
+    {
+        for (; bytes.size() >= eight; bytes = bytes.subspan(std::min(bytes.size() / eight, eights) * eight))
+            addEights(bytes.first(std::min(bytes.size() / eight, eights) * eight), weights);
         for (const std::uint8_t byte : bytes) {
             m_first += byte;
             m_second += m_first;
@@ -84,25 +117,44 @@ public:
         m_first %= modulus;
         m_second %= modulus;
     }
-    std::uint32_t value() const { return m_second << 16 | m_first; }
 
-private:
-    static constexpr std::uint32_t modulus = 0xfff1;
-    static constexpr std::size_t block = 8;
-
-    /// Eight bytes at a time: the second sum has each as often as it has those behind it. Sums of four products of 16
-    /// bits come out of one multiplication, in its highest part.
-    void addBlock(const std::uint8_t *bytes)
+    void addEights(Bytes bytes, const Weights &weights)
     {
         constexpr std::uint64_t everyOther = 0x00ff'00ff'00ff'00ff;
+        std::uint64_t even = 0;
+        std::uint64_t odd = 0;
+        std::uint64_t before = 0; // what was summed up to each eight, which the second sum has once more for each byte
+        for (std::size_t at = 0; at < bytes.size(); at += eight) {
+            const std::uint64_t word = lowestFirst(&bytes[at]);
+            before += even + odd;
+            even += word & everyOther;
+            odd += word >> 8 & everyOther;
+        }
+        m_second += static_cast<std::uint32_t>(bytes.size() * m_first + eight * sumOf(before) +
+                                               weightedSum(even, weights.even) + weightedSum(odd, weights.odd));
+        m_first += static_cast<std::uint32_t>(sumOf(even) + sumOf(odd));
+    }
+
+    static std::uint64_t lowestFirst(const std::uint8_t *bytes)
+    {
         std::uint64_t word = 0;
-        for (std::size_t i = 0; i < block; ++i)
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(&word, bytes, sizeof word);
+            return word;
+        }
+        for (std::size_t i = 0; i < eight; ++i)
             word |= static_cast<std::uint64_t>(bytes[i]) << 8 * i;
-        const std::uint64_t even = word & everyOther;
-        const std::uint64_t odd = word >> 8 & everyOther;
-        const std::uint64_t weighted = (even * 0x0008'0006'0004'0002 >> 48) + (odd * 0x0007'0005'0003'0001 >> 48);
-        m_second += static_cast<std::uint32_t>(block * m_first + weighted);
-        m_first += static_cast<std::uint32_t>((even + odd) * 0x0001'0001'0001'0001 >> 48);
+        return word;
+    }
+
+    /// Of four numbers of 16 bits.
+    static std::uint64_t sumOf(std::uint64_t numbers) { return weightedSum(numbers, 0x0001'0001'0001'0001); }
+    static std::uint64_t weightedSum(std::uint64_t numbers, std::uint64_t weights)
+    {
+        std::uint64_t sum = 0;
+        for (int shift = 0; shift < 64; shift += 16)
+            sum += (numbers >> shift & 0xffff) * (weights >> shift & 0xffff);
+        return sum;
     }
 
     std::uint32_t m_first;
@@ -162,18 +214,16 @@ std::uint32_t checksum32(Bytes bytes, std::uint32_t seed)
 std::uint32_t pageChecksum(Bytes bytes, std::uint32_t seed)
 {
     PageSums sums(seed);
-    while (!bytes.empty()) {
-        const Bytes part = bytes.first(std::min(PageSums::run, bytes.size()));
-        sums.add(part);
-        bytes = bytes.subspan(part.size());
-    }
+    sums.add(bytes);
     return sums.value();
 }
 
 std::uint32_t pageChecksum2007(Bytes bytes)
 {
     PageSums sums(static_cast<std::uint32_t>(nextOfRow(bytes.size())));
-    takeInPairs(bytes, [&](Bytes part) { sums.add(part); });
+    const std::size_t inEights = bytes.size() / 8 * 8;
+    sums.add(bytes.first(inEights), ByteOrder::PairsBackwards);
+    takeInPairs(bytes.subspan(inEights), [&](Bytes part) { sums.add(part); });
     return sums.value();
 }
 

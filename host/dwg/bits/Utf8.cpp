@@ -1,6 +1,7 @@
 #include "host/dwg/bits/Utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -13,9 +14,10 @@ namespace {
 std::size_t nextBeyondAscii(std::string_view text, std::size_t from)
 {
     constexpr std::uint64_t highBits = 0x8080'8080'8080'8080;
-    for (std::uint64_t word = 0; text.size() - from >= sizeof word; from += sizeof word) {
-        std::memcpy(&word, text.data() + from, sizeof word);
-        if ((word & highBits) != 0)
+    std::array<std::uint64_t, 4> words{};
+    for (; text.size() - from >= sizeof words; from += sizeof words) {
+        std::memcpy(words.data(), text.data() + from, sizeof words);
+        if (((words[0] | words[1] | words[2] | words[3]) & highBits) != 0)
             break;
     }
     const auto isBeyond = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };

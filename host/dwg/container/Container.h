@@ -5,9 +5,30 @@
 
 #include <deque>
 #include <map>
+#include <memory>
 #include <string_view>
 
 namespace host::dwg {
+
+/// Bytes that had to be unpacked, and room behind them for what the last page has beyond their end.
+class UnpackedSection
+{
+public:
+    /// All zeros but the room, which nobody looks at.
+    UnpackedSection(std::size_t size, std::size_t room)
+        : m_bytes(std::make_unique_for_overwrite<std::uint8_t[]>(size + room)), m_size(size), m_room(room)
+    {
+        std::fill_n(m_bytes.get(), size, std::uint8_t(0));
+    }
+
+    Bytes bytes() const { return {m_bytes.get(), m_size}; }
+    std::span<std::uint8_t> all() { return {m_bytes.get(), m_size + m_room}; }
+
+private:
+    std::unique_ptr<std::uint8_t[]> m_bytes;
+    std::size_t m_size;
+    std::size_t m_room;
+};
 
 /// The parts of a file, taken out of pages, compression and encryption. Views into the file or into `storage`.
 struct Container
@@ -29,7 +50,7 @@ struct Container
 
     std::uint64_t mostText = 0; ///< how many bytes the text form may have
 
-    std::deque<std::vector<std::uint8_t>> storage; ///< what had to be unpacked
+    std::deque<UnpackedSection> storage; ///< what had to be unpacked
 };
 
 /// Whether lengths of sections have eight bytes.

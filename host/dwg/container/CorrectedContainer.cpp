@@ -68,10 +68,14 @@ private:
         return header;
     }
 
+    // Blocks are looked at for damaged bytes only where the checksums tell that there are any.
+
     std::optional<CorrectedHeader> headerAt(std::size_t place)
     {
-        const auto page =
-            correctedPage(m_file.subspan(place, CorrectedHeader::blocks * correctedBlock), ErrorCode::Maps);
+        const Bytes bytes = m_file.subspan(place, CorrectedHeader::blocks * correctedBlock);
+        if (const auto asItIs = readCorrectedHeader(ownBytesOf(bytes, ErrorCode::Maps)); asItIs && asItIs->checksumFits)
+            return asItIs;
+        const auto page = correctedPage(bytes, ErrorCode::Maps);
         const auto header = page ? readCorrectedHeader(page->own) : std::nullopt;
         if (header && header->checksumFits)
             m_corrected += page->corrected;
@@ -125,13 +129,23 @@ private:
             return std::nullopt;
         const Bytes bytes =
             pageAt(place, blocksFor((map.packedSize + 7) / 8 * 8 * map.repeat, ErrorCode::Maps) * correctedBlock);
-        const auto page = bytes.empty() ? std::nullopt : correctedPage(bytes, ErrorCode::Maps);
-        auto plain = page ? unpacked(page->own, map.packedSize, map.size) : std::nullopt;
+        if (bytes.empty())
+            return std::nullopt;
+        if (auto asItIs = unpackedMap(ownBytesOf(bytes, ErrorCode::Maps), map); asItIs && asItIs->checksumFits)
+            return asItIs;
+        const auto page = correctedPage(bytes, ErrorCode::Maps);
+        auto read = page ? unpackedMap(page->own, map) : std::nullopt;
+        m_corrected += read && read->checksumFits ? page->corrected : 0;
+        return read;
+    }
+
+    static std::optional<Map> unpackedMap(const PageBytes &own, const MapPlace &map)
+    {
+        auto plain = unpacked(own, map.packedSize, map.size);
         if (!plain)
             return std::nullopt;
-        const bool fits = packedChecksum2007(Bytes(page->own).first(map.packedSize)) == map.packedChecksum &&
+        const bool fits = packedChecksum2007(Bytes(own).first(map.packedSize)) == map.packedChecksum &&
                           packedChecksum2007(*plain) == map.checksum;
-        m_corrected += fits ? page->corrected : 0;
         return Map{std::move(*plain), fits};
     }
 
@@ -179,12 +193,12 @@ private:
             m_problems.lose("The sections are larger than the file can hold.");
             return reader.fail();
         }
-        std::vector<std::uint8_t> &bytes = container.storage.emplace_back(section.size + pageSize);
+        UnpackedSection &unpacked = container.storage.emplace_back(section.size, pageSize);
         for (std::uint64_t i = 0; i < section.pageCount && !reader.hasFailed(); ++i) {
-            if (!readPage(reader, section, bytes))
+            if (!readPage(reader, section, unpacked.all()))
                 m_problems.lose("A page of the section " + section.name + " cannot be read.");
         }
-        assignSection(container, section.name, Bytes(bytes).first(section.size));
+        assignSection(container, section.name, unpacked.bytes());
     }
 
     bool readPage(BitReader &reader, const Section2007 &section, std::span<std::uint8_t> bytes)
@@ -239,7 +253,6 @@ private:
         return unpackPage(packed, pageAt(packed.place, packed.size), page);
     }
 
-    /// Blocks are looked at for damaged bytes only where the checksums tell that there are any.
     PageState readBlocks(const PackedPage &packed, std::span<std::uint8_t> page)
     {
         const Bytes bytes =

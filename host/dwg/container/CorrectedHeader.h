@@ -28,7 +28,7 @@ struct CorrectedHeader
     bool checksumFits = false; ///< of both forms, packed and plain
 };
 
-/// The header whose blocks' own bytes are `page`, which were put right before. Nothing where they do not unpack.
+/// The header whose blocks' own bytes are `page`. Nothing where they do not unpack.
 std::optional<CorrectedHeader> readCorrectedHeader(Bytes page);
 
 } // namespace host::dwg

@@ -178,20 +178,20 @@ private:
         // The last page goes beyond the end of the section.
         if (!m_room.take(section.size) || !m_room.take(section.pageSize))
             return m_problems.lose("The section " + section.name + " is larger than the file can hold.");
-        std::vector<std::uint8_t> &bytes = container.storage.emplace_back(section.size + section.pageSize);
+        UnpackedSection &unpacked = container.storage.emplace_back(section.size, section.pageSize);
         for (const SectionPage &page : section.pages) {
-            if (page.start >= section.size || !readPage(section, page, bytes))
+            if (page.start >= section.size || !readPage(section, page, unpacked.all()))
                 m_problems.lose("A page of the section " + section.name + " cannot be read.");
         }
-        assignSection(container, section.name, Bytes(bytes).first(section.size));
+        assignSection(container, section.name, unpacked.bytes());
     }
 
-    bool readPage(const SectionDescription &section, const SectionPage &page, std::vector<std::uint8_t> &bytes)
+    bool readPage(const SectionDescription &section, const SectionPage &page, std::span<std::uint8_t> bytes)
     {
         const auto packed = packedPage(section, page);
         if (!packed || !m_work.take(section.pageSize))
             return false;
-        const auto place = std::span(bytes).subspan(page.start, section.pageSize);
+        const auto place = bytes.subspan(page.start, section.pageSize);
         if (section.isPacked)
             return unpackPage(*packed, place);
         std::copy_n(packed->begin(), std::min(place.size(), packed->size()), place.begin());

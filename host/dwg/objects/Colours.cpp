@@ -85,9 +85,7 @@ struct Palette
 
 constexpr Palette palette;
 
-} // namespace
-
-int nearestIndex(std::uint32_t rgb)
+int findNearestIndex(std::uint32_t rgb)
 {
     const Rgb wanted{static_cast<int>(rgb >> 16 & 0xff), static_cast<int>(rgb >> 8 & 0xff),
                      static_cast<int>(rgb & 0xff)};
@@ -101,6 +99,23 @@ int nearestIndex(std::uint32_t rgb)
         least = std::min(least, (red * red + green * green + blue * blue) << 8 | static_cast<int>(index));
     }
     return least & 0xff;
+}
+
+} // namespace
+
+int nearestIndex(std::uint32_t rgb)
+{
+    struct Found
+    {
+        std::uint32_t rgb = 0;
+        int index = 0; ///< 0 where nothing was found yet: it is the nearest one of no colour
+    };
+    // Drawings have few colours, each of them again and again.
+    thread_local std::array<Found, 32> known{};
+    Found &found = known[(rgb ^ rgb >> 5 ^ rgb >> 13) % known.size()];
+    if (found.rgb != rgb || found.index == 0)
+        found = {rgb, findNearestIndex(rgb)};
+    return found.index;
 }
 
 int colourIndex(std::uint32_t colour)

@@ -1,5 +1,7 @@
 #include "host/dwg/objects/ExtendedData.h"
 
+#include <array>
+
 namespace host::dwg {
 
 namespace {
@@ -105,13 +107,22 @@ constexpr CodeRange recordCodes[] = {
     {1060, 1070, RecordValue::Int16},  {1071, 1071, RecordValue::Int32},
 };
 
+constexpr std::size_t recordCodeCount = 1072;
+
+constexpr auto recordValues = [] {
+    std::array<RecordValue, recordCodeCount> values{};
+    values.fill(RecordValue::Unknown);
+    for (const CodeRange &range : recordCodes) {
+        for (int code = range.first; code <= range.last; ++code)
+            values[static_cast<std::size_t>(code)] = range.value;
+    }
+    return values;
+}();
+
 RecordValue recordValue(int code)
 {
-    for (const CodeRange &range : recordCodes) {
-        if (code >= range.first && code <= range.last)
-            return range.value;
-    }
-    return RecordValue::Unknown;
+    const auto place = static_cast<std::size_t>(code);
+    return place < recordCodeCount ? recordValues[place] : RecordValue::Unknown;
 }
 
 std::string recordText(BitReader &data, Release release)
