@@ -92,7 +92,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     ObjectFrame frame;
     frame.bytes = Bytes(data + headSize, size - headSize);
     const size_t bits = frame.bytes.size() * 8;
-    frame.bodyStart = std::min<size_t>(data[3] % 64, bits);
+    BitReader body(frame.bytes, std::min<size_t>(data[3] % 64, bits), bits);
+    frame.handle = body.handle().value;
+    frame.bodyStart = static_cast<std::uint32_t>(body.position());
     frame.referencesStart = (data[4] | static_cast<size_t>(data[5]) << 8) % (bits + 1);
     if (row > types.size())
         frame.type = row == types.size() + 1 ? 498 : 499;
@@ -104,8 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     RecordWriter records(file.objects, text);
     for (std::uint64_t handle = 0; handle < 0x30; ++handle)
         records.names()[handle] = "name";
-    BitReader body(frame.bytes, frame.bodyStart, bits);
-    const bool isWritten = records.writeFrame(body.handle().value, frame);
+    const bool isWritten = records.writeFrame(frame.handle, frame);
     require(isWritten || file.problems.lostCount() > lostBefore || text.empty());
     require(text.size() <= 200 * size + 100000);
     return 0;

@@ -288,32 +288,28 @@ std::string BitReader::text16()
     return utf16(static_cast<std::uint16_t>(shortInteger()));
 }
 
-std::uint64_t BitReader::nextUnits(std::size_t count) const
-{
-    if (count >= unitsAtOnce)
-        return wholeWord();
-    constexpr std::uint64_t blanks = 0x2000'2000'2000'2000;
-    const std::size_t bits = 16 * count;
-    return ahead() >> (wordBits - bits) << (wordBits - bits) | blanks >> bits;
-}
-
 void BitReader::takeAscii(std::size_t end, std::string &text)
 {
     constexpr std::uint64_t beyondAscii = 0x80ff'80ff'80ff'80ff;
     constexpr std::uint64_t each = 0x0100'0100'0100'0100;
-    std::array<char, 32 * unitsAtOnce> taken;
+    constexpr std::uint64_t blanks = 0x2000'2000'2000'2000;
+    std::array<char, 128> taken;
     std::size_t count = 0;
-    while (m_at < end) {
-        const std::size_t there = std::min((end - m_at) / 16, unitsAtOnce);
-        const std::uint64_t units = nextUnits(there);
+    for (std::size_t there = wordBits; m_at < end; moveTo(m_at + there)) {
+        there = std::min(end - m_at, wordBits);
+        // Blanks stand for what is behind the end.
+        const std::uint64_t units =
+            there == wordBits ? wholeWord() : ahead() >> (wordBits - there) << (wordBits - there) | blanks >> there;
         // Of a unit that is zero the subtraction sets the highest bit.
         if (((units | (units - each)) & beyondAscii) != 0)
             break;
-        for (std::size_t i = 0; i < unitsAtOnce; ++i)
-            taken[count + i] = static_cast<char>(units >> (56 - 16 * i));
-        count += there;
-        moveTo(m_at + 16 * there);
-        if (count > taken.size() - unitsAtOnce) {
+        char *const to = taken.data() + count;
+        to[0] = static_cast<char>(units >> 56);
+        to[1] = static_cast<char>(units >> 40);
+        to[2] = static_cast<char>(units >> 24);
+        to[3] = static_cast<char>(units >> 8);
+        count += there / 16;
+        if (count > taken.size() - 4) {
             text.append(taken.data(), count);
             count = 0;
         }

@@ -260,9 +260,6 @@ private:
         const std::uint64_t last = m_bytes[(m_at + wordBits - 1) / 8] >> (8 - m_at % 8);
         return ahead() | last;
     }
-    static constexpr std::size_t unitsAtOnce = 4;
-    /// The next `count` units of UTF-16, 1 to 4 that are there, with blanks behind them.
-    std::uint64_t nextUnits(std::size_t count) const;
     /// Takes units of UTF-16 up to the bit `end`, as long as those that are looked at together are ASCII and no zeros.
     void takeAscii(std::size_t end, std::string &text);
 

@@ -1,8 +1,9 @@
 #include "host/dwg/bits/Checksums.h"
 
+#include "host/dwg/bits/Words.h"
+
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstring>
 
 namespace host::dwg {
@@ -125,7 +126,7 @@ private:
         std::uint64_t odd = 0;
         std::uint64_t before = 0; // what was summed up to each eight, which the second sum has once more for each byte
         for (std::size_t at = 0; at < bytes.size(); at += eight) {
-            const std::uint64_t word = lowestFirst(&bytes[at]);
+            const std::uint64_t word = loadLowestFirst(&bytes[at]);
             before += even + odd;
             even += word & everyOther;
             odd += word >> 8 & everyOther;
@@ -133,18 +134,6 @@ private:
         m_second += static_cast<std::uint32_t>(bytes.size() * m_first + eight * sumOf(before) +
                                                weightedSum(even, weights.even) + weightedSum(odd, weights.odd));
         m_first += static_cast<std::uint32_t>(sumOf(even) + sumOf(odd));
-    }
-
-    static std::uint64_t lowestFirst(const std::uint8_t *bytes)
-    {
-        std::uint64_t word = 0;
-        if constexpr (std::endian::native == std::endian::little) {
-            std::memcpy(&word, bytes, sizeof word);
-            return word;
-        }
-        for (std::size_t i = 0; i < eight; ++i)
-            word |= static_cast<std::uint64_t>(bytes[i]) << 8 * i;
-        return word;
     }
 
     /// Of four numbers of 16 bits.

@@ -79,7 +79,7 @@ bool markLost(const Container &container, std::vector<MapEntry> &entries)
     bool isWhole = true;
     for (MapEntry &entry : entries) {
         const auto object = objectAt(container.objects, entry.place, container.release);
-        const bool isThere = object && object->handle == entry.handle && object->size <= room;
+        const bool isThere = object && object->frame.handle == entry.handle && object->size <= room;
         room -= isThere ? object->size : 0;
         entry.place = isThere ? entry.place : lostPlace;
         entry.frame = isThere ? object->frame : ObjectFrame();

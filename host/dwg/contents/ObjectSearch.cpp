@@ -15,14 +15,6 @@ bool isPossibleType(int type)
     return (type > 0 && type <= lastOwnNumber) || (type >= firstProxy && type <= lastClass);
 }
 
-/// The handle with which the body of the object begins; 0 where none stands there.
-std::uint64_t ownHandle(const ObjectFrame &frame)
-{
-    BitReader reader(frame.bytes, frame.bodyStart, frame.bytes.size() * 8);
-    const HandleReference handle = reader.handle();
-    return reader.hasFailed() || handle.kind != 0 ? 0 : handle.value;
-}
-
 std::uint64_t endOf(const ObjectFrame &frame, Bytes objects)
 {
     constexpr std::uint64_t checksumSize = 2;
@@ -36,7 +28,7 @@ std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release 
     const auto frame = frameAt(objects, place, release);
     if (!frame)
         return std::nullopt;
-    return FoundObject{ownHandle(*frame), endOf(*frame, objects) - place, *frame};
+    return FoundObject{endOf(*frame, objects) - place, *frame};
 }
 
 std::vector<MapEntry> findObjects(Bytes objects, Release release)
@@ -47,13 +39,13 @@ std::vector<MapEntry> findObjects(Bytes objects, Release release)
     for (std::uint64_t at = 0; at < objects.size();) {
         const auto frame = frameAt(objects, at, release);
         const bool isPossible =
-            frame && isPossibleType(frame->type) && ownHandle(*frame) != 0 && frame->bytes.size() <= work;
+            frame && isPossibleType(frame->type) && frame->handle != 0 && frame->bytes.size() <= work;
         work -= isPossible ? frame->bytes.size() : 0;
         if (!isPossible || !hasItsChecksum(objects, at, *frame)) {
             ++at;
             continue;
         }
-        entries.push_back({ownHandle(*frame), at, *frame});
+        entries.push_back({frame->handle, at, *frame});
         at = endOf(*frame, objects);
     }
     std::stable_sort(entries.begin(), entries.end(),

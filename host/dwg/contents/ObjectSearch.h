@@ -15,8 +15,7 @@ struct MapEntry
 /// An object at a place of what the object map counts in.
 struct FoundObject
 {
-    std::uint64_t handle = 0; ///< that it says to have
-    std::uint64_t size = 0;   ///< with its length and checksum
+    std::uint64_t size = 0; ///< with its length and checksum
     ObjectFrame frame;
 };
 

@@ -105,27 +105,31 @@ std::uint64_t entryOf(const DictionaryEntries &entries, std::string_view name)
     return found != entries.end() ? found->second : 0;
 }
 
-/// Where the file names no visual style for parts that interfere, it is one that every drawing has.
+/// Visual styles of parts that interfere, where the file names none: each is one that every drawing has.
+struct UsualStyle
+{
+    const char *variable;
+    int code;
+    const char *style;
+};
+
+constexpr UsualStyle usualStyles[] = {{"$INTERFEREOBJVS", 345, "Realistic"}, {"$INTERFEREVPVS", 346, "Wireframe"}};
+
 void addUsualStyles(DrawingParts &parts, HeaderValues &values)
 {
-    struct UsualStyle
-    {
-        const char *variable;
-        int code;
-        const char *style;
-    };
+    const auto isMissing = [&](const UsualStyle &one) { return values[one.variable] == tagLines(one.code, "0"); };
+    if (std::ranges::none_of(usualStyles, isMissing))
+        return;
     Fields &fields = parts.records.fields();
     const DictionaryEntries named = readEntries(parts.objects, parts.header.namedObjects, fields);
     const DictionaryEntries styles = readEntries(parts.objects, entryOf(named, "ACAD_VISUALSTYLE"), fields);
-    for (const auto &[variable, code, style] :
-         {UsualStyle{"$INTERFEREOBJVS", 345, "Realistic"}, UsualStyle{"$INTERFEREVPVS", 346, "Wireframe"}}) {
-        std::string &value = values[variable];
-        if (value != tagLines(code, "0"))
+    for (const UsualStyle &one : usualStyles) {
+        if (!isMissing(one))
             continue;
         fields.start({}, {}, {});
-        fields.noteHandle(code, entryOf(styles, style));
-        value.clear();
-        fields.write(value);
+        fields.noteHandle(one.code, entryOf(styles, one.style));
+        values[one.variable].clear();
+        fields.write(values[one.variable]);
     }
 }
 

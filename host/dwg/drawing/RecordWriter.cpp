@@ -109,19 +109,18 @@ void RecordWriter::readHead(const ObjectFrame &frame, std::string_view typeName,
     m_head.read(frame, isEntity, m_fields);
 }
 
-bool RecordWriter::checkHandle(std::uint64_t handle, int type)
-{
-    if (m_fields.relations().handle == handle)
-        return true;
-    m_objects.lose(handle, type, "The object at its place has another handle.");
-    return false;
-}
-
 void RecordWriter::writeFields(std::string_view recordType, std::string_view lines)
 {
+    writeTags(recordType, lines, m_fields.mark());
+}
+
+void RecordWriter::writeTags(std::string_view recordType, std::string_view lines, std::size_t end)
+{
+    if (lines.empty())
+        return m_fields.writeRecord(recordType, m_text, end);
     beginRecord(recordType);
     m_text += lines;
-    m_fields.write(m_text);
+    m_fields.write(m_text, 0, end);
 }
 
 void RecordWriter::writeNoted(std::string_view recordType, std::string_view lines)
@@ -133,9 +132,7 @@ void RecordWriter::writeNoted(std::string_view recordType, std::string_view line
         m_fields.moveForward(extended, end);
         end += m_fields.mark() - extended;
     }
-    beginRecord(recordType);
-    m_text += lines;
-    m_fields.write(m_text, 0, end);
+    writeTags(recordType, lines, end);
     m_companions.make(m_fields, end);
     noteOwned();
 }
@@ -202,7 +199,7 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
         return false;
     const bool isWhole = m_fields.isUsedUp();
     m_companions.complete(m_fields);
-    if (m_fields.relations().handle != handle || !writeUnlessFailed())
+    if (!writeUnlessFailed())
         return false;
     if (!isWhole)
         m_objects.warn(handle, frame.type, "More of the object is in the file than is read of it.");
@@ -214,8 +211,6 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
 bool RecordWriter::writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity)
 {
     readHead(frame, isEntity ? "ACAD_PROXY_ENTITY" : "ACAD_PROXY_OBJECT", isEntity);
-    if (!checkHandle(handle, frame.type))
-        return false;
     ProxyParts parts{isEntity, m_head.graphicsMark(), {}};
     if (isProxy(frame.type)) {
         readProxy(m_fields, parts);

@@ -43,8 +43,6 @@ public:
 
     // Records that are put together from several objects: the head is read, fields are noted, and all is written.
     void readHead(const ObjectFrame &frame, std::string_view typeName, bool isEntity);
-    /// Whether the object that was read has this handle; it is told as lost otherwise.
-    bool checkHandle(std::uint64_t handle, int type);
     /// Writes the tags that were noted behind `lines`, and the extended data of the head behind them.
     void writeNoted(std::string_view recordType, std::string_view lines = {});
     /// Writes the tags that were noted for a record that is no object.
@@ -59,6 +57,7 @@ private:
     bool writeKnown(std::uint64_t handle, const ObjectFrame &frame, const ObjectType &type);
     bool writeProxy(std::uint64_t handle, const ObjectFrame &frame, bool isEntity);
     std::vector<std::size_t> readTextPlaces(const ObjectFrame &frame, bool isEntity);
+    void writeTags(std::string_view recordType, std::string_view lines, std::size_t end);
     void noteOwned();
     bool writeUnlessFailed();
     std::optional<TextSize> sizeOfText(std::uint64_t handle);

@@ -30,8 +30,7 @@ void readLine(Fields &f)
         f.point(10);
         f.point(11);
     }
-    f.thickness();
-    f.arrange(begin, {39});
+    f.thicknessInFront(begin);
     f.extrusion();
 }
 
@@ -50,8 +49,7 @@ void readCircle(Fields &f)
     const std::size_t begin = f.mark();
     f.point(10);
     f.real(40);
-    f.thickness();
-    f.arrange(begin, {39});
+    f.thicknessInFront(begin);
     f.extrusion();
 }
 

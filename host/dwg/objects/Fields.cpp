@@ -30,7 +30,7 @@ void Relations::clear()
     parts.clear();
 }
 
-void Fields::start(BitReader values, BitReader texts, BitReader references)
+void Fields::start(const BitReader &values, const BitReader &texts, const BitReader &references)
 {
     m_values = values;
     m_texts = texts;
@@ -120,6 +120,13 @@ Point Fields::extrusion()
 double Fields::thickness()
 {
     return noteUnless(39, m_values.thickness(m_release), {0.0});
+}
+
+void Fields::thicknessInFront(std::size_t front)
+{
+    const std::size_t mark = m_tags.count();
+    if (thickness() != 0.0)
+        moveForward(mark, front);
 }
 
 std::string Fields::text(int code)

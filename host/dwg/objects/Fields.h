@@ -114,7 +114,7 @@ public:
     int takeNumber() { return ++m_numbers[m_relations.owner]; }
 
     /// Begins another object; keeps the room that the last one took.
-    void start(BitReader values, BitReader texts, BitReader references);
+    void start(const BitReader &values, const BitReader &texts, const BitReader &references);
     /// Where the references begin, for objects that tell it behind their head (R13, R14).
     void splitAt(std::size_t bit);
     bool hasFailed() const;
@@ -186,6 +186,8 @@ public:
     double angle(int code, Unless unless);
     Point extrusion();  ///< 210, unless it is the z axis
     double thickness(); ///< 39, unless 0
+    /// The same, in front of the tags from `front` on.
+    void thicknessInFront(std::size_t front);
     std::string text(int code);
     std::string textUnlessEmpty(int code);
     std::uint64_t reference(int code);
@@ -270,6 +272,11 @@ public:
     }
     /// Adds all tags to `lines` as a file has them.
     void write(std::string &lines) const { m_tags.write(lines); }
+    /// Adds a record of this type with the tags up to `end`.
+    void writeRecord(std::string_view type, std::string &lines, std::size_t end) const
+    {
+        m_tags.writeRecord(type, lines, end);
+    }
     /// Adds those from `from` to before `end`.
     void write(std::string &lines, std::size_t from, std::size_t end) const { m_tags.write(lines, from, end); }
 

@@ -206,9 +206,12 @@ std::optional<ObjectFrame> frameAt(Bytes objects, std::uint64_t place, Release r
         frame.referencesStart = reader.raw32();
     else if (release >= Release::R2010)
         frame.referencesStart = size * 8 - referenceBits;
-    frame.bodyStart = static_cast<std::uint32_t>(reader.position() - begin * 8);
     if (reader.hasFailed() || frame.referencesStart > size * 8)
         return std::nullopt;
+    const HandleReference own = reader.handle();
+    frame.bodyStart = static_cast<std::uint32_t>(reader.position() - begin * 8);
+    const bool isInFront = frame.referencesStart == 0 || frame.bodyStart <= frame.referencesStart;
+    frame.handle = own.kind == 0 && isInFront ? own.value : 0;
     return frame;
 }
 
@@ -251,7 +254,7 @@ void ObjectHead::read(const ObjectFrame &frame, bool isEntity, Fields &fields)
     const std::size_t valuesEnd = hasTexts ? texts.position() : m_objectEnd != 0 ? m_objectEnd : all;
     fields.start(BitReader(frame.bytes, frame.bodyStart, valuesEnd), texts, BitReader(frame.bytes, m_objectEnd, all));
     fields.relations().isEntity = isEntity;
-    fields.relations().handle = fields.values().handle().value;
+    fields.relations().handle = frame.handle;
     if (isEntity) {
         if (!repeatEntityHead(fields))
             readEntityHead(fields);

@@ -9,7 +9,8 @@ struct ObjectFrame
 {
     Bytes bytes; ///< from the type on, without length and checksum
     int type = 0;
-    std::uint32_t bodyStart = 0;     ///< bits
+    std::uint32_t bodyStart = 0;     ///< bits: behind the handle
+    std::uint64_t handle = 0;        ///< that it says to have; 0 where none stands there
     std::size_t referencesStart = 0; ///< bits from the start; 0 where the object tells it further on (R13, R14)
 };
 
@@ -23,7 +24,7 @@ bool hasItsChecksum(Bytes objects, std::uint64_t place, const ObjectFrame &frame
 /// its end is that of the values in any case.
 BitReader textsOf(Bytes bytes, std::size_t end);
 
-/// What follows the type: the handle, extended data, and what every entity or every other object has. Notes the tags in
+/// What follows the handle: extended data, and what every entity or every other object has. Notes the tags in
 /// front of the first subclass of the type; extended data is kept for the end.
 class ObjectHead
 {

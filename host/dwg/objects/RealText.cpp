@@ -1,5 +1,6 @@
 #include "host/dwg/objects/RealText.h"
 
+#include "host/dwg/bits/Words.h"
 #include "host/dwg/objects/ShortestDecimal.h"
 
 #include <array>
@@ -24,17 +25,6 @@ std::uint64_t eightDigits(std::uint64_t number)
     return tens | (pairs - tens * 10) << 8;
 }
 
-/// Eight bytes, the lowest first.
-void store(std::uint64_t bytes, char *to)
-{
-    if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(to, &bytes, sizeof bytes);
-    } else {
-        for (std::size_t i = 0; i < sizeof bytes; ++i)
-            to[i] = static_cast<char>(bytes >> 8 * i);
-    }
-}
-
 constexpr std::uint64_t eightZeros = 0x3030'3030'3030'3030;
 constexpr std::uint64_t eightPlaces = 100'000'000;
 
@@ -55,7 +45,7 @@ std::size_t digitCount(std::uint64_t number)
 char *putShort(std::uint64_t number, char *to)
 {
     const std::size_t count = digitCount(number);
-    store((eightDigits(number) | eightZeros) >> (8 * (8 - count)), to);
+    storeLowestFirst((eightDigits(number) | eightZeros) >> (8 * (8 - count)), to);
     return to + count;
 }
 
@@ -65,7 +55,7 @@ char *putWhole(std::uint64_t number, char *to)
     if (number < eightPlaces)
         return putShort(number, to);
     to = putShort(number / eightPlaces, to);
-    store(eightDigits(number % eightPlaces) | eightZeros, to);
+    storeLowestFirst(eightDigits(number % eightPlaces) | eightZeros, to);
     return to + 8;
 }
 
@@ -76,8 +66,8 @@ char *putDecimals(std::uint64_t number, char *to)
 {
     const std::uint64_t first = eightDigits(number / eightPlaces);
     const std::uint64_t second = eightDigits(number % eightPlaces);
-    store(first | eightZeros, to);
-    store(second | eightZeros, to + 8);
+    storeLowestFirst(first | eightZeros, to);
+    storeLowestFirst(second | eightZeros, to + 8);
     const int zeros = second != 0 ? std::countl_zero(second) : 64 + std::countl_zero(first | 1);
     return to + mostDecimals - zeros / 8;
 }
@@ -145,7 +135,7 @@ char *putFewDigits(double value, char *to)
     to = putWhole(whole / places, to);
     *to++ = '.';
     const std::uint64_t decimals = eightDigits(whole % places * (eightPlaces / places));
-    store(decimals | eightZeros, to);
+    storeLowestFirst(decimals | eightZeros, to);
     return to + 8 - std::countl_zero(decimals | 1) / 8;
 }
 

@@ -1,5 +1,6 @@
 #include "host/dwg/objects/TagLines.h"
 
+#include "host/dwg/bits/Words.h"
 #include "host/dwg/objects/RealText.h"
 
 #include <algorithm>
@@ -52,6 +53,23 @@ constexpr auto usualCodeLines = codeLines();
 /// Room for the line of any code.
 constexpr std::size_t mostOfACode = 16;
 constexpr std::size_t mostOfANumber = 40;
+
+std::size_t hexDigitCount(std::uint32_t number)
+{
+    return (static_cast<std::size_t>(std::bit_width(number | 1)) + 3) / 4;
+}
+
+/// The last `count` of eight digits, which are made all at the same time: each in a byte, the first one in the lowest.
+char *putHexadecimal(std::uint32_t number, std::size_t count, char *to)
+{
+    constexpr std::uint64_t each = 0x0101'0101'0101'0101;
+    std::uint64_t digits = number >> 16 | static_cast<std::uint64_t>(number) << 32;
+    digits = (digits >> 8 & 0x0000'00ff'0000'00ff) | (digits & 0x0000'00ff'0000'00ff) << 16;
+    digits = (digits >> 4 & 0x000f'000f'000f'000f) | (digits & 0x000f'000f'000f'000f) << 8;
+    const std::uint64_t areLetters = (digits + each * 6) >> 4 & each;
+    storeLowestFirst((digits + each * '0' + areLetters * ('A' - '9' - 1)) >> 8 * (8 - count), to);
+    return to + count;
+}
 
 char *putUnusualCode(int code, char *to)
 {
@@ -159,8 +177,8 @@ void addTagLines(int code, std::string_view value, std::string &text)
 
 void TagLines::clear(std::size_t most)
 {
-    m_size = 0;
-    m_most = most;
+    m_size = headRoom;
+    m_most = most + std::min(headRoom, ~most);
     m_isFull = false;
     m_tags.clear();
     m_isInOrder = true;
@@ -170,7 +188,8 @@ void TagLines::grow(std::size_t bytes)
 {
     const std::size_t room = std::max(2 * m_room, m_size + bytes + 4096);
     auto lines = std::make_unique_for_overwrite<char[]>(room);
-    std::copy_n(m_lines.get(), m_size, lines.get());
+    if (m_lines)
+        std::copy_n(m_lines.get(), m_size, lines.get());
     m_lines = std::move(lines);
     m_room = room;
 }
@@ -178,7 +197,7 @@ void TagLines::grow(std::size_t bytes)
 inline char *TagLines::begin(int code, std::size_t most)
 {
     const std::size_t bytes = mostOfACode + most + 1;
-    if (m_room - m_size < bytes)
+    if (m_room < m_size + bytes)
         grow(bytes);
     return putCode(code, m_lines.get() + m_size);
 }
@@ -208,11 +227,12 @@ void TagLines::addReal(int code, double value)
 
 void TagLines::addHandle(int code, std::uint64_t handle)
 {
-    char *const to = begin(code, mostOfANumber);
-    const int digits = std::max(1, (static_cast<int>(std::bit_width(handle)) + 3) / 4);
-    for (int i = digits; i > 0; handle >>= 4)
-        to[--i] = hexDigits[handle & 0xf];
-    finish(code, to + digits);
+    char *to = begin(code, mostOfANumber);
+    const auto high = static_cast<std::uint32_t>(handle >> 32);
+    if (high != 0)
+        to = putHexadecimal(high, hexDigitCount(high), to);
+    const auto low = static_cast<std::uint32_t>(handle);
+    finish(code, putHexadecimal(low, high != 0 ? 8 : hexDigitCount(low), to));
 }
 
 void TagLines::addText(int code, std::string_view text)
@@ -241,7 +261,7 @@ TagLines::Kept TagLines::keep(std::size_t from) const
 
 void TagLines::add(const Kept &kept)
 {
-    if (m_room - m_size < kept.lines.size())
+    if (m_room < m_size + kept.lines.size())
         grow(kept.lines.size());
     if (kept.lines.size() > m_most - m_size) {
         m_isFull = true;
@@ -333,6 +353,20 @@ void TagLines::write(std::string &text, std::size_t from, std::size_t end) const
     }
     for (std::size_t i = from; i < end; ++i)
         text.append(m_lines.get() + m_tags[i].begin, m_tags[i].size);
+}
+
+void TagLines::writeRecord(std::string_view type, std::string &text, std::size_t end) const
+{
+    constexpr std::string_view begin = "  0\n";
+    const std::size_t size = begin.size() + type.size() + 1;
+    if (!m_isInOrder || end == 0 || size > headRoom) {
+        addTagLines(0, type, text);
+        write(text, 0, end);
+        return;
+    }
+    char *const head = m_lines.get() + headRoom - size;
+    *std::copy(type.begin(), type.end(), std::copy(begin.begin(), begin.end(), head)) = '\n';
+    text.append(head, m_lines.get() + m_tags[end - 1].begin + m_tags[end - 1].size);
 }
 
 } // namespace host::dwg

@@ -77,8 +77,13 @@ public:
     void write(std::string &text) const { write(text, 0, m_tags.size()); }
     /// Adds those from `from` to before `end`.
     void write(std::string &text, std::size_t from, std::size_t end) const;
+    /// Adds a record: its type as group 0, and the tags up to `end`.
+    void writeRecord(std::string_view type, std::string &text, std::size_t end) const;
 
 private:
+    /// Room in front of the lines for the type of a record, so that most records are added in one piece.
+    static constexpr std::size_t headRoom = 64;
+
     struct Tag
     {
         std::size_t begin;
@@ -99,7 +104,7 @@ private:
 
     std::unique_ptr<char[]> m_lines;
     std::size_t m_room = 0;
-    std::size_t m_size = 0;
+    std::size_t m_size = headRoom;
     std::size_t m_most = ~std::size_t(0); ///< bytes
     bool m_isFull = false;
     DoubleBytes m_doubleBytes = DoubleBytes::None;
