@@ -152,8 +152,9 @@ char *writeReal(double value, char *to)
     const double size = std::bit_cast<double>(bits & ~sign);
     if (!(size <= std::numeric_limits<double>::max()))
         return writeReal(0.0, to);
-    if ((bits & sign) != 0)
-        *to++ = '-';
+    // Without a condition, as half of the places in drawings are negative in no order.
+    *to = '-';
+    to += bits >> 63;
     if (char *const end = putFewDigits(size, to))
         return end;
     const Decimal decimal = shortestDecimal(size);
