@@ -45,8 +45,9 @@ void AdriftEntities::add(const Relations &relations)
 std::vector<std::uint64_t> AdriftEntities::of(std::uint64_t owner) const
 {
     std::vector<std::uint64_t> all;
-    for (const Entity &entity : std::ranges::equal_range(m_entities, owner, {}, &Entity::owner))
-        all.push_back(entity.handle);
+    auto entity = std::ranges::lower_bound(m_entities, owner, {}, &Entity::owner);
+    for (; entity != m_entities.end() && entity->owner == owner; ++entity)
+        all.push_back(entity->handle);
     std::vector<std::uint64_t> handles = all;
     std::erase_if(handles, [this](std::uint64_t one) { return std::ranges::binary_search(m_followed, one); });
     handles.insert(handles.end(), all.begin(), all.end());
