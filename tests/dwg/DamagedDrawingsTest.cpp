@@ -1,5 +1,7 @@
 // Drawings that lack what others are found by: what is left of them stands at its place.
 
+#include "host/dwg/objects/TableTypes.h"
+#include "tests/dwg/FieldWords.h"
 #include "tests/dwg/making/ReadBack.h"
 #include "tests/dwg/making/TypeNumbers.h"
 
@@ -89,6 +91,56 @@ const DamageRow damageRows[] = {
     {.name = "the dictionary of named objects", .gone = MadeHandles::NamedObjects},
 };
 
+/// A layout that shows `block`, with a few values more than layouts have where `more` says so.
+MadeDrawing::Write layoutWriter(std::uint64_t block, bool hasMore)
+{
+    return [block, hasMore](ObjectWriter &o) {
+        writerOf("t t s0 d0 d0 d0 d0 d0 d0 t d0 d0 s0 s0 s0 d0 d0 d0 d0")(o);
+        writerOf(o.until(Release::R2000) ? "t d0 d0 t s0 d0 d0 d0" : "d0 d0 t s0 d0 d0 d0 s0 s0 s0 h0")(o);
+        if (o.since(Release::R2007))
+            o.reference(0);
+        writerOf("tSheet l1 s1 p0,0,0 f0,0 f0,0 p0,0,0 p0,0,0 p0,0,0 d0 s0 p0,0,0 p0,0,0")(o);
+        if (o.since(Release::R2004))
+            o.int32(0);
+        o.reference(block);
+        writerOf(hasMore ? "h0 h0 h0 l77" : "h0 h0 h0")(o);
+    };
+}
+
+/// A layout 42 of the block 40, which is lost, and one 43 of which a row tells. 41 is a circle of the block, 44 the
+/// dictionary of layouts.
+ReadBack twoLayouts(Release release, std::uint64_t otherBlock, bool hasMore)
+{
+    MadeDrawing drawing(release);
+    drawing.addEntry(blockType, writerOf("n*Paper_Space"));
+    drawing.addPart(CircleType, 0x40, writeUnitCircle);
+    drawing.addOwned("LAYOUT", 0x44, layoutWriter(0x40, false));
+    drawing.addOwned("LAYOUT", 0x44, layoutWriter(otherBlock, hasMore));
+    drawing.addObject(DictionaryType, "ACAD_LAYOUT", [](ObjectWriter &o) {
+        writerOf(o.until(Release::R13) ? "l2" : o.release() == Release::R14 ? "l2 c0" : "l2 s1 c0")(o);
+        for (const std::uint64_t layout : {0x42u, 0x43u}) {
+            o.text("Sheet" + std::to_string(layout));
+            o.reference(layout, HandleReference::SoftOwner);
+        }
+    });
+    return readBack(without(drawing, 0x40));
+}
+
+struct LayoutRow
+{
+    std::uint64_t otherBlock;
+    bool hasMore;
+    const char *why; ///< the other layout is lost; null where it is not
+};
+
+const LayoutRow layoutRows[] = {
+    {MadeHandles::PaperSpace, false, nullptr},
+    {0, false, "LAYOUT 43: It has no block.\n"},
+    {MadeHandles::LayerZero, false, "LAYOUT 43: What it has for its block is none.\n"},
+    {0x40, false, "LAYOUT 43: Another layout has its block.\n"},
+    {MadeHandles::PaperSpace, true, "LAYOUT 43: The object has another form than layouts have.\n"},
+};
+
 class DamagedDrawings : public testing::TestWithParam<Release>
 {
 };
@@ -149,6 +201,32 @@ TEST_P(DamagedDrawings, GiveHandlesThatAreFreeToWhatStandsForOthers)
                                        ? "0 TABLE|2 LAYER|5 1000|100 AcDbSymbolTable|70 2|"
                                        : "0 TABLE|2 LAYER|5 1000|330 0|100 AcDbSymbolTable|70 2|");
     EXPECT_EQ(read.variable("$HANDSEED"), "9 $HANDSEED|5 1002|");
+}
+
+TEST_P(DamagedDrawings, HaveABlockForEachLayout)
+{
+    for (const LayoutRow &row : layoutRows) {
+        const ReadBack read = twoLayouts(GetParam(), row.otherBlock, row.hasMore);
+        EXPECT_EQ(recordsOf(read, "BLOCK_RECORD"), " 1D 1A 40");
+        EXPECT_NE(read.record(0x40).find("|2 *Paper_Space0|"), std::string::npos) << read.record(0x40);
+        EXPECT_NE(read.drawing.text.find("\n  3\n*Paper_Space0\n  1\n\n  0\nCIRCLE\n  5\n41\n"), std::string::npos);
+        EXPECT_EQ(recordsOf(read, "OBJECTS"), row.why ? " C 44 42" : " C 44 42 43");
+        EXPECT_EQ(read.lastPart(0x44).find("350 43|") != std::string::npos, !row.why) << read.lastPart(0x44);
+        const std::string problems = read.problems();
+        EXPECT_EQ(problems.substr(0, problems.find("BLOCK_RECORD 40: ")), row.why ? row.why : "");
+    }
+}
+
+TEST_P(DamagedDrawings, TakeNoOtherBlockForTheSpaceOfTheLayoutThatWasShown)
+{
+    MadeDrawing drawing(GetParam());
+    drawing.addEntry(blockType, writerOf("n*Paper_Space"));
+    MadeParts parts = drawing.parts();
+    FileBytes &space = std::ranges::find(parts.objects, MadeHandles::PaperSpace, &MadeParts::Object::handle)->bytes;
+    std::ranges::fill(space, std::uint8_t{0});
+    const ReadBack read = readBack(madeFile(parts));
+    EXPECT_NE(read.record(MadeHandles::PaperSpace).find("|2 *Paper_Space|"), std::string::npos) << read.problems();
+    EXPECT_NE(read.record(0x40).find("|2 *Paper_Space0|"), std::string::npos) << read.record(0x40);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, DamagedDrawings,

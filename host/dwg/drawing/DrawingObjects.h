@@ -30,6 +30,8 @@ public:
         return entry.frame.bytes.empty() ? std::nullopt : std::optional(entry.frame);
     }
     std::optional<ObjectFrame> peek(std::uint64_t handle) const;
+    /// Whether the map tells of the object, be there nothing at its place.
+    bool isTold(std::uint64_t handle) const { return indexOf(handle) != m_map.size(); }
     /// Takes the object, unless it was taken before: each is written once, whoever refers to it.
     std::optional<ObjectFrame> take(std::uint64_t handle);
     /// Counts the object as taken.

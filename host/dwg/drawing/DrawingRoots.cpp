@@ -63,9 +63,10 @@ void giveHandles(const DrawingObjects &objects, const std::vector<Root> &lost, H
 
 void findRoots(DrawingObjects &objects, const Names &names, Fields &fields, Header &header)
 {
+    // Where the map tells of it, too, it is the right one, be there nothing left of it.
     const auto isTold = [&](const Root &root) {
         const auto frame = objects.peek(header.*root.handle);
-        return frame && frame->type == root.type;
+        return frame ? frame->type == root.type : objects.isTold(header.*root.handle);
     };
     std::vector<Root> missing;
     std::copy_if(std::begin(roots), std::end(roots), std::back_inserter(missing),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/dwg/drawing/LayoutBlocks.h"
 #include "host/dwg/drawing/RecordWriter.h"
 #include "host/dwg/objects/TableTypes.h"
 
@@ -27,7 +28,8 @@ struct DrawingParts
     DrawingObjects objects;
     RecordWriter records;
     Header header;                    ///< from the HEADER section on
-    std::vector<DrawingBlock> blocks; ///< from the TABLES section on
+    LayoutBlocks layouts;             ///< from the TABLES section on
+    std::vector<DrawingBlock> blocks; ///< the same
 };
 
 // The sections of the text form, in their order there. Each is written whole, whatever is missing of it.

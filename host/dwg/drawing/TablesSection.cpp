@@ -2,6 +2,7 @@
 #include "host/dwg/drawing/Sections.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace host::dwg {
 
@@ -42,13 +43,6 @@ TableContents readTable(DrawingParts &parts, int type, std::uint64_t handle)
     return table;
 }
 
-/// The table of blocks alone, in front of what refers to blocks by their names.
-void readBlockNames(DrawingParts &parts)
-{
-    const TableContents table = readTable(parts, blockTableType, parts.header.blockTable);
-    numberBlocks(table.entries, parts.records.spaces(), parts.records.names());
-}
-
 /// The number of entries. Blocks and linetypes have two more than are counted.
 std::size_t countedEntries(int tableType, std::size_t count)
 {
@@ -74,6 +68,39 @@ bool isSpace(const DrawingParts &parts, std::uint64_t block)
     return block != 0 && (block == spaces.model || block == spaces.paper);
 }
 
+/// The layout that shows the block; 0 where none does.
+std::uint64_t layoutOf(const DrawingParts &parts, std::uint64_t block)
+{
+    const auto found = parts.layouts.find(block);
+    return found != parts.layouts.end() ? found->second : 0;
+}
+
+/// The two spaces and the blocks of layouts are among the blocks, whatever the table says and can be read of them: the
+/// spaces in front, the others behind what it has.
+void addSpaces(const DrawingParts &parts, std::vector<std::uint64_t> &blocks)
+{
+    const ObjectHead::Spaces &spaces = parts.records.spaces();
+    for (const std::uint64_t space : {spaces.paper, spaces.model}) {
+        if (std::ranges::find(blocks, space) == blocks.end())
+            blocks.insert(blocks.begin(), space);
+    }
+    const std::unordered_set<std::uint64_t> had(blocks.begin(), blocks.end());
+    for (const auto &[block, layout] : parts.layouts) {
+        if (!had.contains(block))
+            blocks.push_back(block);
+    }
+}
+
+/// The table of blocks alone, in front of what refers to blocks by their names.
+void readBlockNames(DrawingParts &parts)
+{
+    TableContents table = readTable(parts, blockTableType, parts.header.blockTable);
+    addSpaces(parts, table.entries);
+    for (const auto &[block, layout] : parts.layouts)
+        parts.records.names().try_emplace(block, "*Paper_Space");
+    numberBlocks(table.entries, parts.records.spaces(), parts.records.names());
+}
+
 /// What the block is called, for entities as well. The two spaces have their names whatever can be read of them.
 std::string nameOfBlock(DrawingParts &parts, std::uint64_t handle)
 {
@@ -84,7 +111,7 @@ std::string nameOfBlock(DrawingParts &parts, std::uint64_t handle)
     return name;
 }
 
-/// Stands for the block of a space that cannot be read: what it has tells it as its owner.
+/// Stands for the block of a space or a layout that cannot be read: what it has tells it as its owner.
 void writeSpaceStandIn(DrawingParts &parts, std::uint64_t handle)
 {
     Fields &fields = parts.records.fields();
@@ -92,6 +119,7 @@ void writeSpaceStandIn(DrawingParts &parts, std::uint64_t handle)
         {Problem::Kind::Warning, "It cannot be read; one like it was made.", "BLOCK_RECORD", handle});
     BlockHead block;
     block.entry.name = nameOfBlock(parts, handle);
+    block.layout = layoutOf(parts, handle);
     fields.start({}, {}, {});
     fields.noteHandle(5, handle);
     if (fields.since(Release::R2000))
@@ -121,7 +149,7 @@ void writeBlockRecord(DrawingParts &parts, std::uint64_t handle)
 {
     Fields &fields = parts.records.fields();
     if (!takeBlock(parts, handle)) {
-        if (isSpace(parts, handle))
+        if (isSpace(parts, handle) || layoutOf(parts, handle) != 0)
             writeSpaceStandIn(parts, handle);
         return;
     }
@@ -134,16 +162,6 @@ void writeBlockRecord(DrawingParts &parts, std::uint64_t handle)
         parts.objects.lose(handle, blockType, "The object ends before its values do.");
     parts.records.writeNoted("BLOCK_RECORD");
     parts.blocks.push_back({std::move(block), fields.relations(), isCut});
-}
-
-/// The two spaces are among the blocks, in front where the table lacks them.
-void addSpaces(const DrawingParts &parts, std::vector<std::uint64_t> &blocks)
-{
-    const ObjectHead::Spaces &spaces = parts.records.spaces();
-    for (const std::uint64_t space : {spaces.paper, spaces.model}) {
-        if (std::ranges::find(blocks, space) == blocks.end())
-            blocks.insert(blocks.begin(), space);
-    }
 }
 
 /// Begins a table that cannot be read with what stands for it.
@@ -179,8 +197,9 @@ void writeTable(DrawingParts &parts, const char *name, int type, std::uint64_t h
         noteTableStandIn(parts, name, handle);
     // Later releases count what was erased as well.
     if (fields.until(Release::R14))
-        std::erase_if(table.entries,
-                      [&parts](std::uint64_t entry) { return !parts.objects.peek(entry) && !isSpace(parts, entry); });
+        std::erase_if(table.entries, [&parts](std::uint64_t entry) {
+            return !parts.objects.peek(entry) && !isSpace(parts, entry) && layoutOf(parts, entry) == 0;
+        });
     if (type == blockTableType)
         addSpaces(parts, table.entries);
     constexpr std::ptrdiff_t always = 2; // they stand in front here
@@ -200,6 +219,7 @@ void writeTable(DrawingParts &parts, const char *name, int type, std::uint64_t h
 void writeTablesSection(DrawingParts &parts)
 {
     const Header &header = parts.header;
+    parts.layouts = findLayoutBlocks(parts.objects, parts.records.fields());
     readBlockNames(parts);
     parts.records.beginSection("TABLES");
     writeTable(parts, "VPORT", viewportTableType, header.viewportTable);
