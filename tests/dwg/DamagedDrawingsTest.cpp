@@ -54,6 +54,15 @@ FileBytes without(const MadeDrawing &drawing, std::uint64_t handle)
     return madeFile(parts);
 }
 
+/// The file with nothing left of the object, of which the map tells.
+FileBytes withoutBytes(const MadeDrawing &drawing, std::uint64_t handle)
+{
+    MadeParts parts = drawing.parts();
+    const auto object = std::ranges::find(parts.objects, handle, &MadeParts::Object::handle);
+    std::ranges::fill(object->bytes, std::uint8_t{0});
+    return madeFile(parts);
+}
+
 /// The records of a section or a table: " TYPE" where they have no handle, " 1A" with one.
 std::string recordsOf(const ReadBack &read, const std::string &container)
 {
@@ -221,12 +230,20 @@ TEST_P(DamagedDrawings, TakeNoOtherBlockForTheSpaceOfTheLayoutThatWasShown)
 {
     MadeDrawing drawing(GetParam());
     drawing.addEntry(blockType, writerOf("n*Paper_Space"));
-    MadeParts parts = drawing.parts();
-    FileBytes &space = std::ranges::find(parts.objects, MadeHandles::PaperSpace, &MadeParts::Object::handle)->bytes;
-    std::ranges::fill(space, std::uint8_t{0});
-    const ReadBack read = readBack(madeFile(parts));
+    const ReadBack read = readBack(withoutBytes(drawing, MadeHandles::PaperSpace));
     EXPECT_NE(read.record(MadeHandles::PaperSpace).find("|2 *Paper_Space|"), std::string::npos) << read.problems();
     EXPECT_NE(read.record(0x40).find("|2 *Paper_Space0|"), std::string::npos) << read.record(0x40);
+}
+
+TEST_P(DamagedDrawings, HaveNothingLostInTheirDictionaries)
+{
+    MadeDrawing drawing = fiveCircles(GetParam());
+    drawing.addObject(multiLineStyleType, "NO_LINES", writerOf("tS t s0 C0 d0 d0 c0"));
+    const std::uint64_t damaged = drawing.addText("DAMAGED", "text");
+    const ReadBack read = readBack(withoutBytes(drawing, damaged));
+    EXPECT_TRUE(read.lastPart(MadeHandles::NamedObjects).ends_with("3 NAMED|350 46|"))
+        << read.record(MadeHandles::NamedObjects);
+    EXPECT_EQ(read.drawing.problems.lostCount(), 2u) << read.problems();
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, DamagedDrawings,

@@ -56,6 +56,7 @@ std::optional<ObjectFrame> DrawingObjects::take(std::uint64_t handle)
     m_lastTaken = index;
     auto frame = peek(m_map[index]);
     if (!frame) {
+        m_lost.insert(handle);
         m_problems.add({Problem::Kind::Lost, "There is no object at its place.", {}, handle});
         return std::nullopt;
     }
@@ -104,6 +105,7 @@ std::string DrawingObjects::typeNameOf(int number) const
 
 void DrawingObjects::lose(std::uint64_t handle, int type, const char *why)
 {
+    m_lost.insert(handle);
     m_problems.add({Problem::Kind::Lost, why, typeNameOf(type), handle});
 }
 

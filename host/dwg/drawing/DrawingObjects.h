@@ -4,6 +4,8 @@
 #include "host/dwg/objects/ObjectHead.h"
 #include "host/dwg/objects/TypeTable.h"
 
+#include <unordered_set>
+
 namespace host::dwg {
 
 /// The objects of one file by their handles: where each is, of which type, and whether it was taken. What is wrong with
@@ -49,6 +51,8 @@ public:
     std::string typeNameOf(int number) const;
 
     void lose(std::uint64_t handle, int type, const char *why);
+    /// The handles of all objects that were lost.
+    const std::unordered_set<std::uint64_t> &lost() const { return m_lost; }
     void warn(std::uint64_t handle, int type, const char *why);
     void keep(std::uint64_t handle, int type, const char *why);
     /// Problems that concern no object.
@@ -72,6 +76,7 @@ private:
     std::vector<ObjectClass> m_classes;
     std::vector<KnownClass> m_knownClasses; ///< by their numbers, from firstClassNumber on
     std::vector<MapEntry> m_map;
+    std::unordered_set<std::uint64_t> m_lost;
     std::vector<bool> m_isTaken; ///< for the entries of the map
     std::size_t m_lastTaken = 0; ///< in the map; mostly the next one is wanted next
     std::size_t m_bytesTaken = 0;

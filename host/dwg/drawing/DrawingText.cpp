@@ -2,6 +2,7 @@
 
 #include "host/dwg/bits/Utf8.h"
 #include "host/dwg/drawing/LaterRecords.h"
+#include "host/dwg/drawing/LostEntries.h"
 #include "host/dwg/drawing/ObjectNames.h"
 #include "host/dwg/drawing/Sections.h"
 #include "host/dwg/early/EarlyDrawing.h"
@@ -48,7 +49,9 @@ void writeDrawing(const Container &container, DrawingText &result)
     writeTablesSection(parts);
     writeBlocksSection(parts);
     writeEntitiesSection(parts);
+    const std::size_t objectsBegin = result.text.size();
     writeObjectsSection(parts);
+    leaveOutLostEntries(parts.objects.lost(), result.text, objectsBegin);
     writeDataSection(parts);
     writePreviewSection(parts);
     parts.records.beginRecord("EOF");

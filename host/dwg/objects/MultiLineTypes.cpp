@@ -73,6 +73,8 @@ void readMultiLineStyle(Fields &f)
     f.angle(52);
     f.arrange(begin, {2, 70, 3, 62, 420, 430, 51, 52});
     const int lines = f.small(71);
+    if (lines == 0)
+        f.fail(); // a style has one line at least
     for (int i = 0; i < lines && !f.hasFailed(); ++i) {
         f.real(49);
         f.colour(62);

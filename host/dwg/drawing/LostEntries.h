@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_set>
+
+namespace host::dwg {
+
+/// Takes out of the dictionaries in `text`, from the record that begins at `begin` on, the entries of what is lost:
+/// dictionaries are written in front of what they name. One run over the text, none where nothing is lost.
+void leaveOutLostEntries(const std::unordered_set<std::uint64_t> &lost, std::string &text, std::size_t begin);
+
+} // namespace host::dwg
