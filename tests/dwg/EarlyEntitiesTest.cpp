@@ -77,6 +77,7 @@ const EarlyEntityRow earlyEntityRows[] = {
      "TEXT 8 0 10 1.0 20 2.0 30 0.0 40 3.0 1 a b 50 0.0 41 2.0 51 0.0 7 STANDARD 71 2 72 1 11 4.0 21 5.0 31 0.0 210 "
      "0.0 "
      "220 0.0 230 1.0 73 3"},
+    {"TEXT without its style", r12, 7, 0, 0x08, "1.0 2.0 3.0 'text b9", "TEXT 8 0 10 1.0 20 2.0 30 0.0 40 3.0 1 text"},
     {"TEXT longer than its record", r12, 7, 0, 0, "1.0 2.0 3.0 w500 \"abc", "", lost},
     {"ARC", r12, 8, 0, 0x01, "1.0 2.0 3.0 0.0 3.141592653589793 0.0 0.0 -1.0",
      "ARC 8 0 10 1.0 20 2.0 30 0.0 40 3.0 50 0.0 51 180.0 210 0.0 220 0.0 230 -1.0"},
@@ -89,7 +90,7 @@ const EarlyEntityRow earlyEntityRows[] = {
     {"INSERT in rows", r12, 14, 0, 0x1ff, "w0 1.0 2.0 3.0 4.0 0.0 5.0 w6 w7 8.0 9.0 0.0 0.0 1.0",
      "INSERT 8 0 2 TREE 10 1.0 20 2.0 30 0.0 41 3.0 42 4.0 50 0.0 43 5.0 70 6 71 7 44 8.0 45 9.0 210 0.0 220 0.0 230 "
      "1.0"},
-    {"INSERT of no block", r12, 14, 0, 0, "w9 1.0 2.0", "INSERT 8 0 2  10 1.0 20 2.0 30 0.0"},
+    {"INSERT of no block", r12, 14, 0, 0, "w9 1.0 2.0", "", "INSERT: Its block is lost."},
     {"ATTDEF", r12, 15, 0, 0x201, "1.0 2.0 3.0 'one 'Which? 'TAG b8 b5 b2",
      "ATTDEF 8 0 10 1.0 20 2.0 30 0.0 40 3.0 1 one 3 Which? 2 TAG 70 8 73 5 74 2"},
     {"ATTRIB", r9, 16, 0, 0xfe, "1.0 2.0 3.0 'one 'TAG b0 0.0 2.0 0.0 b0 b2 b1 4.0 5.0",
@@ -120,6 +121,8 @@ const EarlyEntityRow earlyEntityRows[] = {
     {"DIMENSION with a turned text", r12, 23, 0, 0x800, "w0 1.0 2.0 3.0 4.0 5.0 1.0",
      "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 0.0",
      "The turn of its text or of its extension lines is left out."},
+    {"DIMENSION of no block, without its style", r12, 23, 0, 0, "w9 1.0 2.0 3.0 4.0 5.0 w9",
+     "DIMENSION 8 0 10 1.0 20 2.0 30 3.0 11 4.0 21 5.0 31 0.0", "DIMENSION: The block with its lines is lost."},
     {"DIMENSION of R10 with flat points", r10, 23, 0, 0x08, "w0 1.0 2.0 4.0 5.0 6.0 7.0",
      "DIMENSION 8 0 2 TREE 10 1.0 20 2.0 30 0.0 11 4.0 21 5.0 31 0.0 13 6.0 23 7.0 33 0.0"},
     {"DIMENSION of R10 with points in space", r10, 23, 0, 0x08, "w0 1.0 2.0 3.0 4.0 5.0 6.0 7.0 8.0",

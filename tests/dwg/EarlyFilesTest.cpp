@@ -77,7 +77,7 @@ TEST(EarlyDwg, RecordsOfTablesWithoutNamesAreLostAndCounted)
     EXPECT_EQ(earlyRecordsOf(tree, "HEADER").find("$CLAYER"), std::string::npos);
     EXPECT_TRUE(earlyRecordsOf(tree, "STYLE").starts_with("STYLE 2  70 1 40 0.0")) << earlyRecordsOf(tree, "STYLE");
     std::string expected;
-    for (const char *type : {"LTYPE", "LAYER", "STYLE", "BLOCK"})
+    for (const char *type : {"BLOCK", "LTYPE", "LAYER", "STYLE"})
         expected += type + std::string(": It has no name.\n");
     EXPECT_EQ(earlyProblemsOf(drawing), expected);
 }
@@ -101,6 +101,35 @@ TEST(EarlyDwg, BlocksHaveWhatTheirTableSays)
               "BLOCK 8 0 2 PLAN 70 4 10 1.0 20 2.0 30 3.0 3 PLAN 1 C:\\PLAN.DWG\nENDBLK 8 0\n"
               "BLOCK 8 0 2 *U1 70 1 10 0.0 20 0.0 30 0.0 3 *U\nPOINT 8 0 10 1.0 20 2.0 30 3.0\nENDBLK\n");
     EXPECT_EQ(earlyProblemsOf(drawing), "BLOCK: There is no block at its place: BROKEN.\n");
+}
+
+TEST(EarlyDwg, NothingShowsABlockThatIsLost)
+{
+    struct LostBlockRow
+    {
+        int tableFlags;
+        int type;
+        const char *values;
+        std::size_t lost; ///< with the two insertions
+    };
+    for (const LostBlockRow &row : {LostBlockRow{128, 12, "0.0 0.0", 2}, {0, 2, "1.0 2.0", 3}, {0, 12, "0.0", 3}}) {
+        EarlyFileMaker maker(r9);
+        maker.addToBlocks(12, 0, 0, "0.0 0.0");
+        maker.addToBlocks(14, 0, 0, "w1 5.0 6.0");
+        const std::size_t gone = maker.addToBlocks(13, 0, 0, "") + 8;
+        maker.addToBlocks(row.type, 0, 0, row.values);
+        maker.addRecord(EarlyTableKind::Blocks, 0, "PARENT", "l1073741824");
+        maker.addRecord(EarlyTableKind::Blocks, row.tableFlags, "GONE",
+                        'l' + std::to_string(gone | EarlyFileMaker::blocksBit));
+        maker.addEntity(14, 0x80, 0, "w1 1.0 2.0");
+        maker.addEntity(16, 0, 0, "1.0 2.0 3.0 'one 'TAG b0");
+        maker.addEntity(14, 0, 0, "w0 1.0 2.0");
+        const DrawingText drawing = readDrawing(maker.file());
+        const TextTree tree = readTree(drawing.text);
+        EXPECT_EQ(earlyRecordsOf(tree, "BLOCKS"), "BLOCK 8 0 2 PARENT 70 0 10 0.0 20 0.0\nENDBLK 8 0\n");
+        EXPECT_EQ(earlyRecordsOf(tree, "ENTITIES"), "INSERT 8 0 2 PARENT 10 1.0 20 2.0\n");
+        EXPECT_EQ(drawing.problems.lostCount(), row.lost) << earlyProblemsOf(drawing);
+    }
 }
 
 TEST(EarlyDwg, JumpsAreFollowedAndRingsEnd)

@@ -80,7 +80,11 @@ void skipDoubtfulAngle(EarlyRecord &r, unsigned option)
 
 void readEarlyDimension(EarlyRecord &r)
 {
-    r.fields().note(2, r.takeName(EarlyTableKind::Blocks));
+    const std::string_view block = r.takeName(EarlyTableKind::Blocks);
+    if (block.empty())
+        r.setDoubt("The block with its lines is lost."); // programs draw them anew
+    else
+        r.fields().note(2, block);
     noteMeasuredPoint(r, 10);
     r.planePoint(11);
     r.planePoint(0x01, 12);
@@ -99,8 +103,9 @@ void readEarlyDimension(EarlyRecord &r)
     r.extrusion(0x400);
     skipDoubtfulAngle(r, 0x800);
     skipDoubtfulAngle(r, 0x1000);
-    if (r.left() == 2)
-        r.fields().note(3, r.takeName(EarlyTableKind::DimensionStyles));
+    const std::string_view style = r.left() == 2 ? r.takeName(EarlyTableKind::DimensionStyles) : "";
+    if (!style.empty())
+        r.fields().note(3, style);
 }
 
 } // namespace

@@ -6,7 +6,10 @@ namespace {
 
 void readEarlyInsert(EarlyRecord &r)
 {
-    r.fields().note(2, r.takeName(EarlyTableKind::Blocks));
+    const std::string_view block = r.takeName(EarlyTableKind::Blocks);
+    if (block.empty())
+        r.setLack("Its block is lost.");
+    r.fields().note(2, block);
     r.planePoint(10);
     r.real(0x01, 41);
     r.real(0x02, 42);

@@ -48,10 +48,11 @@ public:
     {
         if (m_file.release < Release::R9)
             m_problems.warn("The file is of a release before R9, and read by the layout of R9.");
+        findBlocks();
         const std::size_t variables = writeEarlyHeader(m_file, m_names, m_text, m_problems);
         writeEarlyTables(m_file, m_names, m_text, m_problems);
         beginSection("BLOCKS");
-        for (const EarlyBlock &block : readEarlyBlocks(m_file, m_names))
+        for (const EarlyBlock &block : m_blocks)
             writeBlock(block);
         writeMark("ENDSEC");
         beginSection("ENTITIES");
@@ -87,6 +88,8 @@ private:
                         ".");
     }
 
+    static constexpr EarlyType beginType = {earlyBlock, "BLOCK", nullptr};
+
     void writeMark(const char *type)
     {
         m_fields.start({}, {}, {});
@@ -102,15 +105,35 @@ private:
         m_fields.write(m_text);
     }
 
+    /// Blocks may have each other, so it must be known beforehand which ones there will be.
+    void findBlocks()
+    {
+        m_blocks = readEarlyBlocks(m_file, m_names);
+        std::erase_if(m_blocks, [this](const EarlyBlock &block) { return !isThere(block); });
+        m_block = nullptr;
+        m_names.keepBlocks(m_blocks);
+    }
+
+    bool isThere(const EarlyBlock &block)
+    {
+        const auto first = m_frames.at(m_frames.placeOf(block.address));
+        m_block = &block;
+        if (block.name.empty())
+            lose("BLOCK", "It has no name.");
+        else if (!first || first->type != earlyBlock)
+            lose("BLOCK", "There is no block at its place: " + block.name + '.');
+        else if (!readEntity(*first, beginType))
+            lose("BLOCK", "Its values do not fill its record: " + block.name + '.');
+        else
+            return true;
+        return false;
+    }
+
     void writeBlock(const EarlyBlock &block)
     {
-        if (block.name.empty())
-            return lose("BLOCK", "It has no name.");
         const auto first = m_frames.take(m_frames.placeOf(block.address));
-        if (!first || first->type != earlyBlock)
-            return lose("BLOCK", "There is no block at its place: " + block.name + '.');
         m_block = &block;
-        const bool isWritten = writeEntity(*first, {earlyBlock, "BLOCK", nullptr});
+        const bool isWritten = first && writeEntity(*first, beginType);
         m_block = nullptr;
         if (isWritten && !writeRecords(first->next, earlyEndOfBlock))
             writeMark("ENDBLK");
@@ -209,6 +232,10 @@ private:
             lose(type.name, "Its values do not fill its record.", m_record.handle());
             return false;
         }
+        if (m_record.lack()) {
+            lose(type.name, m_record.lack(), m_record.handle());
+            return false;
+        }
         if (!m_frames.fitsChecksum(frame))
             warn(type, "The checksum does not fit.");
         if (m_record.doubt())
@@ -270,6 +297,7 @@ private:
     Names m_noNames;
     Fields m_fields;
     EarlyRecord m_record;
+    std::vector<EarlyBlock> m_blocks;    ///< those that there are
     const EarlyBlock *m_block = nullptr; ///< whose BLOCK is read
     bool m_hasEntity = false;            ///< one whose values say more than its length
     List m_list = List::None;

@@ -35,6 +35,8 @@ public:
     /// Behind the last record of a section, where none follows.
     bool isEnd(std::size_t place) const;
     /// The record at the place; nothing where none can be.
+    std::optional<EarlyFrame> at(std::size_t place) const;
+    /// The same, as long as no more bytes are taken than there are.
     std::optional<EarlyFrame> take(std::size_t place);
     /// Where the first record behind a place where none can be is: one that `isWhole` finds good, and which has a
     /// checksum that fits or, before R11, another record behind it. Looks at no more bytes than the file
@@ -48,7 +50,6 @@ public:
 
 private:
     const EarlySection *sectionOf(std::size_t place) const;
-    std::optional<EarlyFrame> at(std::size_t place) const;
 
     const EarlyFile &m_file;
     std::size_t m_bytesLeft; ///< to be handed out

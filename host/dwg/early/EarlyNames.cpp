@@ -82,6 +82,15 @@ std::string_view EarlyNames::linetype(std::size_t index) const
     return index == 0x7ffe || index == 0xff ? "BYBLOCK" : "BYLAYER";
 }
 
+void EarlyNames::keepBlocks(const std::vector<EarlyBlock> &blocks)
+{
+    auto &names = m_names[static_cast<std::size_t>(EarlyTableKind::Blocks)];
+    std::vector<std::string> kept(names.size());
+    for (const EarlyBlock &block : blocks)
+        kept[block.index] = block.name;
+    names = std::move(kept);
+}
+
 std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames &names)
 {
     std::vector<EarlyBlock> blocks;
@@ -90,7 +99,7 @@ std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames 
         EarlyTableRecord record = earlyTableRecord(file, table, i);
         const std::uint32_t address = record.body.raw32();
         if (!record.isDeleted() && !record.body.hasFailed())
-            blocks.push_back({std::string(names.name(EarlyTableKind::Blocks, i)), record.flags, address});
+            blocks.push_back({i, std::string(names.name(EarlyTableKind::Blocks, i)), record.flags, address});
     }
     return blocks;
 }

@@ -20,6 +20,15 @@ struct EarlyTableRecord
 /// The record at the place in the table, which must be one of its `count`.
 EarlyTableRecord earlyTableRecord(const EarlyFile &file, const EarlyTable &table, std::size_t index);
 
+/// Where records of blocks have the address of the block's entities: its table gives name, flags and address.
+struct EarlyBlock
+{
+    std::size_t index = 0; ///< in the table
+    std::string name;
+    int flags = 0;
+    std::uint32_t address = 0;
+};
+
 /// What records refer to by its place in a table, and drawings in text form by name. A place that a table does not have
 /// gives an empty name.
 class EarlyNames
@@ -34,6 +43,8 @@ public:
     bool hasFirstLayer() const;
     /// The same with BYLAYER and BYBLOCK, which have numbers of their own.
     std::string_view linetype(std::size_t index) const;
+    /// Takes the names of all blocks but these: nothing can refer to the others.
+    void keepBlocks(const std::vector<EarlyBlock> &blocks);
 
 private:
     std::array<std::vector<std::string>, static_cast<std::size_t>(EarlyTableKind::Count)> m_names;
@@ -41,14 +52,6 @@ private:
 
 /// A handle of up to eight bytes, the highest first.
 std::uint64_t takeEarlyHandle(BitReader &reader, int bytes);
-
-/// Where records of blocks have the address of the block's entities: its table gives name, flags and address.
-struct EarlyBlock
-{
-    std::string name;
-    int flags = 0;
-    std::uint32_t address = 0;
-};
 
 /// The blocks of the file in the order of their table, without deleted ones.
 std::vector<EarlyBlock> readEarlyBlocks(const EarlyFile &file, const EarlyNames &names);

@@ -38,6 +38,7 @@ void EarlyRecord::begin(const EarlyType &type, BitReader record, int flags, Earl
     f.note(0, type.name);
     m_form = form;
     m_doubt = nullptr;
+    m_lack = nullptr;
     m_isFlattened = type.isFlattened && hasEarlyFlag(flags, earlyElevation) && isSpatial();
     m_layer = f.values().raw16();
     m_options = f.values().raw16();
@@ -137,8 +138,9 @@ void EarlyRecord::extrusion(unsigned option)
 
 void EarlyRecord::style(unsigned option, int code)
 {
-    if (has(option))
-        f.note(code, m_names.name(EarlyTableKind::Styles, f.values().byte()));
+    const std::string_view name = has(option) ? m_names.name(EarlyTableKind::Styles, f.values().byte()) : "";
+    if (!name.empty())
+        f.note(code, name);
 }
 
 void EarlyRecord::planePoint(int code)

@@ -61,7 +61,7 @@ public:
     void text(unsigned option, int code);
     /// 210, of three numbers.
     void extrusion(unsigned option);
-    /// The name at the place in a table that stands in a byte.
+    /// The name at the place in a table that stands in a byte. Nothing is noted where the table lacks it.
     void style(unsigned option, int code);
     /// A point in the entity's plane: two numbers. From R10 on the text form has the elevation as the third one.
     void planePoint(int code);
@@ -80,6 +80,9 @@ public:
     /// What could not be understood in the entity, apart from damage; null where nothing.
     const char *doubt() const { return m_doubt; }
     void setDoubt(const char *doubt) { m_doubt = doubt; }
+    /// What the entity refers to and cannot be without, and is lost; null where nothing.
+    const char *lack() const { return m_lack; }
+    void setLack(const char *lack) { m_lack = lack; }
 
 private:
     void takeExtendedData(bool isThere);
@@ -100,6 +103,7 @@ private:
     bool m_isFlattened = false;
     bool m_isInPaperSpace = false;
     const char *m_doubt = nullptr;
+    const char *m_lack = nullptr;
 };
 
 // The rows, by subject.
