@@ -56,7 +56,7 @@ void EarlyRecord::begin(const EarlyType &type, BitReader record, int flags, Earl
 bool EarlyRecord::hasList(int type, int flags)
 {
     constexpr int polyline = 19;
-    return (type == insertNumber || type == polyline) && hasEarlyFlag(flags, earlyFollowers);
+    return type == polyline || (type == insertNumber && hasEarlyFlag(flags, earlyFollowers));
 }
 
 void EarlyRecord::takeExtendedData(bool isThere)

@@ -38,7 +38,7 @@ public:
     /// entity's length.
     void begin(const EarlyType &type, BitReader record, int flags, EarlyForm form);
 
-    /// Whether attributes or vertices follow: the flags say so, of a type that can have any.
+    /// Whether attributes or vertices follow: the flags of an insertion say so, and polylines have vertices always.
     static bool hasList(int type, int flags);
     static constexpr int insertNumber = 14;
     bool has(unsigned option) const { return (m_options & option) != 0; }
