@@ -90,14 +90,13 @@ void readXline(Fields &f)
 void readTrace(Fields &f)
 {
     f.subclass("AcDbTrace");
-    const std::size_t begin = f.mark();
-    f.thickness();
+    const double thickness = f.values().thickness(f.release());
     const double height = f.real();
     for (int code = 10; code <= 13; ++code) {
         const double x = f.rawReal();
         f.note(code, Point{x, f.rawReal(), height});
     }
-    f.arrange(begin, {10, 20, 30, 11, 21, 31, 12, 22, 32, 13, 23, 33, 39});
+    f.noteUnless(39, thickness, {0.0});
     f.extrusion();
 }
 

@@ -41,43 +41,71 @@ Point readFactors(Fields &f)
     }
 }
 
+/// How often a block is shown.
+struct InsertRows
+{
+    int columns = 1;
+    int rows = 1;
+    double columnDistance = 0.0;
+    double rowDistance = 0.0;
+};
+
+InsertRows readInsertRows(Fields &f)
+{
+    InsertRows rows;
+    rows.columns = f.int16();
+    rows.rows = f.int16();
+    rows.columnDistance = f.real();
+    rows.rowDistance = f.real();
+    return rows;
+}
+
+/// The attributes that follow, `count` of them where the file tells it (from R2004 on).
+void readAttributeList(Fields &f, std::size_t count)
+{
+    Relations &relations = f.relations();
+    if (f.until(Release::R2000)) {
+        relations.firstOwned = f.reference();
+        relations.lastOwned = f.reference();
+    }
+    for (std::size_t i = 0; i < count; ++i)
+        relations.owned.push_back(f.reference());
+    relations.end = f.reference();
+}
+
 } // namespace
 
 void readInsertBody(Fields &f, bool isArray)
 {
-    f.subclass(isArray ? "AcDbMInsertBlock" : "AcDbBlockReference");
-    const std::size_t begin = f.mark();
     Relations &relations = f.relations();
-    f.point(10);
+    const Point place = f.point();
     const Point factors = readFactors(f);
-    f.noteUnless(41, factors.x, {1.0});
-    f.noteUnless(42, factors.y, {1.0});
-    f.noteUnless(43, factors.z, {1.0});
-    f.angle(50, {0.0});
+    const double rotation = f.real();
     const Point extrusion = f.point();
-    if (extrusion != Point{0.0, 0.0, 1.0})
-        f.note(210, extrusion);
     relations.hasList = f.flag();
     const std::size_t count =
         relations.hasList && f.since(Release::R2004) ? f.checkedCount(f.int32(), 8, f.references()) : 0;
-    if (isArray) {
-        f.int16(70, {1});
-        f.int16(71, {1});
-        f.real(44, {0.0});
-        f.real(45, {0.0});
-    }
-    f.name(2);
-    if (relations.hasList) {
+    const InsertRows rows = isArray ? readInsertRows(f) : InsertRows();
+    const std::uint64_t block = f.reference();
+    if (relations.hasList)
+        readAttributeList(f, count);
+
+    f.subclass(isArray ? "AcDbMInsertBlock" : "AcDbBlockReference");
+    if (relations.hasList)
         f.note(66, 1);
-        if (f.until(Release::R2000)) {
-            relations.firstOwned = f.reference();
-            relations.lastOwned = f.reference();
-        }
-        for (std::size_t i = 0; i < count; ++i)
-            relations.owned.push_back(f.reference());
-        relations.end = f.reference();
-    }
-    f.arrange(begin, {66, 2, 10, 20, 30, 41, 42, 43, 50, 70, 71, 44, 45});
+    f.note(2, f.nameOf(block));
+    f.note(10, place);
+    f.noteUnless(41, factors.x, {1.0});
+    f.noteUnless(42, factors.y, {1.0});
+    f.noteUnless(43, factors.z, {1.0});
+    if (rotation != 0.0)
+        f.noteAngle(50, rotation);
+    f.noteUnless(70, rows.columns, {1});
+    f.noteUnless(71, rows.rows, {1});
+    f.noteUnless(44, rows.columnDistance, {0.0});
+    f.noteUnless(45, rows.rowDistance, {0.0});
+    if (extrusion != Point{0.0, 0.0, 1.0})
+        f.note(210, extrusion);
 }
 
 namespace {

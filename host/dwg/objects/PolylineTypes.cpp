@@ -172,7 +172,6 @@ std::vector<LightVertex> readLightVertices(Fields &f, std::size_t count)
 void readLightPolyline(Fields &f)
 {
     f.subclass("AcDbPolyline");
-    const std::size_t begin = f.mark();
     const int parts = f.int16();
     const auto has = [parts](int part) { return (parts & part) != 0; };
     const double width = has(LightParts::width) ? f.real() : 0.0;
@@ -203,7 +202,6 @@ void readLightPolyline(Fields &f)
         f.note(43, width);
     f.noteUnless(38, height, {0.0});
     f.noteUnless(39, thickness, {0.0});
-    f.arrange(begin, {90, 70, 43, 38, 39});
     for (const LightVertex &vertex : vertices) {
         f.noteFlat(10, vertex.place);
         if (widths != 0) {
