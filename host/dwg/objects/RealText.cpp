@@ -42,8 +42,26 @@ std::size_t digitCount(std::uint64_t number)
     return least + ((number | 1) >= wholePowersOfTen[least] ? 1 : 0);
 }
 
+/// The numbers below 1000: their three digits, the first one in the lowest byte, and how many they are without zeros in
+/// front.
+constexpr auto threeDigits = [] {
+    std::array<std::uint32_t, 1000> numbers{};
+    for (std::uint32_t i = 0; i < numbers.size(); ++i) {
+        const std::uint32_t count = i < 10 ? 1 : i < 100 ? 2 : 3;
+        numbers[i] = ('0' + i / 100) | ('0' + i / 10 % 10) << 8 | ('0' + i % 10) << 16 | count << 24;
+    }
+    return numbers;
+}();
+
 char *putShort(std::uint64_t number, char *to)
 {
+    // What is in front of the point is short in most drawings.
+    if (number < threeDigits.size()) {
+        const std::uint32_t digits = threeDigits[number];
+        const std::uint32_t count = digits >> 24;
+        storeLowestFirst(digits >> (8 * (3 - count)), to);
+        return to + count;
+    }
     const std::size_t count = digitCount(number);
     storeLowestFirst((eightDigits(number) | eightZeros) >> (8 * (8 - count)), to);
     return to + count;
