@@ -78,11 +78,12 @@ bool markLost(const Container &container, std::vector<MapEntry> &entries)
     std::uint64_t room = container.objects.size();
     bool isWhole = true;
     for (MapEntry &entry : entries) {
-        const auto object = objectAt(container.objects, entry.place, container.release);
-        const bool isThere = object && object->frame.handle == entry.handle && object->size <= room;
-        room -= isThere ? object->size : 0;
+        const auto frame = frameAt(container.objects, entry.place, container.release);
+        const std::uint64_t size = frame ? endOf(*frame, container.objects) - entry.place : 0;
+        const bool isThere = frame && frame->handle == entry.handle && size <= room;
+        room -= isThere ? size : 0;
         entry.place = isThere ? entry.place : lostPlace;
-        entry.frame = isThere ? object->frame : ObjectFrame();
+        entry.frame = isThere ? *frame : ObjectFrame();
         isWhole = isWhole && isThere;
     }
     return isWhole;

@@ -15,20 +15,12 @@ bool isPossibleType(int type)
     return (type > 0 && type <= lastOwnNumber) || (type >= firstProxy && type <= lastClass);
 }
 
+} // namespace
+
 std::uint64_t endOf(const ObjectFrame &frame, Bytes objects)
 {
     constexpr std::uint64_t checksumSize = 2;
     return static_cast<std::uint64_t>(frame.bytes.data() - objects.data()) + frame.bytes.size() + checksumSize;
-}
-
-} // namespace
-
-std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release release)
-{
-    const auto frame = frameAt(objects, place, release);
-    if (!frame)
-        return std::nullopt;
-    return FoundObject{endOf(*frame, objects) - place, *frame};
 }
 
 std::vector<MapEntry> findObjects(Bytes objects, Release release)

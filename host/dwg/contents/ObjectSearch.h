@@ -12,15 +12,8 @@ struct MapEntry
     ObjectFrame frame; ///< what stands there; empty where nothing is, or it was not looked at
 };
 
-/// An object at a place of what the object map counts in.
-struct FoundObject
-{
-    std::uint64_t size = 0; ///< with its length and checksum
-    ObjectFrame frame;
-};
-
-/// Nothing when no object can be there.
-std::optional<FoundObject> objectAt(Bytes objects, std::uint64_t place, Release release);
+/// The place behind an object that was found in `objects`, and its checksum.
+std::uint64_t endOf(const ObjectFrame &frame, Bytes objects);
 
 /// Objects by rising handle as they are found without a map: from each byte on where the checksum of an object fits.
 /// Of several with one handle the last one. Costs a few looks at each byte.

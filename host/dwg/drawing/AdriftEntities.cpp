@@ -21,7 +21,7 @@ AdriftEntities::AdriftEntities(const DrawingObjects &objects, const ObjectHead::
     std::size_t left = objects.byteCount();
     for (std::size_t i = 0; i < objects.map().size(); ++i) {
         const MapEntry &entry = objects.map()[i];
-        const auto frame = objects.isTaken(i) ? std::nullopt : DrawingObjects::peek(entry);
+        const ObjectFrame *const frame = objects.isTaken(i) ? nullptr : DrawingObjects::peek(entry);
         if (!frame || isMark(frame->type) || !objects.isEntity(frame->type))
             continue;
         if (frame->bytes.size() > left)

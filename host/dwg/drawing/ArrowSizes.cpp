@@ -34,7 +34,7 @@ double ArrowSizes::sizeOf(std::uint64_t style, const ObjectHead &head)
 ArrowSizes::Size ArrowSizes::sizeOfStyle(std::uint64_t style) const
 {
     Size size;
-    const auto frame = m_objects.peek(style);
+    const ObjectFrame *const frame = m_objects.peek(style);
     if (!frame || frame->type != dimensionStyleType)
         return {0.0, 0.0};
     Fields fields(m_objects.release(), m_names);

@@ -50,7 +50,7 @@ void noteStandIn(DrawingObjects &objects, Fields &fields, const Mark &mark, std:
 /// Writes an end, as it is in the file or one that stands for it.
 void writeEnd(DrawingObjects &objects, RecordWriter &records, const Mark &mark, const Relations &of)
 {
-    const auto frame = objects.peek(of.end);
+    const ObjectFrame *const frame = objects.peek(of.end);
     if (frame && frame->type == mark.type && records.writeObject(of.end))
         return;
     const std::uint64_t handle = frame && frame->type != mark.type ? 0 : of.end;
@@ -111,7 +111,7 @@ private:
     /// False when nothing more follows from there.
     bool writeEntity(std::uint64_t handle)
     {
-        const auto frame = m_objects.take(handle);
+        const ObjectFrame *const frame = m_objects.take(handle);
         if (!frame)
             return false;
         if (!mayStand(frame->type, m_depth > 0)) {
@@ -150,8 +150,9 @@ void writeBlockBegin(DrawingParts &parts, const DrawingBlock &block)
     Fields &fields = parts.records.fields();
     const BlockHead &head = block.head;
     const Relations &relations = block.relations;
-    const auto seen = parts.objects.peek(relations.begin);
-    const auto frame = seen && seen->type == blockBegin.type ? parts.objects.take(relations.begin) : std::nullopt;
+    const ObjectFrame *const seen = parts.objects.peek(relations.begin);
+    const ObjectFrame *const frame =
+        seen && seen->type == blockBegin.type ? parts.objects.take(relations.begin) : nullptr;
     if (frame)
         parts.records.readHead(*frame, blockBegin.name, true);
     const bool isRead = frame && !fields.hasFailed();

@@ -97,7 +97,7 @@ void Companions::findStyles(const DrawingObjects &objects, Fields &fields)
         return;
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
-        const auto frame = entry.frame.type == one->number ? objects.peek(entry) : std::nullopt;
+        const ObjectFrame *const frame = entry.frame.type == one->number ? objects.peek(entry) : nullptr;
         if (!frame)
             continue;
         head.read(*frame, false, fields);
@@ -117,7 +117,7 @@ void Companions::findKeptModels(const DrawingObjects &objects, Fields &fields)
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
         const bool isSolid = entry.frame.type >= firstSolid && entry.frame.type <= lastSolid;
-        const auto frame = isSolid ? objects.peek(entry) : std::nullopt;
+        const ObjectFrame *const frame = isSolid ? objects.peek(entry) : nullptr;
         if (!frame)
             continue;
         if (frame->bytes.size() > left)

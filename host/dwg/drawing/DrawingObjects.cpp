@@ -41,30 +41,30 @@ std::size_t DrawingObjects::indexOf(std::uint64_t handle) const
                                                            : m_map.size();
 }
 
-std::optional<ObjectFrame> DrawingObjects::peek(std::uint64_t handle) const
+const ObjectFrame *DrawingObjects::peek(std::uint64_t handle) const
 {
     const std::size_t index = indexOf(handle);
-    return index != m_map.size() ? peek(m_map[index]) : std::nullopt;
+    return index != m_map.size() ? peek(m_map[index]) : nullptr;
 }
 
-std::optional<ObjectFrame> DrawingObjects::take(std::uint64_t handle)
+const ObjectFrame *DrawingObjects::take(std::uint64_t handle)
 {
     const std::size_t index = indexOf(handle);
     if (index == m_map.size() || m_isTaken[index])
-        return std::nullopt;
+        return nullptr;
     m_isTaken[index] = true;
     m_lastTaken = index;
-    auto frame = peek(m_map[index]);
+    const ObjectFrame *const frame = peek(m_map[index]);
     if (!frame) {
         m_lost.insert(handle);
         m_problems.add({Problem::Kind::Lost, "There is no object at its place.", {}, handle});
-        return std::nullopt;
+        return nullptr;
     }
     // Otherwise a small file could have any number of large objects, each in the others.
     m_bytesTaken += frame->bytes.size();
     if (m_bytesTaken > byteCount()) {
         lose(handle, frame->type, "It stands within other objects.");
-        return std::nullopt;
+        return nullptr;
     }
     if (!hasItsChecksum(m_container.objects, m_map[index].place, *frame))
         warn(handle, frame->type, "The checksum does not fit.");

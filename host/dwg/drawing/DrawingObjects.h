@@ -27,15 +27,12 @@ public:
     const std::vector<MapEntry> &map() const { return m_map; }
 
     /// The object as it stands in the file, without its checksum; nothing when there is none.
-    static std::optional<ObjectFrame> peek(const MapEntry &entry)
-    {
-        return entry.frame.bytes.empty() ? std::nullopt : std::optional(entry.frame);
-    }
-    std::optional<ObjectFrame> peek(std::uint64_t handle) const;
+    static const ObjectFrame *peek(const MapEntry &entry) { return entry.frame.bytes.empty() ? nullptr : &entry.frame; }
+    const ObjectFrame *peek(std::uint64_t handle) const;
     /// Whether the map tells of the object, be there nothing at its place.
     bool isTold(std::uint64_t handle) const { return indexOf(handle) != m_map.size(); }
     /// Takes the object, unless it was taken before: each is written once, whoever refers to it.
-    std::optional<ObjectFrame> take(std::uint64_t handle);
+    const ObjectFrame *take(std::uint64_t handle);
     /// Counts the object as taken.
     void leaveOut(std::uint64_t handle);
     /// Whether the object with this place in the map was taken.

@@ -65,7 +65,7 @@ void findRoots(DrawingObjects &objects, const Names &names, Fields &fields, Head
 {
     // Where the map tells of it, too, it is the right one, be there nothing left of it.
     const auto isTold = [&](const Root &root) {
-        const auto frame = objects.peek(header.*root.handle);
+        const ObjectFrame *const frame = objects.peek(header.*root.handle);
         return frame ? frame->type == root.type : objects.isTold(header.*root.handle);
     };
     std::vector<Root> missing;
@@ -75,7 +75,7 @@ void findRoots(DrawingObjects &objects, const Names &names, Fields &fields, Head
     for (const MapEntry &entry : objects.map()) {
         if (missing.empty())
             break;
-        const auto frame = objects.peek(entry);
+        const ObjectFrame *const frame = objects.peek(entry);
         const auto name = names.find(entry.handle);
         const auto found = std::find_if(missing.begin(), missing.end(), [&](const Root &root) {
             return frame && frame->type == root.type &&

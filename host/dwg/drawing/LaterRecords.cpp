@@ -20,7 +20,7 @@ bool isLaterName(std::string_view name)
 /// record.
 std::string beginningOf(const DrawingObjects &objects, std::uint64_t handle, Fields &fields)
 {
-    const auto frame = objects.peek(handle);
+    const ObjectFrame *const frame = objects.peek(handle);
     const ObjectType *type = frame ? objects.typeOf(frame->type) : nullptr;
     if (!type || std::string_view(type->name) != "XRECORD")
         return {};

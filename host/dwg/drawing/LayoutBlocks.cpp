@@ -43,7 +43,7 @@ const char *faultOf(const DrawingObjects &objects, const Fields &fields, std::ui
         return "It has no block.";
     if (others.contains(block))
         return "Another layout has its block.";
-    const auto frame = objects.peek(block);
+    const ObjectFrame *const frame = objects.peek(block);
     return frame && frame->type != blockType ? "What it has for its block is none." : nullptr;
 }
 
@@ -57,7 +57,7 @@ LayoutBlocks findLayoutBlocks(DrawingObjects &objects, Fields &fields)
     ObjectHead head({});
     for (const MapEntry &entry : objects.map()) {
         const int type = entry.frame.type;
-        const auto frame = type == layoutType || type == ofClass ? objects.peek(entry) : std::nullopt;
+        const ObjectFrame *const frame = type == layoutType || type == ofClass ? objects.peek(entry) : nullptr;
         // Objects do not overlap: what has more bytes than all of them is not looked at.
         if (!frame || frame->bytes.size() > left)
             continue;

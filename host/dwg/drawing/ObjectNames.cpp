@@ -27,7 +27,7 @@ void readNames(const DrawingObjects &objects, Fields &fields, Names &names)
     for (const MapEntry &entry : objects.map()) {
         if (std::ranges::find(namedTypes, entry.frame.type) == namedTypes.end())
             continue;
-        const auto frame = objects.peek(entry);
+        const ObjectFrame *const frame = objects.peek(entry);
         if (!frame)
             continue;
         bytes += frame->bytes.size();
@@ -49,7 +49,7 @@ DictionaryEntries readEntries(const DrawingObjects &objects, std::uint64_t dicti
 {
     constexpr int dictionaryType = 0x2a;
     DictionaryEntries entries;
-    const auto frame = objects.peek(dictionary);
+    const ObjectFrame *const frame = objects.peek(dictionary);
     if (!frame || frame->type != dictionaryType)
         return entries;
     ObjectHead({}).read(*frame, false, fields);

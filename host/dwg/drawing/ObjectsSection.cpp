@@ -15,7 +15,7 @@ bool mayStandHere(const DrawingObjects &objects, int type)
 /// Writes an object, unless it has its place elsewhere.
 bool writeHere(DrawingParts &parts, std::uint64_t handle)
 {
-    const auto frame = parts.objects.peek(handle);
+    const ObjectFrame *const frame = parts.objects.peek(handle);
     return (!frame || mayStandHere(parts.objects, frame->type)) && parts.records.writeObject(handle);
 }
 

@@ -53,7 +53,7 @@ std::optional<TextSize> RecordWriter::sizeOfText(std::uint64_t handle)
     if (known != m_textSizes.end())
         return known->second;
     std::optional<TextSize> &size = m_textSizes[handle];
-    const auto frame = m_objects.peek(handle);
+    const ObjectFrame *const frame = m_objects.peek(handle);
     if (!frame || frame->type != paragraphsType)
         return size;
     Fields fields(m_objects.release(), m_names);
@@ -70,7 +70,7 @@ std::optional<NotedColour> RecordWriter::bookColour(std::uint64_t handle)
     if (known != m_bookColours.end())
         return known->second;
     std::optional<NotedColour> &colour = m_bookColours[handle];
-    const auto frame = m_objects.peek(handle);
+    const ObjectFrame *const frame = m_objects.peek(handle);
     if (!frame || m_objects.typeNameOf(frame->type) != "DBCOLOR")
         return colour;
     Fields fields(m_objects.release(), m_names);
@@ -156,7 +156,7 @@ bool RecordWriter::writeObject(std::uint64_t handle)
         noteOwned();
         return true;
     }
-    const auto frame = m_objects.take(handle);
+    const ObjectFrame *const frame = m_objects.take(handle);
     return frame && writeFrame(handle, *frame);
 }
 

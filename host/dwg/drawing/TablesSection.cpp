@@ -21,7 +21,7 @@ std::vector<std::uint64_t> entriesByType(const DrawingObjects &objects, int tabl
 {
     std::vector<std::uint64_t> entries;
     for (const MapEntry &entry : objects.map()) {
-        if (const auto frame = DrawingObjects::peek(entry); frame && frame->type == tableType + 1)
+        if (const ObjectFrame *const frame = DrawingObjects::peek(entry); frame && frame->type == tableType + 1)
             entries.push_back(entry.handle);
     }
     return entries;
@@ -31,7 +31,7 @@ std::vector<std::uint64_t> entriesByType(const DrawingObjects &objects, int tabl
 TableContents readTable(DrawingParts &parts, int type, std::uint64_t handle)
 {
     TableContents table;
-    const auto frame = parts.objects.peek(handle);
+    const ObjectFrame *const frame = parts.objects.peek(handle);
     if (frame && frame->type == type) {
         Fields &fields = parts.records.fields();
         parts.records.readHead(*frame, "TABLE", false);
@@ -134,7 +134,7 @@ void writeSpaceStandIn(DrawingParts &parts, std::uint64_t handle)
 /// Takes the block and starts the fields with it.
 bool takeBlock(DrawingParts &parts, std::uint64_t handle)
 {
-    const auto frame = parts.objects.take(handle);
+    const ObjectFrame *const frame = parts.objects.take(handle);
     if (!frame)
         return false;
     if (frame->type != blockType) {
@@ -178,7 +178,7 @@ void noteTableStandIn(DrawingParts &parts, const char *name, std::uint64_t handl
 void writeEntries(DrawingParts &parts, int tableType, const std::vector<std::uint64_t> &entries)
 {
     for (const std::uint64_t entry : entries) {
-        const auto frame = tableType != blockTableType ? parts.objects.peek(entry) : std::nullopt;
+        const ObjectFrame *const frame = tableType != blockTableType ? parts.objects.peek(entry) : nullptr;
         if (tableType == blockTableType)
             writeBlockRecord(parts, entry);
         else if (!frame || frame->type == tableType + 1)
@@ -190,7 +190,7 @@ void writeTable(DrawingParts &parts, const char *name, int type, std::uint64_t h
 {
     Fields &fields = parts.records.fields();
     // Its checksum is looked at, and that it was not taken for something else.
-    const auto seen = parts.objects.peek(handle);
+    const ObjectFrame *const seen = parts.objects.peek(handle);
     const bool isTaken = seen && seen->type == type && parts.objects.take(handle);
     TableContents table = readTable(parts, type, isTaken ? handle : 0);
     if (!table.isRead)
