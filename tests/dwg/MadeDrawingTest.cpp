@@ -96,6 +96,8 @@ TEST_P(MadeFiles, EntitiesHaveTheirOwnHeads)
     const std::string usualOwner = "330 1D|";
     const std::string usualTags = "8 0|";
     constexpr std::uint64_t layer = MadeHandles::First;
+    const std::string graphics = GetParam() >= Release::R2010 ? "160 3|310 000102|" : "92 3|310 000102|";
+    const std::string weight = GetParam() >= Release::R2000 ? "370 30|" : "";
     const std::vector<Row> rows = {
         {[](MadeHead &) {}, usualOwner, usualTags},
         {[](MadeHead &head) { head.colour = 3; }, usualOwner, "8 0|62 3|"},
@@ -104,6 +106,12 @@ TEST_P(MadeFiles, EntitiesHaveTheirOwnHeads)
         {tellOwner, usualOwner, usualTags},
         {[](MadeHead &head) { head.space = 1; }, "330 1A|", "67 1|8 0|"},
         {[](MadeHead &head) { head.linetypeScale = 0.5; }, usualOwner, "8 0|48 0.5|"},
+        {[](MadeHead &head) {
+             head.linetypeScale = 0.5;
+             head.graphics = std::string("\0\1\2", 3);
+             head.weight = 8;
+         },
+         usualOwner, "8 0|48 0.5|" + graphics + weight},
         {[](MadeHead &head) { head.reactors = {0x10}; }, "102 {ACAD_REACTORS|330 10|102 }|" + usualOwner, usualTags},
         {[](MadeHead &head) { head.reactors = {0x11}; }, "102 {ACAD_REACTORS|330 11|102 }|" + usualOwner, usualTags},
         {[](MadeHead &head) { head.tellsNeighbours = false; }, usualOwner, usualTags},

@@ -127,8 +127,9 @@ void readEntityReferences(Fields &fields, EntityValues &entity)
         readLayer();
 }
 
-/// Notes it, and reads the references that are left: to a material, a plot style and visual styles.
-void noteEntity(Fields &fields, const EntityValues &entity)
+/// Notes it, and reads the references that are left: to a material, a plot style and visual styles. Gives the mark that
+/// graphics have in front of them: what R2000 and later added stands behind these.
+std::size_t noteEntity(Fields &fields, const EntityValues &entity)
 {
     // Of a layer that is lost an entity comes to the one that every drawing has, and gets the linetype of its layer for
     // one that is lost.
@@ -157,6 +158,7 @@ void noteEntity(Fields &fields, const EntityValues &entity)
         fields.note(440, static_cast<std::int32_t>(colour.transparency));
     fields.noteUnless(48, entity.scale, {1.0});
     fields.noteUnless(60, entity.invisible & 1, {0});
+    const std::size_t graphics = fields.mark();
     fields.noteUnless(370, entity.weight, {-1});
     if (plotStyle != 0)
         fields.noteHandle(390, plotStyle);
@@ -165,6 +167,7 @@ void noteEntity(Fields &fields, const EntityValues &entity)
         if (has)
             fields.reference(348);
     }
+    return graphics;
 }
 
 } // namespace
@@ -318,12 +321,15 @@ void ObjectHead::readEntityHead(Fields &fields)
     fields.subclass("AcDbEntity");
     if (isInPaperSpace(fields))
         fields.note(67, 1);
-    noteEntity(fields, entity);
+    const std::size_t graphics = noteEntity(fields, entity);
     m_graphicsMark = fields.mark();
     // Tables that stand as inserts are drawn by their blocks.
     if (!m_graphics.empty() && fields.typeName() != "INSERT") {
         fields.note(fields.since(Release::R2010) ? 160 : 92, m_graphics.size());
         fields.noteBinary(310, m_graphics);
+        // Proxies have them in a part of their own.
+        if (fields.typeName() != "ACAD_PROXY_ENTITY")
+            fields.moveForward(m_graphicsMark, graphics);
     }
     // The handle is the first tag.
     if (mayBeRepeated(fields, entity.hasNoLinks))

@@ -30,7 +30,7 @@ ObjectWriter::ObjectWriter(Release release, const MadeHead &head) : m_release(re
     m_values.handle(0, head.handle);
     writeExtensions(head);
     if (head.isEntity)
-        m_values.bit(false); // no picture
+        writeGraphics(head);
     if (until(Release::R14))
         holdSize();
     if (head.isEntity)
@@ -59,6 +59,18 @@ void ObjectWriter::writeExtensions(const MadeHead &head)
         m_values.rawBytes(extension.bytes);
     }
     m_values.shortInteger(0);
+}
+
+void ObjectWriter::writeGraphics(const MadeHead &head)
+{
+    m_values.bit(!head.graphics.empty());
+    if (head.graphics.empty())
+        return;
+    if (since(Release::R2010))
+        m_values.longLong(head.graphics.size());
+    else
+        m_values.raw32(static_cast<std::uint32_t>(head.graphics.size()));
+    m_values.rawBytes(head.graphics);
 }
 
 void ObjectWriter::writeRelations(const MadeHead &head)
@@ -96,9 +108,8 @@ void ObjectWriter::writeEntityHead(const MadeHead &head)
     if (since(Release::R2010))
         m_values.bits(0, 3); // no visual styles
     m_values.shortInteger(head.isVisible ? 0 : 1);
-    constexpr int weightOfLayer = 29;
     if (since(Release::R2000))
-        m_values.byte(weightOfLayer);
+        m_values.byte(head.weight);
     if (until(Release::R14))
         reference(head.layer);
     if (until(Release::R2000) && head.tellsNeighbours)

@@ -35,6 +35,8 @@ struct MadeHead
     std::uint32_t transparency = 0; ///< from R2004 on; 0: none
     double linetypeScale = 1.0;
     bool isVisible = true;
+    std::string graphics; ///< what programs draw that do not know it
+    int weight = 29;      ///< of its lines, from R2000 on: that of the layer
 };
 
 /// Writes one object: each call takes a field of it in the order of the file, and knows where the release has it: among
@@ -81,6 +83,7 @@ private:
     void writeExtensions(const MadeHead &head);
     void writeEntityHead(const MadeHead &head);
     void writeEntityColour(const MadeHead &head);
+    void writeGraphics(const MadeHead &head);
     void writeRelations(const MadeHead &head);
     void holdSize();
 
