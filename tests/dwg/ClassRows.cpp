@@ -18,6 +18,14 @@ const std::string plainEnd = "l0 t t ";
 const std::string plainEndTags = "94 0|300 |302 |304 ACVALUE_END|";
 const std::string scaleTags = "100 AcDbObjectContextData|70 4|290 1|100 AcDbAnnotScaleObjectContextData|340 50|";
 
+// A step of a solid's history up to the sizes of what was made.
+const std::string historyNode =
+    "l-1 l33 l29 s-9999 l1 l33 l29 d1 d0 d0 d5 d0 d1 d0 d6 d0 d0 d1 d0 d0 d0 d0 d1 C256 l2 h50 l33 l29 ";
+const std::string historyTags =
+    "100 AcDbEvalExpr|90 1|98 33|99 29|100 AcDbShHistoryNode|90 33|91 29|40 1.0|41 0.0|42 0.0|43 5.0|44 0.0|45 1.0|"
+    "46 0.0|47 6.0|48 0.0|49 0.0|50 57.29577951308232|51 0.0|52 0.0|53 0.0|54 0.0|"
+    "55 57.29577951308232|62 256|92 2|347 50|100 AcDbShPrimitive|100 ";
+
 const ClassRow rows[] = {
     {"FIELD",
      "t t l0 l0 l0 l0 l0 l0 l0 t l3 l0 " + plainEnd + "t l0 l7 tA l2 l1 l7 " + plainEnd + "tB l2 l2 d2.5 " + plainEnd +
@@ -30,11 +38,14 @@ const ClassRow rows[] = {
          "7 ACFD_FIELD_VALUE|93 3|90 0|" + plainEndTags + "301 |98 0|",
      false, Release::R2007},
     {"ACSH_HISTORY_CLASS", "l33 l29 h50 l1 b0 b1", "100 AcDbShHistory|90 33|91 29|360 50|92 1|280 0|281 1|"},
-    {"ACSH_BOX_CLASS",
-     "l-1 l33 l29 s-9999 l1 l33 l29 d1 d0 d0 d5 d0 d1 d0 d6 d0 d0 d1 d0 d0 d0 d0 d1 C256 l2 h50 l33 l29 d3 d4 d5",
-     "100 AcDbEvalExpr|90 1|98 33|99 29|100 AcDbShHistoryNode|90 33|91 29|40 1.0|41 0.0|42 0.0|43 5.0|44 0.0|45 1.0|"
-     "46 0.0|47 6.0|48 0.0|49 0.0|50 57.29577951308232|51 0.0|52 0.0|53 0.0|54 0.0|"
-     "55 57.29577951308232|62 256|92 2|347 50|100 AcDbShPrimitive|100 AcDbShBox|90 33|91 29|40 3.0|41 4.0|42 5.0|"},
+    {"ACSH_BOX_CLASS", historyNode + "d3 d4 d5", historyTags + "AcDbShBox|90 33|91 29|40 3.0|41 4.0|42 5.0|"},
+    {"ACSH_WEDGE_CLASS", historyNode + "d3 d4 d5", historyTags + "AcDbShWedge|90 33|91 29|40 3.0|41 4.0|42 5.0|"},
+    {"ACSH_SPHERE_CLASS", historyNode + "d3", historyTags + "AcDbShSphere|90 33|91 29|40 3.0|"},
+    {"ACSH_TORUS_CLASS", historyNode + "d3 d4", historyTags + "AcDbShTorus|90 33|91 29|40 3.0|41 4.0|"},
+    {"ACSH_CYLINDER_CLASS", historyNode + "d3 d4 d5 d6",
+     historyTags + "AcDbShCylinder|90 33|91 29|40 3.0|41 4.0|42 5.0|43 6.0|"},
+    {"ACSH_CONE_CLASS", historyNode + "d3 d4 d5 d6",
+     historyTags + "AcDbShCone|90 33|91 29|40 3.0|41 4.0|42 5.0|43 6.0|"},
     {"ACDBPERSSUBENTMANAGER", "l2 l0 l2 l0 l0 l1", "100 AcDbPersSubentManager|90 2|90 0|90 2|90 0|90 0|90 1|"},
     {"ACDBASSOCPERSSUBENTMANAGER", "l2 l3 l0 b1", "100 AcDbAssocPersSubentManager|90 2|90 3|90 0|290 1|"},
     {"ACDBASSOCACTION", "l1 l1 h50 h51 l1 l2 l2 b1 h52 b0 h53",
@@ -91,11 +102,12 @@ const ClassRow rows[] = {
      "d0 d0 d0 d0 d1 d0",
      "100 AcDbFilter|100 AcDbSpatialFilter|70 2|10 0.0|20 0.0|10 4.0|20 3.0|210 0.0|220 0.0|230 1.0|11 1.0|21 1.0|"
      "31 0.0|71 1|72 1|40 9.0|73 0|40 1.0|40 0.0|40 0.0|40 5.0|40 0.0|40 1.0|40 0.0|40 6.0|40 0.0|40 0.0|40 1.0|40 0.0|"
-     "40 1.0|40 0.0|40 0.0|40 0.0|40 0.0|40 1.0|40 0.0|40 0.0|40 0.0|40 0.0|40 1.0|40 0.0|"},
-    {"LAYER_FILTER", "l2 tA tB", "100 AcDbFilter|100 AcDbLayerFilter|8 A|8 B|"},
-    {"LAYER_INDEX", "l2455826 l43200000 l1 l7 tA h50",
-     "100 AcDbIndex|40 2455826.5|100 AcDbLayerIndex|8 A|360 50|90 7|"},
-    {"IDBUFFER", "c0 l1 h50", "100 AcDbIdBuffer|330 50|"},
+     "40 1.0|40 0.0|40 0.0|40 0.0|40 0.0|40 1.0|40 0.0|40 0.0|40 0.0|40 0.0|40 1.0|40 0.0|",
+     false, Release::R13},
+    {"LAYER_FILTER", "l2 tA tB", "100 AcDbFilter|100 AcDbLayerFilter|8 A|8 B|", false, Release::R13},
+    {"LAYER_INDEX", "l2455826 l43200000 l1 l7 tA h50", "100 AcDbIndex|40 2455826.5|100 AcDbLayerIndex|8 A|360 50|90 7|",
+     false, Release::R13},
+    {"IDBUFFER", "c0 l1 h50", "100 AcDbIdBuffer|330 50|", false, Release::R13},
     {"ACAD_EVALUATION_GRAPH", "l1 l1 l1 l0 l32 l1 h50 l-1 l-1 l-1 l-1 l1 l0 l0 l1 l1 l0 l-1 l-1 l-1 l-1 l-1",
      "100 AcDbEvalGraph|96 1|97 1|91 0|93 32|95 1|360 50|92 -1|92 -1|92 -1|92 -1|92 0|93 0|94 1|91 1|91 0|92 -1|92 -1|"
      "92 -1|92 -1|92 -1|"},

@@ -16,8 +16,8 @@ namespace host::dwg::test {
 
 namespace {
 
-constexpr Release releases[] = {Release::R2000, Release::R2004, Release::R2007,
-                                Release::R2010, Release::R2013, Release::R2018};
+constexpr Release releases[] = {Release::R13,   Release::R14,   Release::R2000, Release::R2004,
+                                Release::R2007, Release::R2010, Release::R2013, Release::R2018};
 
 std::uint64_t add(MadeDrawing &drawing, const ClassRow &row, const std::string &fields)
 {

@@ -91,6 +91,19 @@ TEST(DwgContents, FramesOfReferencesAreAFlagBeforeR2010)
     }
 }
 
+TEST(DwgContents, ThePlotStyleOfNewObjectsIsThereWhereItsKindSaysSo)
+{
+    for (const Release release : {Release::R2000, Release::R2007, Release::R2018}) {
+        MadeDrawing drawing(release);
+        drawing.setHeader("$CEPSNTYPE", 3);
+        drawing.setHeader("$CEPSNID", 0x51);
+        const ReadBack read = readBack(drawing);
+        EXPECT_NE(read.drawing.text.find("$CEPSNTYPE\n380\n3\n  9\n$CEPSNID\n390\n51\n"), std::string::npos);
+        EXPECT_EQ(read.problems(), "") << "what stands behind it is found";
+        EXPECT_EQ(readBack(MadeDrawing(release)).variable("$CEPSNID"), "");
+    }
+}
+
 TEST(DwgContents, StylesThatTheHeaderDoesNotNameAreTheUsualOnes)
 {
     MadeDrawing drawing(Release::R2010);

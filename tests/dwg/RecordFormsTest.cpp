@@ -69,6 +69,8 @@ const FormRow formRows[] = {
      "2 L|70 0|62 215|420 11096992|6 Continuous|370 0|390 0|"},
     {"the preview of a block", Release::R2000, Place::Entry, 0x31, blockHead + blockPreview + blockLinks,
      "2 B|340 52|310 2800FF|102 {BLKREFS|331 51|102 }|"},
+    {"an external block that is laid over, which has no entities here", Release::R2000, Place::Entry, 0x31,
+     "nB b0 b0 b0 b1 b0 " + blockPreview + "h0 h0 h0 h51 h52", "2 B|340 52|310 2800FF|102 {BLKREFS|331 51|102 }|"},
     {"what insertions of a block may do", Release::R2010, Place::Entry, 0x31,
      blockHead + "l0 " + blockPreview + laterBlockLinks,
      "2 B|340 52|310 2800FF|102 {BLKREFS|331 51|102 }|70 4|280 1|281 1|"},

@@ -29,7 +29,8 @@ enum class HeaderKind
     BlockName, ///< the same, of a block
     Reference,
     Bits,      ///< several variables in one number
-    StyleKind, ///< a number behind which a reference may stand
+    StyleKind, ///< a number that says whether the reference behind it is there
+    StyleReference,
     // References that the drawing is found from.
     BlockTable,
     LayerTable,

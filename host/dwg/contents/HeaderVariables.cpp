@@ -41,6 +41,8 @@ public:
             const HeaderRow &row = rows[i];
             if (f.release() < row.first || f.release() > row.last)
                 continue;
+            if (row.kind == HeaderKind::StyleReference && !m_hasStyle)
+                continue;
             const std::size_t begin = f.mark();
             read(row);
             if (row.kind == HeaderKind::Bits)
@@ -109,15 +111,14 @@ private:
                 noteBits(f, bits, m_header.noted);
             return;
         case HeaderKind::StyleKind:
-            // 3 means that a plot style is referred to.
-            if (f.int16(row.code) == 3)
-                reference();
+            m_hasStyle = f.int16(row.code) == 3;
             return;
         case HeaderKind::Name:
         case HeaderKind::BlockName:
             noteName(row.code);
             return;
         case HeaderKind::Reference:
+        case HeaderKind::StyleReference:
             f.noteHandle(row.code, reference());
             return;
         default:
@@ -173,6 +174,7 @@ private:
 
     Fields &f;
     Header m_header;
+    bool m_hasStyle = false; ///< new objects have a plot style that is referred to
 };
 
 } // namespace

@@ -87,14 +87,45 @@ void readHistoryNode(Fields &f)
     f.reference(347);
 }
 
-void readBox(Fields &f)
+/// A solid that was made at one go: lengths and radii under 40 and what follows.
+void readPrimitive(Fields &f, const char *subclass, int sizes)
 {
     readHistoryNode(f);
     f.subclass("AcDbShPrimitive");
-    f.subclass("AcDbShBox");
+    f.subclass(subclass);
     readVersion(f);
-    for (int code = 40; code <= 42; ++code)
-        f.real(code);
+    for (int i = 0; i < sizes; ++i)
+        f.real(40 + i);
+}
+
+void readBox(Fields &f)
+{
+    readPrimitive(f, "AcDbShBox", 3);
+}
+
+void readWedge(Fields &f)
+{
+    readPrimitive(f, "AcDbShWedge", 3);
+}
+
+void readSphere(Fields &f)
+{
+    readPrimitive(f, "AcDbShSphere", 1);
+}
+
+void readTorus(Fields &f)
+{
+    readPrimitive(f, "AcDbShTorus", 2);
+}
+
+void readCylinder(Fields &f)
+{
+    readPrimitive(f, "AcDbShCylinder", 4);
+}
+
+void readCone(Fields &f)
+{
+    readPrimitive(f, "AcDbShCone", 4);
 }
 
 /// Parts of solids that are told apart whatever changes: numbers alone, as many as there are.
@@ -134,6 +165,11 @@ std::span<const ObjectType> evaluationTypes()
         {0, "ACDB_BLOCKREPRESENTATION_DATA", readRepresentation},
         {0, "ACSH_HISTORY_CLASS", readHistory},
         {0, "ACSH_BOX_CLASS", readBox},
+        {0, "ACSH_WEDGE_CLASS", readWedge},
+        {0, "ACSH_SPHERE_CLASS", readSphere},
+        {0, "ACSH_TORUS_CLASS", readTorus},
+        {0, "ACSH_CYLINDER_CLASS", readCylinder},
+        {0, "ACSH_CONE_CLASS", readCone},
         {0, "ACDBPERSSUBENTMANAGER", readPartNumbers},
         {0, "ACDBASSOCPERSSUBENTMANAGER", readAssociativePartNumbers},
     };

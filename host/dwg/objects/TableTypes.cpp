@@ -409,7 +409,7 @@ BlockHead readBlockHead(Fields &f)
     f.reference();
     relations.begin = f.reference();
     if (f.until(Release::R2000)) {
-        if (!block.isExternal) {
+        if (!block.isExternal && !block.isOverlay) {
             relations.firstOwned = f.reference();
             relations.lastOwned = f.reference();
         }

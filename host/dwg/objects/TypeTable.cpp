@@ -33,8 +33,20 @@ const TypeIndex &typeIndex()
 bool isOldClass(std::string_view name)
 {
     constexpr std::string_view names[] = {
-        "ACDBDICTIONARYWDFLT", "DICTIONARYVAR", "IMAGE",   "IMAGEDEF",         "IMAGEDEF_REACTOR", "MATERIAL",
-        "RASTERVARIABLES",     "SORTENTSTABLE", "WIPEOUT", "WIPEOUTVARIABLES",
+        "ACDBDICTIONARYWDFLT",
+        "DICTIONARYVAR",
+        "IDBUFFER",
+        "IMAGE",
+        "IMAGEDEF",
+        "IMAGEDEF_REACTOR",
+        "LAYER_FILTER",
+        "LAYER_INDEX",
+        "MATERIAL",
+        "RASTERVARIABLES",
+        "SORTENTSTABLE",
+        "SPATIAL_FILTER",
+        "WIPEOUT",
+        "WIPEOUTVARIABLES",
     };
     return std::ranges::find(names, name) != std::end(names);
 }

@@ -360,7 +360,8 @@ FileBytes MadeDrawing::headerBytes() const
         if (m_release < row.first || m_release > row.last)
             continue;
         const auto found = m_header.find(std::string(row.name));
-        writeHeaderValue(o, row, found != m_header.end() ? found->second : 0.0);
+        if (row.kind != HeaderKind::StyleReference || found != m_header.end())
+            writeHeaderValue(o, row, found != m_header.end() ? found->second : 0.0);
     }
     return o.run();
 }
