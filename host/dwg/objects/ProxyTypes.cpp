@@ -91,18 +91,20 @@ int referenceCode(int kind)
     }
 }
 
+/// Sizes have other groups from R2010 on, as those of graphics.
 void noteRest(Fields &f, const ProxyParts &parts)
 {
-    const BitRow row = restOfValues(f.values(), parts.texts);
-    f.note(93, row.count());
-    f.noteBinary(310, row.bytes());
+    const bool isLate = f.since(Release::R2010);
     if (f.texts().left() > 0) {
         // From R2007 on they stand apart from the other values.
         BitRow texts;
         copyBits(f.texts(), f.texts().left(), texts);
-        f.note(162, texts.count());
+        f.note(isLate ? 162 : 96, texts.count());
         f.noteBinary(311, texts.bytes());
     }
+    const BitRow row = restOfValues(f.values(), parts.texts);
+    f.note(isLate ? 161 : 93, row.count());
+    f.noteBinary(310, row.bytes());
     bool hasReferences = false;
     while (f.references().left() >= 8 && !f.references().hasFailed()) {
         const HandleReference reference = f.references().handle();
@@ -114,6 +116,18 @@ void noteRest(Fields &f, const ProxyParts &parts)
     }
     if (hasReferences)
         f.note(94, 0);
+}
+
+/// The number that programs give the form of a file.
+int formNumber(Release release)
+{
+    constexpr std::pair<Release, int> numbers[] = {{Release::R2000, 23}, {Release::R2004, 25}, {Release::R2007, 27},
+                                                   {Release::R2010, 29}, {Release::R2013, 31}, {Release::R2018, 33}};
+    for (const auto &[one, number] : numbers) {
+        if (one == release)
+            return number;
+    }
+    return 0;
 }
 
 void noteHead(Fields &f, int classNumber, const ProxyParts &parts)
@@ -132,10 +146,14 @@ void noteHead(Fields &f, int classNumber, const ProxyParts &parts)
 void noteProxy(Fields &f, int classNumber, const ProxyParts &parts)
 {
     noteHead(f, classNumber, parts);
-    if (f.since(Release::R2000)) {
-        f.note(95, static_cast<int>(f.release()) - 990);
-        f.note(70, 0);
+    if (f.since(Release::R2018)) {
+        f.note(71, formNumber(f.release()));
+        f.note(97, 0);
+    } else if (f.since(Release::R2000)) {
+        f.note(95, formNumber(f.release()));
     }
+    if (f.since(Release::R2000))
+        f.note(70, 0);
     noteRest(f, parts);
 }
 
