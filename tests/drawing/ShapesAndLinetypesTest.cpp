@@ -135,10 +135,9 @@ TEST(ShapeFiles, TheYoungerOfSourceAndCompiledFileIsRead)
         file.flush();
         file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime);
     };
-    ShapeFiles files([&](const QString &name) {
-        const QString path = folder.filePath(name);
-        return QFile::exists(path) ? path : QString();
-    });
+    const auto drawing = sample("AC1015");
+    drawing->setPath(folder.filePath(u"plan.dxf"_s));
+    ShapeFiles files(namedFiles(*drawing));
     const auto firstShape = [&](const QString &name) {
         files.forget();
         const ShapeFile *file = files.find(name);

@@ -58,8 +58,8 @@ TEST_F(ExternalDrawing, IsFoundAndShown)
     write(u"site.dxf"_s, {.entities = lineAt(50)});
     write(u"sub/deep.dxf"_s, {.entities = insertOf("NEXT"), .blocks = referenceTo("NEXT", "next.dxf")});
     write(u"sub/next.dxf"_s, {.entities = lineAt(50)});
-    for (const char *path :
-         {"site.dxf", ".\\site.dxf", "Z:\\far\\away\\site.dxf", "/far/site.dxf", "site.dwg", "site", "sub\\deep.dxf"}) {
+    for (const char *path : {"site.dxf", ".\\site.dxf", "Z:\\far\\away\\site.dxf", "/far/site.dxf", "site.dwg", "site",
+                             "sub\\deep.dxf", "SITE.DWG", "Sub\\DEEP"}) {
         for (const char *flags : {"4", "8", "12"}) {
             SCOPED_TRACE(path);
             const auto drawing = host({.entities = insertOf("SITE"), .blocks = referenceTo("SITE", path, flags)});

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "host/drawing/records/Drawing.h"
+#include "host/drawing/references/FolderNames.h"
 
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 namespace host::drawing {
 
@@ -24,11 +26,20 @@ struct ReadableFiles
     std::function<void(const QString &path, const QString &reason)> refused;
     /// Told of a drawing that was read, with what of its file could not be or is doubtful; may be empty.
     std::function<void(const QString &path, const ReadingNotes &notes)> incomplete{};
+    /// What is known of the folders' names. Whoever makes finders often shares one; missing, each finder has its own.
+    std::shared_ptr<FolderNames> names{};
 };
 
 /// Looks by full paths, from the drawing's folder on (the working folder for a drawing without a path), and in the
-/// readable folders, in this order, and in the working folder for one of `files`. Only regular files are found. Valid
-/// while the drawing lives.
+/// readable folders, in this order, and in the working folder for one of `files`. Only regular files are found.
+///
+/// Where no file has the name as it is written, the one is found that has it but for the letters' case, in the name or
+/// the folders in front of it: on the systems that drawings come from these are one name. The first folder in which
+/// there is one counts; where it has several, none is guessed. So a file that has its exact name is never passed over
+/// for another one.
+///
+/// Names of more than 4096 characters are none. A name that is not found costs a look at some folders' times, and the
+/// folders' listing the first time (FolderNames). Valid while the drawing lives; for one thread at a time.
 FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable = {});
 
 /// Names to look for a drawing by that another one refers to as `path`: as it stands, by its name alone, and as a DXF

@@ -65,8 +65,8 @@ QString ShapeFiles::pathOf(const QString &name) const
         return {};
     QString youngest;
     const QString file = base.section(u'/', -1);
-    for (const QString &stem : {base, file, file.toLower(), file.toUpper()}) {
-        for (const QLatin1StringView ending : {".shp"_L1, ".shx"_L1, ".SHP"_L1, ".SHX"_L1}) {
+    for (const QString &stem : {base, file}) {
+        for (const QLatin1StringView ending : {".shp"_L1, ".shx"_L1}) {
             const QString path = m_finder(stem + ending);
             if (!path.isEmpty() &&
                 (youngest.isEmpty() || QFileInfo(path).lastModified() > QFileInfo(youngest).lastModified()))

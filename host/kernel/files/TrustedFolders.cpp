@@ -97,10 +97,12 @@ drawing::ReadableFiles TrustedFolders::readable(Document &document) const
 {
     return {.folders = searched() + m_readForSession + fullPaths(named(List::Read)),
             .files = document.readableFiles(),
-            .refused = [&document](const QString &path, const QString &reason) {
-                document.tellUnread(path, reason);
-                document.addKeptBack({KeptBack::Act::Read, path, reason, true});
-            }};
+            .refused =
+                [&document](const QString &path, const QString &reason) {
+                    document.tellUnread(path, reason);
+                    document.addKeptBack({KeptBack::Act::Read, path, reason, true});
+                },
+            .names = m_names};
 }
 
 bool TrustedFolders::append(const QString &folder, List list)

@@ -93,6 +93,7 @@ private:
 
     Session &m_session;
     Question m_question;
+    std::shared_ptr<drawing::FolderNames> m_names = std::make_shared<drawing::FolderNames>();
     QStringList m_forSession;
     QStringList m_readForSession;
     QStringList m_refused; ///< by a person, so that programs need not ask again
