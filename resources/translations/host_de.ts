@@ -14906,10 +14906,6 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
         <translation>keine Grenze</translation>
     </message>
     <message>
-        <source>write OUT although another program has it open</source>
-        <translation>schreibt OUT, obwohl ein anderes Programm es geöffnet hat</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>schreibt eine DXF-Datei in der binären Form; ohne das als Text</translation>
     </message>

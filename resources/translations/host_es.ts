@@ -14906,10 +14906,6 @@ No se puede guardar la configuración del usuario.
         <translation>sin límite</translation>
     </message>
     <message>
-        <source>write OUT although another program has it open</source>
-        <translation>escribir OUT aunque otro programa lo tenga abierto</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>escribir un archivo DXF en forma binaria; sin esto, como texto</translation>
     </message>

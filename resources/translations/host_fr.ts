@@ -14906,10 +14906,6 @@ Les paramètres de l&apos;utilisateur ne peuvent pas être conservés.
         <translation>aucune limite</translation>
     </message>
     <message>
-        <source>write OUT although another program has it open</source>
-        <translation>écrit OUT bien qu&apos;un autre programme l&apos;ait ouvert</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>écrit un fichier DXF sous la forme binaire&#xa0;; sans cela, en texte</translation>
     </message>

@@ -14906,10 +14906,6 @@ Le impostazioni dell&apos;utente non possono essere conservate.
         <translation>nessun limite</translation>
     </message>
     <message>
-        <source>write OUT although another program has it open</source>
-        <translation>scrivi OUT anche se un altro programma lo tiene aperto</translation>
-    </message>
-    <message>
         <source>write a DXF file in the binary form; without it, as text</source>
         <translation>scrivi un file DXF in forma binaria; senza, come testo</translation>
     </message>

@@ -111,6 +111,8 @@ struct ProgramTest : testing::Test, TestFolder
         write(u"damaged.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nCIRCLE\nrubbish\n"));
         write(u"made.dwg"_s, dwgFile(2));
         write(u"hurt.dwg"_s, dwgFile(2, 1));
+        EXPECT_TRUE(QDir(folder.path()).mkpath(u"links"_s));
+        EXPECT_TRUE(QFile::link(u"../made.dwg"_s, folder.filePath(u"links/made.dwg"_s)));
         QByteArray torn = dwgFile(2);
         for (qsizetype at = 0x1a0; at < 0x1c0; ++at) // within the page of the header's variables
             torn[at] = char(~torn[at]);

@@ -13,9 +13,21 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace host::app {
+
+namespace {
+
+/// The folder where a file is named, and the one where it is, behind a link.
+QStringList foldersOf(const QString &path)
+{
+    return {QFileInfo(QFileInfo(path).path()).canonicalFilePath(), QFileInfo(kernel::canonicalFile(path)).path()};
+}
+
+} // namespace
 
 WorkbenchOptions workbenchOptions(const ProgramOptions &options)
 {
@@ -50,8 +62,8 @@ QString whyNotBeside(const QString &drawing, const QString &target, bool isForce
     const auto present = kernel::identityOf(target);
     if (isForced || !present || present == kernel::identityOf(drawing))
         return {};
-    const auto folderOf = [](const QString &path) { return QFileInfo(kernel::canonicalFile(path)).path(); };
-    return folderOf(target) != folderOf(drawing)
+    const QStringList own = foldersOf(drawing);
+    return std::ranges::none_of(foldersOf(target), [&own](const QString &folder) { return own.contains(folder); })
                ? QString()
                : QCoreApplication::translate("Batch",
                                              "%1 is there already, beside the drawing, and may be another one: "

@@ -20,7 +20,8 @@ void setForce(Workbench &workbench, const ProgramOptions &options);
 QString whyNotToWrite(const QString &path, bool isForced);
 
 /// Why the result of a drawing is not to be written as `target`, whose name the run made up: a file that is there
-/// beside the drawing, and is not the drawing itself, may be another one. Empty when it may be, and when it is forced.
+/// beside the drawing, and is not the drawing itself, may be another one. Where one of both is a link, it is beside the
+/// other by either of its places. Empty when it may be, and when it is forced.
 QString whyNotBeside(const QString &drawing, const QString &target, bool isForced);
 
 /// Tells the problems from `told` on.

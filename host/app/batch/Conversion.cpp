@@ -153,12 +153,17 @@ QString safeName(const QString &layout)
     return name.isEmpty() ? u"_"_s : name;
 }
 
-/// One file, or one a sheet where the format has no pages.
+/// Whether each sheet becomes a file, since the format has no pages.
+bool isFileEach(const ProgramOptions &options)
+{
+    const QString extension = QFileInfo(options.output).suffix().toLower();
+    return options.picture.layout.compare("all"_L1, Qt::CaseInsensitive) == 0 && extension != "pdf"_L1;
+}
+
 std::vector<PictureFile> pictureFiles(const ProgramOptions &options, const QStringList &layouts)
 {
     const QFileInfo output(options.output);
-    const bool isForAll = options.picture.layout.compare("all"_L1, Qt::CaseInsensitive) == 0;
-    if (!isForAll || output.suffix().toLower() == "pdf"_L1)
+    if (!isFileEach(options))
         return {{options.output, layouts}};
     const QString stem = options.output.chopped(output.suffix().size() + 1);
     std::vector<PictureFile> files;
@@ -175,7 +180,10 @@ std::vector<PictureFile> pictureFiles(const ProgramOptions &options, const QStri
 
 bool mayWrite(const ProgramOptions &options, const QString &path)
 {
-    const QString obstacle = whyNotToWrite(path, options.isForced);
+    QString obstacle = whyNotToWrite(path, options.isForced);
+    const bool isNameMadeUp = !options.extension.isEmpty();
+    if (obstacle.isEmpty() && isNameMadeUp)
+        obstacle = whyNotBeside(options.input, path, options.isForced);
     if (!obstacle.isEmpty())
         writeMessage(obstacle);
     return obstacle.isEmpty();
@@ -296,8 +304,9 @@ int convertOne(const ProgramOptions &options, FileResult &result)
     const MessageKeeper keeper;
     const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
     result.outcome = Outcome::Done;
-    // Looked at first: reading may take long.
-    const int status = mayWrite(options, options.output) ? convertOpened(options, result) : int(ExitFileError);
+    // Looked at first where the name is known: reading may take long.
+    const bool may = isFileEach(options) || mayWrite(options, options.output);
+    const int status = may ? convertOpened(options, result) : int(ExitFileError);
     result.outcome = outcomeOf(status, result.outcome);
     result.messages = keeper.messages();
     return status;

@@ -174,20 +174,23 @@ QString SessionBatch::writeResults(kernel::Document &document, const QString &pa
     if (!m_script.cases.isEmpty())
         return {};
     const QString drawing = path.isEmpty() ? document.title() : path;
-    if (!m_options.outFolder.isEmpty() && document.isModified()) {
-        const QString target = resultPath(m_options.outFolder, drawing, u"dxf"_s);
-        if (const QString obstacle = whyNotBeside(path, target, m_options.isForced); !obstacle.isEmpty())
+    const bool isWritten = !m_options.outFolder.isEmpty() && document.isModified();
+    const QString target = isWritten ? resultPath(m_options.outFolder, drawing, u"dxf"_s) : QString();
+    const QString pictured = m_options.withPictures ? picturePath(drawing) : QString();
+    for (const QString &file : {target, pictured})
+        if (const QString obstacle = whyNotBeside(path, file, m_options.isForced); !obstacle.isEmpty())
             return obstacle;
+    if (isWritten) {
         result.out.append(target);
         if (const QString error = document.saveCopy(target).error; !error.isEmpty())
             return error;
     }
-    if (!m_options.withPictures)
+    if (pictured.isEmpty())
         return {};
-    const view::ExportResult picture = writeDrawingPicture(document, picturePath(drawing), told);
-    if (tellMissing(picturePath(drawing), picture.report) != ExitDone)
+    const view::ExportResult picture = writeDrawingPicture(document, pictured, told);
+    if (tellMissing(pictured, picture.report) != ExitDone)
         result.outcome = Outcome::CutShort;
-    result.out.append(picturePath(drawing));
+    result.out.append(pictured);
     return picture.error;
 }
 

@@ -155,7 +155,9 @@ QList<OptionRow> conversionOptions()
     return {
         timeLimitOption(QT_TRANSLATE_NOOP("Uses", "the most it may take; OUT stays as it was when it takes longer"),
                         QT_TRANSLATE_NOOP("Uses", "no limit")),
-        forceOption(QT_TRANSLATE_NOOP("Uses", "write OUT although another program has it open")),
+        forceOption(QT_TRANSLATE_NOOP("Uses",
+                                      "write files although another program has them open, or they lie beside a "
+                                      "drawing under its result's name")),
         {.name = "--strict",
          .help = QT_TRANSLATE_NOOP(
              "Uses",
