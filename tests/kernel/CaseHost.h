@@ -121,7 +121,8 @@ private:
     {
         QString text;
         for (QString answer : answers)
-            text += QStringLiteral(" \"%1\"").arg(answer.replace(u'\\', QStringLiteral("\\\\")));
+            text += QStringLiteral(" \"%1\"").arg(
+                answer.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\"")));
         return text.toStdString();
     }
     /// One answer at a time, when it is asked for.

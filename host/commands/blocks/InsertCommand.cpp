@@ -62,7 +62,7 @@ Wanted wantedBlock(CommandContext &context, QString answer)
         return wanted;
     }
     const QString name = namesFile ? answer.section(u'=', 0, 0).trimmed() : QFileInfo(answer).completeBaseName();
-    const QString file = namesFile ? answer.section(u'=', 1).trimmed() : answer;
+    const QString file = namesFile ? fileName(answer.section(u'=', 1)) : answer;
     const QString path = findDrawingFile(context.document(), file);
     wanted.isNew = !isValid(blocks.find(name));
     const QString problem =
@@ -127,7 +127,7 @@ Dialogue<Wanted> askBlock(CommandContext &context)
         listBlocks(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
         name = co_await context.text(prompt, last, u"?"_s);
     }
-    co_return wantedBlock(context, name.hasValue() ? name.text.trimmed() : last);
+    co_return wantedBlock(context, name.hasValue() ? fileName(name.text) : last);
 }
 
 /// Asks for the values of the attributes that are asked for (ATTREQ 0: none, their defaults count).

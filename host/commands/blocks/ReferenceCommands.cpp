@@ -35,7 +35,7 @@ struct NamedFile
 
 NamedFile namedFile(const QString &typed)
 {
-    const QString file = typed.section(u'=', typed.contains(u'=') ? 1 : 0).trimmed();
+    const QString file = fileName(typed.section(u'=', typed.contains(u'=') ? 1 : 0));
     const QString name = QString(file).replace(u'\\', u'/');
     return {typed.contains(u'=') ? typed.section(u'=', 0, 0).trimmed() : QFileInfo(name).completeBaseName(), file};
 }
@@ -196,8 +196,9 @@ Dialogue<bool> changePaths(CommandContext &context)
         const PromptReply path = co_await context.text(Commands::tr("Enter new path: "));
         if (!path.hasValue())
             continue;
-        setPath(context.drawing(), block.record, path.text.trimmed());
-        if (const QString file = findDrawingFile(context.document(), path.text.trimmed()); !file.isEmpty())
+        const QString named = fileName(path.text);
+        setPath(context.drawing(), block.record, named);
+        if (const QString file = findDrawingFile(context.document(), named); !file.isEmpty())
             context.document().allowReading(file);
         if (!block.isUnloaded)
             loadReference(context, context.drawing().blocks().read(block.record));
@@ -215,7 +216,7 @@ double factorOf(CommandContext &context, RecordId block)
 Dialogue<bool> attach(CommandContext &context, int flags)
 {
     const PromptReply file = co_await context.text(Commands::tr("Enter name of file to attach: "));
-    const RecordId block = file.hasValue() ? referenceTo(context, file.text.trimmed(), flags) : drawing::noRecord;
+    const RecordId block = file.hasValue() ? referenceTo(context, fileName(file.text), flags) : drawing::noRecord;
     if (!isValid(block))
         co_return false;
     const double factor = factorOf(context, block);

@@ -9,7 +9,6 @@
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -43,9 +42,7 @@ CommandTask writeBlock(CommandContext &context)
     const PromptReply file = co_await context.text(Commands::tr("Enter name of output file: "));
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return;
-    QString path = QFileInfo(QDir::current(), file.text.trimmed()).absoluteFilePath();
-    if (QFileInfo(path).suffix().isEmpty())
-        path += u".dxf"_s;
+    const QString path = drawingPath(file.text);
     const bool isWanted = co_await mayReplaceFile(context, path);
     if (!isWanted)
         co_return;

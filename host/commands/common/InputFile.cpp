@@ -18,6 +18,13 @@ drawing::ReadResult openSource(CommandContext &context, const QString &path)
     return source;
 }
 
+QString fileName(const QString &typed)
+{
+    const QString name = typed.trimmed();
+    const bool isQuoted = name.size() >= 2 && name.startsWith(u'"') && name.endsWith(u'"');
+    return isQuoted ? name.sliced(1, name.size() - 2).trimmed() : name;
+}
+
 QStringList drawingFileNames(const QString &typed)
 {
     // Other systems find files in any case; names in capitals come from there.

@@ -11,6 +11,9 @@ class Document;
 /// why the whole could not is the caller's to tell.
 drawing::ReadResult openSource(CommandContext &context, const QString &path);
 
+/// A file name as typed, without blanks around it and the quotes that scripts put around names with blanks.
+QString fileName(const QString &typed);
+
 /// What a drawing that was named may be called: as it stands, and with the endings of drawings, that of DXF files
 /// first.
 QStringList drawingFileNames(const QString &typed);

@@ -1,16 +1,24 @@
 #include "host/commands/common/OutputFile.h"
 
+#include "host/commands/common/InputFile.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace host::kernel {
+
+QString drawingPath(const QString &typed)
+{
+    const QString path = QFileInfo(QDir::current(), fileName(typed)).absoluteFilePath();
+    return QFileInfo(path).suffix().isEmpty() ? path + u".dxf"_s : path;
+}
 
 Dialogue<bool> mayReplaceFile(CommandContext &context, QString path)
 {

@@ -1,5 +1,6 @@
 #include "files/qt/Files.h"
 #include "host/commands/Commands.h"
+#include "host/commands/common/OutputFile.h"
 #include "host/commands/files/SaveDialogue.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"

@@ -1,11 +1,11 @@
 #include "host/commands/files/SaveDialogue.h"
 
+#include "host/commands/common/OutputFile.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -63,19 +63,6 @@ Dialogue<Wish> askAboutObstacle(CommandContext &context, const WriteObstacle &ob
 }
 
 } // namespace
-
-QString fileName(const QString &typed)
-{
-    const QString name = typed.trimmed();
-    const bool isQuoted = name.size() >= 2 && name.startsWith(u'"') && name.endsWith(u'"');
-    return isQuoted ? name.sliced(1, name.size() - 2).trimmed() : name;
-}
-
-QString drawingPath(const QString &typed)
-{
-    const QString path = QFileInfo(QDir::current(), fileName(typed)).absoluteFilePath();
-    return QFileInfo(path).suffix().isEmpty() ? path + u".dxf"_s : path;
-}
 
 Dialogue<std::optional<QString>> askName(CommandContext &context)
 {

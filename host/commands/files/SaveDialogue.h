@@ -11,12 +11,6 @@ namespace host::kernel {
 
 class CommandContext;
 
-/// A file name as typed, without blanks around it and the quotes that scripts put around names with blanks.
-QString fileName(const QString &typed);
-
-/// A path as typed, from the current folder, with the ending that drawings have here when it has none.
-QString drawingPath(const QString &typed);
-
 /// A name to save under, as drawingPath() has it; nothing when none was given.
 Dialogue<std::optional<QString>> askName(CommandContext &context);
 

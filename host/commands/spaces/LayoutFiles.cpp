@@ -13,9 +13,6 @@
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 using namespace Qt::StringLiterals;
 
 namespace host::kernel {
@@ -24,12 +21,6 @@ namespace {
 
 /// Sheets alone: what their viewports show is the model of the drawing that they come into.
 constexpr bool withoutModel = false;
-
-QString withDrawingEnding(const QString &typed)
-{
-    const QString name = typed.trimmed();
-    return QFileInfo(name).suffix().isEmpty() ? name + u".dxf"_s : name;
-}
 
 std::vector<drawing::LayoutTab> sheetsNamed(const drawing::Drawing &source, const QString &names)
 {
@@ -64,7 +55,7 @@ Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
     const PromptReply file = co_await context.text(Commands::tr("Enter template file name: "));
     if (!file.hasValue())
         co_return false;
-    const QString path = findDrawingFile(context.document(), file.text.trimmed());
+    const QString path = findDrawingFile(context.document(), fileName(file.text));
     if (path.isEmpty()) {
         context.fail(Commands::tr("Cannot find file \"%1\".").arg(file.text.trimmed()));
         co_return false;
@@ -89,7 +80,7 @@ Dialogue<bool> saveLayoutToFile(CommandContext &context, drawing::LayoutTab layo
     const PromptReply file = co_await context.text(Commands::tr("Enter file name to save layout to: "));
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return false;
-    const QString path = QFileInfo(QDir::current(), withDrawingEnding(file.text)).absoluteFilePath();
+    const QString path = drawingPath(file.text);
     const bool isWanted = co_await mayReplaceFile(context, path);
     if (!isWanted)
         co_return false;

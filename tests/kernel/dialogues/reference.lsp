@@ -9,3 +9,5 @@
 (site) ;! -XREF|D|S ;> No matching references ;= INSERT 2=Site 10=1,2,0
 (site) ;! -XREF|P|Site| ;> Old path: none.dxf ;? (site-entry) ;= (4 "none.dxf")
 ;! -XREF|A|none.dxf ;> Cannot find file "none.dxf" ;=
+;! -XREF|A|"no ne.dxf" ;> Cannot find file "no ne.dxf" ;=
+(site) ;! -XREF|P|S*|"new one.dxf" ;? (site-entry) ;= (4 "new one.dxf")
