@@ -10,7 +10,7 @@ namespace {
 std::string dimensionTags(const std::string &type)
 {
     return "100 AcDbDimension|280 0|2 *MODEL_SPACE|10 0.0|20 0.0|30 0.0|11 2.0|21 3.0|31 0.0|70 " + type +
-           "|71 5|42 5.0|73 0|74 0|75 1|3 |";
+           "|71 5|42 5.0|73 0|74 0|75 1|";
 }
 
 /// How a value from R2007 on ends: without a unit and without a text of its own.

@@ -94,9 +94,9 @@ const DamageRow damageRows[] = {
     {.name = "the last entity", .gone = 0x44, .entities = " 40 41 42 43", .lost = 0},
     {.name = "the table of layers", .gone = MadeHandles::LayerTable},
     {.name = "the table of blocks", .gone = MadeHandles::BlockTable, .blocks = " 1A 1D"},
-    // With it go its BLOCK and ENDBLK, for which others are made.
-    {.name = "model space", .gone = MadeHandles::ModelSpace, .lost = 2, .made = 3},
-    {.name = "paper space", .gone = MadeHandles::PaperSpace, .lost = 2, .made = 3},
+    {.name = "model space", .gone = MadeHandles::ModelSpace, .lost = 0, .made = 1},
+    {.name = "paper space", .gone = MadeHandles::PaperSpace, .lost = 0, .made = 1},
+    {.name = "what model space begins with", .gone = MadeHandles::ModelSpace + 1, .lost = 0, .made = 1},
     {.name = "the dictionary of named objects", .gone = MadeHandles::NamedObjects},
 };
 
@@ -231,7 +231,7 @@ TEST_P(DamagedDrawings, TakeNoOtherBlockForTheSpaceOfTheLayoutThatWasShown)
     MadeDrawing drawing(GetParam());
     drawing.addEntry(blockType, writerOf("n*Paper_Space"));
     const ReadBack read = readBack(withoutBytes(drawing, MadeHandles::PaperSpace));
-    EXPECT_NE(read.record(MadeHandles::PaperSpace).find("|2 *Paper_Space|"), std::string::npos) << read.problems();
+    EXPECT_NE(read.record(MadeHandles::PaperSpace).find("|2 *PAPER_SPACE|"), std::string::npos) << read.problems();
     EXPECT_NE(read.record(0x40).find("|2 *Paper_Space0|"), std::string::npos) << read.record(0x40);
 }
 
@@ -240,10 +240,109 @@ TEST_P(DamagedDrawings, HaveNothingLostInTheirDictionaries)
     MadeDrawing drawing = fiveCircles(GetParam());
     drawing.addObject(multiLineStyleType, "NO_LINES", writerOf("tS t s0 C0 d0 d0 c0"));
     const std::uint64_t damaged = drawing.addText("DAMAGED", "text");
+    drawing.head(0x40).dictionary = damaged;
+    drawing.head(0x41).dictionary = 0x46;
     const ReadBack read = readBack(withoutBytes(drawing, damaged));
     EXPECT_TRUE(read.lastPart(MadeHandles::NamedObjects).ends_with("3 NAMED|350 46|"))
         << read.record(MadeHandles::NamedObjects);
+    EXPECT_EQ(read.record(0x40).find("XDICTIONARY"), std::string::npos) << read.record(0x40);
+    EXPECT_NE(read.record(0x41).find("|102 {ACAD_XDICTIONARY|360 46|102 }|"), std::string::npos) << read.record(0x41);
     EXPECT_EQ(read.drawing.problems.lostCount(), 2u) << read.problems();
+}
+
+TEST_P(DamagedDrawings, HaveBlocksThatTheirMarksTellOf)
+{
+    MadeDrawing drawing(GetParam());
+    const auto writeInsert = [](std::uint64_t block) {
+        return [block](ObjectWriter &o) {
+            o.point({});
+            if (o.since(Release::R2000))
+                o.values().pair(3);
+            else
+                o.point({1.0, 1.0, 1.0});
+            o.real(0.0);
+            o.point({0.0, 0.0, 1.0});
+            o.flag(false);
+            o.reference(block);
+        };
+    };
+    const std::uint64_t door = drawing.addEntry(blockType, writerOf("n*D"));
+    drawing.addPart(BeginType, door, writerOf("t*D"));
+    drawing.addPart(CircleType, door, writeUnitCircle);
+    drawing.addPart(EndType, door, nullptr);
+    const std::uint64_t shown = drawing.addEntity(InsertType, writeInsert(door));
+    const std::uint64_t nameless = drawing.addEntry(blockType, writerOf("nGONE"));
+    const std::uint64_t lost = drawing.addEntity(InsertType, writeInsert(nameless));
+    MadeParts parts = drawing.parts();
+    const auto damage = [&parts](std::uint64_t handle) {
+        std::ranges::fill(std::ranges::find(parts.objects, handle, &MadeParts::Object::handle)->bytes, std::uint8_t{0});
+    };
+    damage(nameless);
+    // The record of the door ends behind its name, then nothing is left of it.
+    for (int i = 0; i < 2; ++i) {
+        const ReadBack read = readBack(madeFile(parts));
+        const std::string name = read.lastPart(shown).substr(0, 5);
+        EXPECT_TRUE(name == "2 *D0" || name == "2 *D1") << read.record(shown); // by its place in the table
+        EXPECT_NE(read.record(door).find('|' + name + '|'), std::string::npos) << read.record(door);
+        EXPECT_TRUE(read.lastPart(door + 1).starts_with(name + "|70 1|")) << read.record(door + 1);
+        const TextNode &circle = read.tree.nodes[read.tree.find("42")];
+        EXPECT_EQ(read.tree.nodes[circle.parent].handle, "41");
+        EXPECT_NE(read.record(door + 3), "");
+        EXPECT_EQ(read.record(lost), "");
+        EXPECT_NE(read.problems().find("INSERT 46: Its block is lost.\n"), std::string::npos) << read.problems();
+        damage(door);
+    }
+}
+
+TEST_P(DamagedDrawings, HaveEntriesThatTheirTableTellsInAnotherWay)
+{
+    const auto object = [](std::uint64_t handle, int type, std::uint64_t owner, const MadeDrawing::Write &write) {
+        MadeHead head;
+        head.type = type;
+        head.handle = handle;
+        head.owner = owner;
+        ObjectWriter o(GetParam(), head);
+        write(o);
+        return MadeParts::Object{handle, o.bytes()};
+    };
+    // The layer 45 is the layer 47, which the table does not name.
+    MadeParts moved = fiveCircles(GetParam()).parts();
+    std::erase_if(moved.objects, [](const MadeParts::Object &one) { return one.handle == 0x45; });
+    moved.objects.push_back(object(0x47, LayerType, MadeHandles::LayerTable,
+                                   layerWriter("WALL", true, [](ObjectWriter &o) { o.colour(1); })));
+    // Tables of R14 have entries that are lost without damage.
+    EXPECT_EQ(recordsOf(readBack(madeFile(moved)), "LAYER"), GetParam() == Release::R14 ? " 10" : " 10 47");
+    // The table counts no layers, and has one behind that.
+    MadeParts left = fiveCircles(GetParam()).parts();
+    *std::ranges::find(left.objects, MadeHandles::LayerTable, &MadeParts::Object::handle) =
+        object(MadeHandles::LayerTable, layerTableType, 0, writerOf("l0 h10"));
+    EXPECT_EQ(recordsOf(readBack(madeFile(left)), "LAYER"), " 10 45");
+}
+
+TEST_P(DamagedDrawings, NameNoEntryThatIsLost)
+{
+    MadeDrawing drawing(GetParam());
+    const std::uint64_t layer = drawing.addEntry(LayerType, writerOf("nCUT"));
+    const std::uint64_t application = drawing.addEntry(ApplicationType, writerOf("nCUT"));
+    const std::uint64_t linetype = drawing.addEntry(LinetypeType, writerOf("nCUT"));
+    drawing.addEntry(LayerType, [linetype](ObjectWriter &o) {
+        writerOf(o.since(Release::R2000) ? "nBENT s16 C1 h0 h0" : "nBENT b0 b0 b0 b0 C1 h0")(o);
+        if (o.since(Release::R2007))
+            o.reference(0);
+        o.reference(linetype);
+        if (o.since(Release::R2013))
+            o.reference(0);
+    });
+    const std::uint64_t circle = drawing.addEntity(CircleType, writeUnitCircle);
+    drawing.head(circle).layer = layer;
+    drawing.head(circle).extensions = {{application, std::string("\x46\x07\x00", 3)}}; // a number
+    const ReadBack read = readBack(drawing);
+    EXPECT_NE(read.record(circle).find("|8 0|"), std::string::npos) << read.record(circle);
+    EXPECT_EQ(read.record(circle).find("|1001 "), std::string::npos) << read.record(circle);
+    EXPECT_NE(read.problems().find("CIRCLE 44: Extended data of an application that is lost are left out.\n"),
+              std::string::npos);
+    EXPECT_NE(read.record(0x43).find("|6 Continuous|"), std::string::npos) << read.record(0x43);
+    EXPECT_EQ(read.drawing.problems.lostCount(), 3u) << read.problems();
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, DamagedDrawings,

@@ -46,12 +46,12 @@ void writeDrawing(const Container &container, DrawingText &result)
         leaveOutLaterRecords(parts);
     writeHeaderSection(parts);
     writeClassesSection(parts);
+    const std::size_t tablesBegin = result.text.size();
     writeTablesSection(parts);
     writeBlocksSection(parts);
     writeEntitiesSection(parts);
-    const std::size_t objectsBegin = result.text.size();
     writeObjectsSection(parts);
-    leaveOutLostEntries(parts.objects.lost(), result.text, objectsBegin);
+    leaveOutLostEntries(parts.objects.lost(), result.text, tablesBegin);
     writeDataSection(parts);
     writePreviewSection(parts);
     parts.records.beginRecord("EOF");

@@ -26,7 +26,7 @@ WrittenTag writtenTagAt(std::string_view text, std::size_t begin)
     return tag;
 }
 
-bool isLostEntry(const WrittenTag &tag, const std::unordered_set<std::uint64_t> &lost)
+bool isLost(const WrittenTag &tag, const std::unordered_set<std::uint64_t> &lost)
 {
     constexpr int softOwner = 350;
     constexpr int hardOwner = 360;
@@ -35,28 +35,52 @@ bool isLostEntry(const WrittenTag &tag, const std::unordered_set<std::uint64_t> 
     return (tag.code == softOwner || tag.code == hardOwner) && lost.contains(handle);
 }
 
+/// Finds what names objects: the entries of dictionaries, and the extension dictionary of any record.
+class NamingTags
+{
+public:
+    /// How many tags stand for what the tag names, the last but `behind` of which has the handle; 0 where it names
+    /// none.
+    struct Run
+    {
+        int tags = 0;
+        int behind = 0;
+    };
+
+    Run from(const WrittenTag &tag)
+    {
+        if (tag.code == 0)
+            m_isDictionary = tag.value == "DICTIONARY" || tag.value == "ACDBDICTIONARYWDFLT";
+        if (tag.code == 102 && tag.value == "{ACAD_XDICTIONARY")
+            return {3, 1};
+        return m_isDictionary && tag.code == 3 ? Run{2, 0} : Run{};
+    }
+
+private:
+    bool m_isDictionary = false;
+};
+
 } // namespace
 
 void leaveOutLostEntries(const std::unordered_set<std::uint64_t> &lost, std::string &text, std::size_t begin)
 {
     if (lost.empty())
         return;
-    constexpr int recordCode = 0;
-    constexpr int nameCode = 3;
-    bool isDictionary = false;
+    NamingTags naming;
     std::size_t kept = begin; // where the next tag that stays has its place
     for (std::size_t place = begin; place < text.size();) {
-        const WrittenTag tag = writtenTagAt(text, place);
-        if (tag.code == recordCode)
-            isDictionary = tag.value == "DICTIONARY" || tag.value == "ACDBDICTIONARYWDFLT";
-        const bool isName = isDictionary && tag.code == nameCode;
-        const WrittenTag named = isName ? writtenTagAt(text, tag.end) : tag;
-        const std::size_t end = named.end;
-        if (!isName || !isLostEntry(named, lost)) {
-            std::copy_n(text.data() + place, end - place, text.data() + kept);
-            kept += end - place;
+        WrittenTag tag = writtenTagAt(text, place);
+        const NamingTags::Run run = naming.from(tag);
+        bool isLeftOut = false;
+        for (int i = 1; i < run.tags; ++i) {
+            tag = writtenTagAt(text, tag.end);
+            isLeftOut |= i + run.behind + 1 == run.tags && isLost(tag, lost);
         }
-        place = end;
+        if (!isLeftOut) {
+            std::copy_n(text.data() + place, tag.end - place, text.data() + kept);
+            kept += tag.end - place;
+        }
+        place = tag.end;
     }
     text.resize(kept);
 }

@@ -6,8 +6,9 @@
 
 namespace host::dwg {
 
-/// Takes out of the dictionaries in `text`, from the record that begins at `begin` on, the entries of what is lost:
-/// dictionaries are written in front of what they name. One run over the text, none where nothing is lost.
+/// Takes out of the records in `text`, from the one that begins at `begin` on, what names objects that are lost:
+/// entries of dictionaries, and extension dictionaries. Records are written in front of what they name. One run over
+/// the text, none where nothing is lost.
 void leaveOutLostEntries(const std::unordered_set<std::uint64_t> &lost, std::string &text, std::size_t begin);
 
 } // namespace host::dwg

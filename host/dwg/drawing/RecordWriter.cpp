@@ -173,7 +173,7 @@ bool RecordWriter::writeFrame(std::uint64_t handle, const ObjectFrame &frame)
     if (one || isProxy(frame.type))
         return writeProxy(handle, frame, one ? one->isEntity : frame.type == proxyEntityType);
     if (type)
-        m_objects.lose(handle, frame.type, "The object ends before its values do.");
+        m_objects.lose(handle, frame.type, m_fields.lack() ? m_fields.lack() : "The object ends before its values do.");
     else if (frame.type != viewportEntityTable && frame.type != viewportEntity)
         m_objects.lose(handle, frame.type, "Objects of this type are not read.");
     return false;
@@ -196,6 +196,8 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
     }
     // Classes have other forms in other releases and programs; what a reader leaves over tells that it is another one.
     if (m_objects.classOf(frame.type) && (!m_fields.isUsedUp() || hasLaterGroups(m_fields)))
+        return false;
+    if (m_fields.lack())
         return false;
     const bool isWhole = m_fields.isUsedUp();
     m_companions.complete(m_fields);

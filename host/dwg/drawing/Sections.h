@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/dwg/drawing/BlockMarks.h"
 #include "host/dwg/drawing/LayoutBlocks.h"
 #include "host/dwg/drawing/RecordWriter.h"
 #include "host/dwg/objects/TableTypes.h"
@@ -27,9 +28,10 @@ struct DrawingParts
     const Container &container;
     DrawingObjects objects;
     RecordWriter records;
-    Header header;                    ///< from the HEADER section on
-    LayoutBlocks layouts;             ///< from the TABLES section on
-    std::vector<DrawingBlock> blocks; ///< the same
+    Header header;                     ///< from the HEADER section on
+    LayoutBlocks layouts;              ///< from the TABLES section on
+    std::vector<DrawingBlock> blocks;  ///< the same
+    std::optional<MarksByBlock> marks; ///< from where they are asked for
 };
 
 // The sections of the text form, in their order there. Each is written whole, whatever is missing of it.

@@ -84,11 +84,13 @@ bool writesEmptyText(const Fields &f)
 
 void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point definition)
 {
-    const std::string_view style = f.nameOf(f.reference());
-    const std::string_view block = f.nameOf(f.reference());
+    const std::uint64_t style = f.reference();
+    const std::uint64_t block = f.reference();
     if (f.since(Release::R2010))
         f.note(280, 0);
-    f.note(2, block);
+    f.nameUnlessLost(2, block);
+    if (block != 0 && f.nameOf(block).empty())
+        f.doubt("The block with its lines is lost."); // programs draw them anew
     f.note(10, definition);
     f.note(11, head.middle);
     if (head.place.x != 0.0 || head.place.y != 0.0)
@@ -107,7 +109,7 @@ void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point def
         f.note(74, head.flipsFirst);
         f.note(75, head.flipsSecond);
     }
-    f.note(3, style);
+    f.nameUnlessLost(3, style);
     if (head.textRotation != 0.0)
         f.noteAngle(53, head.textRotation);
     if (head.direction != 0.0)

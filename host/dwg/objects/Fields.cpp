@@ -40,6 +40,7 @@ void Fields::start(const BitReader &values, const BitReader &texts, const BitRea
     m_tags.clear(alwaysNoted + (values.left() + texts.left() + references.left()) / 8 * mostOfByte);
     m_companion = noCompanion;
     m_doubt = nullptr;
+    m_lack = nullptr;
 }
 
 void Fields::splitAt(std::size_t bit)
@@ -170,6 +171,13 @@ std::string_view Fields::linetypeAt(int place) const
 {
     const auto index = static_cast<std::size_t>(place);
     return place >= 0 && index < m_linetypes.size() ? nameOf(m_linetypes[index]) : std::string_view();
+}
+
+void Fields::nameUnlessLost(int code, std::uint64_t handle)
+{
+    const std::string_view name = nameOf(handle);
+    if (!name.empty())
+        note(code, name);
 }
 
 std::string_view Fields::nameOf(std::uint64_t handle) const

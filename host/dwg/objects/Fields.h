@@ -122,6 +122,9 @@ public:
     /// Something of the object is not among its tags, for the reason that is given, which must outlive this.
     void doubt(const char *why) { m_doubt = why; }
     const char *doubt() const { return m_doubt; } ///< null where all is there
+    /// The object is nothing without what it refers to, which is lost: for the same kind of reason.
+    void lack(const char *why) { m_lack = why; }
+    const char *lack() const { return m_lack; } ///< null where nothing is lacking
     /// Whether nothing is left of the object: of its references no whole one, of its values and texts not a bit. A
     /// reader that knows the form of its object leaves nothing.
     bool isUsedUp() const;
@@ -241,6 +244,8 @@ public:
     /// Group 100.
     void subclass(const char *name) { note(100, name); }
     std::string_view nameOf(std::uint64_t handle) const;
+    /// The same, noted unless what is named is lost: programs take what is usual for a name that is not there.
+    void nameUnlessLost(int code, std::uint64_t handle);
 
     /// The name that group 0 gets, where the type's usual one does not fit.
     void setTypeName(std::string_view name) { m_typeName = name; }
@@ -303,6 +308,7 @@ private:
     TagLines m_tags;
     std::size_t m_companion = noCompanion;
     const char *m_doubt = nullptr;
+    const char *m_lack = nullptr;
     std::unordered_map<std::uint64_t, int> m_numbers; ///< given out, by owner
 };
 

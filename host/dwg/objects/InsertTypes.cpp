@@ -89,11 +89,14 @@ void readInsertBody(Fields &f, bool isArray)
     const std::uint64_t block = f.reference();
     if (relations.hasList)
         readAttributeList(f, count);
+    const std::string_view name = f.nameOf(block);
+    if (name.empty())
+        f.lack("Its block is lost.");
 
     f.subclass(isArray ? "AcDbMInsertBlock" : "AcDbBlockReference");
     if (relations.hasList)
         f.note(66, 1);
-    f.note(2, f.nameOf(block));
+    f.note(2, name);
     f.note(10, place);
     f.noteUnless(41, factors.x, {1.0});
     f.noteUnless(42, factors.y, {1.0});

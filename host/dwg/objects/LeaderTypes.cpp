@@ -92,7 +92,7 @@ void readLeader(Fields &f)
     const int colour = readLeaderStyle(f);
     const std::uint64_t annotation = f.reference();
     const std::uint64_t style = f.reference();
-    f.note(3, f.nameOf(style));
+    f.nameUnlessLost(3, style);
     const bool leadsToText = annotation != 0 && (kind == Annotation::Text || kind == Annotation::Tolerance);
     if (leadsToText && f.since(Release::R2000) && addHook(line, f.arrowSizeOf(style)))
         f.note(75, 1);

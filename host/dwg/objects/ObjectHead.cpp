@@ -401,8 +401,13 @@ void ObjectHead::noteExtendedData(Fields &fields) const
 {
     for (const Extension &extension : m_extensions) {
         const Bytes bytes(reinterpret_cast<const std::uint8_t *>(extension.bytes.data()), extension.bytes.size());
+        const std::string_view application = fields.nameOf(extension.application);
+        if (application.empty()) {
+            fields.doubt("Extended data of an application that is lost are left out.");
+            continue;
+        }
         const std::size_t begin = fields.mark();
-        fields.note(1001, fields.nameOf(extension.application));
+        fields.note(1001, application);
         const std::size_t empty = fields.mark();
         noteExtension(bytes, fields);
         if (fields.until(Release::R14) && fields.mark() == empty && !bytes.empty())

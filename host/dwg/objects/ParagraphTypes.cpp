@@ -90,9 +90,9 @@ TextSize readParagraphs(Fields &f)
         f.note(210, extrusion);
     if (direction != Point{1.0, 0.0, 0.0})
         f.note(11, direction);
-    const std::string_view style = f.nameOf(f.reference());
-    if (style != "Standard" && style != "STANDARD")
-        f.note(7, style);
+    const std::uint64_t style = f.reference();
+    if (f.nameOf(style) != "Standard" && f.nameOf(style) != "STANDARD")
+        f.nameUnlessLost(7, style);
     f.arrange(begin,
               {10, 20, 30, 40, 41, 46, 71, 72, 3, 1, 7, 210, 220, 230, 11, 21, 31, 73, 44, 90, 63, 421, 431, 45, 441});
     if (f.since(Release::R2018))

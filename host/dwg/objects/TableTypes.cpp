@@ -56,7 +56,8 @@ void readLayer(Fields &f)
     f.reference(); // of the external drawing it came from
     const std::uint64_t plotStyle = f.since(Release::R2000) ? f.reference() : 0;
     const std::uint64_t material = f.since(Release::R2007) ? f.reference() : 0;
-    f.note(6, f.nameOf(f.reference()));
+    const std::string_view linetype = f.nameOf(f.reference());
+    f.note(6, linetype.empty() ? "Continuous" : linetype); // where it is lost
     if ((bits & LayerBits::plotted) == 0)
         f.note(290, 0);
     if (f.since(Release::R2000)) {

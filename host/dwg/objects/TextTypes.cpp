@@ -108,7 +108,7 @@ void noteText(Fields &f, const TextValues &text)
         f.noteAngle(51, text.oblique);
     const std::string_view style = f.nameOf(text.style);
     if (style != "Standard" && style != "STANDARD")
-        f.note(7, style);
+        f.nameUnlessLost(7, text.style);
     f.noteUnless(71, text.generation, {0});
     f.noteUnless(72, text.horizontal, {0});
     if (text.horizontal != 0 || text.vertical != 0)
@@ -211,7 +211,7 @@ void readTolerance(Fields &f)
     const Point direction = f.point();
     const Point extrusion = f.point();
     f.text(1);
-    f.name(3);
+    f.nameUnlessLost(3, f.reference());
     if (extrusion != Point{0.0, 0.0, 1.0})
         f.note(210, extrusion);
     if (direction != Point{1.0, 0.0, 0.0})
