@@ -21,6 +21,7 @@ enum class Measured
 
 struct DimensionHead
 {
+    int version = 0;
     Point extrusion;
     Point middle;
     int flags = 0;
@@ -42,7 +43,7 @@ DimensionHead readDimensionHead(Fields &f)
 {
     DimensionHead head;
     if (f.since(Release::R2010))
-        f.small();
+        head.version = f.small();
     head.extrusion = f.point();
     head.middle = {f.rawReal(), f.rawReal(), 0.0};
     head.middle.z = f.real();
@@ -87,7 +88,7 @@ void noteDimensionHead(Fields &f, const DimensionHead &head, int type, Point def
     const std::uint64_t style = f.reference();
     const std::uint64_t block = f.reference();
     if (f.since(Release::R2010))
-        f.note(280, 0);
+        f.note(280, head.version);
     f.nameUnlessLost(2, block);
     if (block != 0 && f.nameOf(block).empty())
         f.doubt("The block with its lines is lost."); // programs draw them anew
