@@ -88,8 +88,8 @@ const FormRow formRows[] = {
     {"a polyline in space that is smoothed and closed", Release::R2010, Place::Entity, 0x10, "c2 c1 l0 h0",
      "66 1|10 0.0|20 0.0|30 0.0|70 13|75 6|"},
     {"a tolerance of R14 has its size in the file alone", Release::R14, Place::Entity, 0x2e,
-     "s1 d1 d2 p1,2,3 p0,1,0 p0,0,-1 tX h0",
-     "3 |10 1.0|20 2.0|30 3.0|1 X|210 0.0|220 0.0|230 -1.0|11 0.0|21 1.0|31 0.0|"},
+     "s1 d1 d2 p1,2,3 p0,1,0 p0,0,-1 tX h11",
+     "3 Standard|10 1.0|20 2.0|30 3.0|1 X|210 0.0|220 0.0|230 -1.0|11 0.0|21 1.0|31 0.0|"},
     {"a dimension style", Release::R2007, Place::Entry, 0x45, dimensionStyle,
      "2 S|70 0|50 57.29577951308232|176 1|340 11|"},
     {"a line of a style with a linetype of the table", Release::R2004, Place::Object, 0x49, lineStyle, lineStyleTags},
@@ -152,30 +152,30 @@ const std::string middleHead = "p0,0,1 f2,3 d4 c3 t d0 d0 p1,1,1 d0 s5 s1 d1 d9 
 const std::string oldHead = "p0,0,1 f2,3 d4 c2 tT d0 d0 p1,1,1 d0 f6,7 ";
 const std::string definitionTags = "10 7.0|20 8.0|30 9.0|11 2.0|21 3.0|31 4.0|";
 const std::string lateBegin = "100 AcDbDimension|280 7|2 *MODEL_SPACE|" + definitionTags + "12 6.0|22 7.0|32 4.0|70 ";
-const std::string lateEnd = "|1 T|71 5|72 2|41 1.5|42 9.0|73 1|74 0|75 1|3 |53 114.59155902616465|51 "
+const std::string lateEnd = "|1 T|71 5|72 2|41 1.5|42 9.0|73 1|74 0|75 1|3 Standard|53 114.59155902616465|51 "
                             "57.29577951308232|210 0.0|220 0.0|230 -1.0|100 ";
 const std::string firstPoints = "13 1.0|23 2.0|33 3.0|14 4.0|24 5.0|34 6.0|";
 
 const WholeRow wholeRows[] = {
-    {Release::R2010, 0x14, lateHead + "p7,8,9 p1,2,3 p4,5,6 c1 h0 h1D",
+    {Release::R2010, 0x14, lateHead + "p7,8,9 p1,2,3 p4,5,6 c1 h11 h1D",
      lateBegin + "198" + lateEnd + "AcDbOrdinateDimension|" + firstPoints},
-    {Release::R2010, 0x15, lateHead + "p1,2,3 p4,5,6 p7,8,9 d1 d2 h0 h1D",
+    {Release::R2010, 0x15, lateHead + "p1,2,3 p4,5,6 p7,8,9 d1 d2 h11 h1D",
      lateBegin + "128" + lateEnd + "AcDbAlignedDimension|" + firstPoints +
          "50 114.59155902616465|52 57.29577951308232|100 AcDbRotatedDimension|"},
-    {Release::R2004, 0x16, middleHead + "p1,2,3 p4,5,6 p7,8,9 d1 h0 h1D",
-     "100 AcDbDimension|2 *MODEL_SPACE|" + definitionTags + "70 33|71 5|42 9.0|3 |100 AcDbAlignedDimension|" +
+    {Release::R2004, 0x16, middleHead + "p1,2,3 p4,5,6 p7,8,9 d1 h11 h1D",
+     "100 AcDbDimension|2 *MODEL_SPACE|" + definitionTags + "70 33|71 5|42 9.0|3 Standard|100 AcDbAlignedDimension|" +
          firstPoints + "52 57.29577951308232|"},
-    {Release::R2010, 0x17, lateHead + "p7,8,9 p1,2,3 p4,5,6 p3,2,1 h0 h1D",
+    {Release::R2010, 0x17, lateHead + "p7,8,9 p1,2,3 p4,5,6 p3,2,1 h11 h1D",
      lateBegin + "133" + lateEnd + "AcDb3PointAngularDimension|" + firstPoints + "15 3.0|25 2.0|35 1.0|"},
-    {Release::R2010, 0x18, lateHead + "f8,6 p1,2,3 p4,5,6 p3,2,1 p7,8,9 h0 h1D",
+    {Release::R2010, 0x18, lateHead + "f8,6 p1,2,3 p4,5,6 p3,2,1 p7,8,9 h11 h1D",
      lateBegin + "130" + lateEnd + "AcDb2LineAngularDimension|" + firstPoints +
          "15 3.0|25 2.0|35 1.0|16 8.0|26 6.0|36 "
          "0.0|"},
-    {Release::R2010, 0x19, lateHead + "p7,8,9 p3,2,1 d0.5 h0 h1D",
+    {Release::R2010, 0x19, lateHead + "p7,8,9 p3,2,1 d0.5 h11 h1D",
      lateBegin + "132" + lateEnd + "AcDbRadialDimension|15 3.0|25 2.0|35 1.0|40 0.5|"},
-    {Release::R14, 0x1a, oldHead + "p3,2,1 p7,8,9 d0.5 h0 h1D",
+    {Release::R14, 0x1a, oldHead + "p3,2,1 p7,8,9 d0.5 h11 h1D",
      "100 AcDbDimension|2 *MODEL_SPACE|" + definitionTags +
-         "12 6.0|22 7.0|32 4.0|70 163|1 T|3 |100 AcDbDiametricDimension|15 3.0|25 2.0|35 1.0|40 0.5|"},
+         "12 6.0|22 7.0|32 4.0|70 163|1 T|3 Standard|100 AcDbDiametricDimension|15 3.0|25 2.0|35 1.0|40 0.5|"},
     {Release::R2010, 0x22,
      "p1,2,3 d4 d5 p6,7,8 p9,8,7 d1 d11 d12 d13 d14 d2 f21,22 f23,24 f25,26 f27,28 s100 s5 l1 l32864 tS c2 b1 b0 "
      "p31,32,33 p34,35,36 p37,38,39 d40 s3 s1 b1 c1 d0.5 d0.75 K250 h50 h51 h52 h53 h54 h55 h56 h57",
@@ -229,7 +229,7 @@ TEST(DwgRecordForms, HaveEmptyTextsOfDimensionsFromTheFirstProgramsOfR2000Alone)
          {std::tuple{Release::R2000, 6, true}, {Release::R2000, 15, false}, {Release::R2004, 0, false}}) {
         MadeDrawing drawing(release);
         const std::uint64_t radius = drawing.addEntity(
-            0x19, writerOf("p0,0,1 f2,3 d0 c2 t d0 d0 p1,1,1 d0 s5 s1 d1 d5 f0,0 p0,0,0 p3,4,0 d1 h0 h1D"));
+            0x19, writerOf("p0,0,1 f2,3 d0 c2 t d0 d0 p1,1,1 d0 s5 s1 d1 d5 f0,0 p0,0,0 p3,4,0 d1 h11 h1D"));
         FileBytes file = drawing.file();
         file[0x0b] = static_cast<std::uint8_t>(maintenance);
         const std::string text = hasText ? "1 |" : "";
