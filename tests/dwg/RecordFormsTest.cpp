@@ -233,7 +233,8 @@ TEST(DwgRecordForms, HaveEmptyTextsOfDimensionsFromTheFirstProgramsOfR2000Alone)
         FileBytes file = drawing.file();
         file[0x0b] = static_cast<std::uint8_t>(maintenance);
         const std::string text = hasText ? "1 |" : "";
-        EXPECT_NE(readBack(file).record(radius).find("|70 164|" + text + "71 5|42 5.0|100 "), std::string::npos)
+        EXPECT_NE(readBack(file).record(radius).find("|70 164|" + text + "71 5|42 5.0|3 Standard|100 "),
+                  std::string::npos)
             << static_cast<int>(release) << ' ' << maintenance << readBack(file).record(radius);
     }
 }
