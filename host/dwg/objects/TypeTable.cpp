@@ -63,7 +63,8 @@ std::vector<const ObjectType *> allTypes()
           dictionaryTypes(), layoutTypes(),       materialTypes(),     visualStyleTypes(), styleTypes(),
           tableStyleTypes(), tableContentTypes(), tableEntityTypes(),  fieldTypes(),       dimensionLinkTypes(),
           lightTypes(),      filterTypes(),       evaluationTypes(),   associativeTypes(), renderTypes(),
-          meshTypes(),       underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes()}) {
+          meshTypes(),       underlayTypes(),     scaleContextTypes(), geographicTypes(),  embeddedTypes(),
+          sectionTypes()}) {
         for (const ObjectType &row : rows)
             types.push_back(&row);
     }

@@ -67,6 +67,7 @@ std::span<const ObjectType> meshTypes();
 std::span<const ObjectType> underlayTypes();     ///< sheets of other files, and what defines them
 std::span<const ObjectType> scaleContextTypes(); ///< what entities look like at one scale
 std::span<const ObjectType> geographicTypes();
+std::span<const ObjectType> sectionTypes();
 std::span<const ObjectType> embeddedTypes(); ///< what other programs embedded
 
 } // namespace host::dwg
