@@ -118,7 +118,7 @@ MadeDrawing::Write layoutWriter(std::uint64_t block, bool hasMore)
 
 /// A layout 42 of the block 40, which is lost, and one 43 of which a row tells. 41 is a circle of the block, 44 the
 /// dictionary of layouts.
-ReadBack twoLayouts(Release release, std::uint64_t otherBlock, bool hasMore)
+MadeDrawing twoLayouts(Release release, std::uint64_t otherBlock, bool hasMore)
 {
     MadeDrawing drawing(release);
     drawing.addEntry(blockType, writerOf("n*Paper_Space"));
@@ -132,7 +132,7 @@ ReadBack twoLayouts(Release release, std::uint64_t otherBlock, bool hasMore)
             o.reference(layout, HandleReference::SoftOwner);
         }
     });
-    return readBack(without(drawing, 0x40));
+    return drawing;
 }
 
 struct LayoutRow
@@ -215,7 +215,7 @@ TEST_P(DamagedDrawings, GiveHandlesThatAreFreeToWhatStandsForOthers)
 TEST_P(DamagedDrawings, HaveABlockForEachLayout)
 {
     for (const LayoutRow &row : layoutRows) {
-        const ReadBack read = twoLayouts(GetParam(), row.otherBlock, row.hasMore);
+        const ReadBack read = readBack(without(twoLayouts(GetParam(), row.otherBlock, row.hasMore), 0x40));
         EXPECT_EQ(recordsOf(read, "BLOCK_RECORD"), " 1D 1A 40");
         EXPECT_NE(read.record(0x40).find("|2 *Paper_Space0|"), std::string::npos) << read.record(0x40);
         EXPECT_NE(read.drawing.text.find("\n  3\n*Paper_Space0\n  1\n\n  0\nCIRCLE\n  5\n41\n"), std::string::npos);
@@ -224,6 +224,18 @@ TEST_P(DamagedDrawings, HaveABlockForEachLayout)
         const std::string problems = read.problems();
         EXPECT_EQ(problems.substr(0, problems.find("BLOCK_RECORD 40: ")), row.why ? row.why : "");
     }
+}
+
+TEST_P(DamagedDrawings, HaveLayoutsWithoutTheirDictionaries)
+{
+    const MadeDrawing drawing = twoLayouts(GetParam(), MadeHandles::PaperSpace, false);
+    const ReadBack withoutOwn = readBack(withoutBytes(drawing, 0x44));
+    EXPECT_TRUE(withoutOwn.record(0x44).ends_with("|330 C|100 AcDbDictionary|3 Sheet|350 43|3 Sheet|350 42|"))
+        << withoutOwn.record(0x44);
+    EXPECT_TRUE(withoutOwn.record(MadeHandles::NamedObjects).ends_with("|3 ACAD_LAYOUT|350 44|"));
+    const ReadBack withoutRoot = readBack(without(drawing, MadeHandles::NamedObjects));
+    EXPECT_TRUE(withoutRoot.record(MadeHandles::NamedObjects).ends_with("|100 AcDbDictionary|3 ACAD_LAYOUT|350 44|"));
+    EXPECT_NE(withoutRoot.record(0x44).find("|350 42|"), std::string::npos) << withoutRoot.problems();
 }
 
 TEST_P(DamagedDrawings, TakeNoOtherBlockForTheSpaceOfTheLayoutThatWasShown)
@@ -324,6 +336,7 @@ TEST_P(DamagedDrawings, NameNoEntryThatIsLost)
     MadeDrawing drawing(GetParam());
     const std::uint64_t layer = drawing.addEntry(LayerType, writerOf("nCUT"));
     const std::uint64_t application = drawing.addEntry(ApplicationType, writerOf("nCUT"));
+    const std::uint64_t nameless = drawing.addEntry(ApplicationType, writerOf("n c0 h0"));
     const std::uint64_t linetype = drawing.addEntry(LinetypeType, writerOf("nCUT"));
     drawing.addEntry(LayerType, [linetype](ObjectWriter &o) {
         writerOf(o.since(Release::R2000) ? "nBENT s16 C1 h0 h0" : "nBENT b0 b0 b0 b0 C1 h0")(o);
@@ -339,10 +352,11 @@ TEST_P(DamagedDrawings, NameNoEntryThatIsLost)
     const ReadBack read = readBack(drawing);
     EXPECT_NE(read.record(circle).find("|8 0|"), std::string::npos) << read.record(circle);
     EXPECT_EQ(read.record(circle).find("|1001 "), std::string::npos) << read.record(circle);
-    EXPECT_NE(read.problems().find("CIRCLE 44: Extended data of an application that is lost are left out.\n"),
+    EXPECT_NE(read.problems().find("CIRCLE 45: Extended data of an application that is lost are left out.\n"),
               std::string::npos);
-    EXPECT_NE(read.record(0x43).find("|6 Continuous|"), std::string::npos) << read.record(0x43);
-    EXPECT_EQ(read.drawing.problems.lostCount(), 3u) << read.problems();
+    EXPECT_NE(read.record(0x44).find("|6 Continuous|"), std::string::npos) << read.record(0x44);
+    EXPECT_EQ(read.record(nameless), "");
+    EXPECT_EQ(read.drawing.problems.lostCount(), 4u) << read.problems();
 }
 
 INSTANTIATE_TEST_SUITE_P(Dwg, DamagedDrawings,

@@ -19,7 +19,7 @@ bool isSpace(const DrawingParts &parts, std::uint64_t block)
 std::uint64_t layoutOf(const DrawingParts &parts, std::uint64_t block)
 {
     const auto found = parts.layouts.find(block);
-    return found != parts.layouts.end() ? found->second : 0;
+    return found != parts.layouts.end() ? found->second.handle : 0;
 }
 
 /// What is left of the block. The marks are looked for when the first one is asked for.

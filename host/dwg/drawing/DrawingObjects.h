@@ -50,6 +50,8 @@ public:
     void lose(std::uint64_t handle, int type, const char *why);
     /// The handles of all objects that were lost.
     const std::unordered_set<std::uint64_t> &lost() const { return m_lost; }
+    /// Another record has this handle, and stands for the object.
+    void standFor(std::uint64_t handle) { m_lost.erase(handle); }
     void warn(std::uint64_t handle, int type, const char *why);
     void keep(std::uint64_t handle, int type, const char *why);
     /// Problems that concern no object.

@@ -17,20 +17,24 @@ int layoutClass(const DrawingObjects &objects)
     return found != objects.classes().end() ? found->number : layoutType;
 }
 
-/// What the layout that was read last refers to as its block: 0 where it tells none.
-std::uint64_t blockOfLayout(const Fields &fields)
+/// The layout that was read last, and what it refers to as its block: 0 where it tells none.
+std::pair<std::uint64_t, NamedLayout> layoutFrom(const Fields &fields)
 {
+    constexpr int nameCode = 1;
     constexpr int subclassCode = 100;
     constexpr int blockCode = 330;
     bool isOwnPart = false;
     std::uint64_t block = 0;
+    NamedLayout layout{fields.relations().handle, fields.relations().owner, {}};
     fields.forEachTag([&](int code, std::string_view value) {
         if (code == subclassCode)
             isOwnPart = value == "AcDbLayout";
         else if (isOwnPart && code == blockCode)
             block = std::strtoull(std::string(value).c_str(), nullptr, 16);
+        else if (isOwnPart && code == nameCode)
+            layout.name = value;
     });
-    return block;
+    return {block, std::move(layout)};
 }
 
 /// What is wrong with the layout that was read; null where nothing.
@@ -66,13 +70,13 @@ LayoutBlocks findLayoutBlocks(DrawingObjects &objects, Fields &fields)
         typeByNumber(layoutType)->read(fields);
         if (fields.relations().handle != entry.handle)
             continue;
-        const std::uint64_t block = blockOfLayout(fields);
+        auto [block, layout] = layoutFrom(fields);
         if (const char *fault = faultOf(objects, fields, block, layouts)) {
             objects.lose(entry.handle, type, fault);
             objects.leaveOut(entry.handle);
             fields.leftOut().insert(entry.handle);
         } else {
-            layouts.emplace(block, entry.handle);
+            layouts.emplace(block, std::move(layout));
         }
     }
     return layouts;

@@ -6,8 +6,16 @@
 
 namespace host::dwg {
 
-/// Layouts by the blocks that they show, which need not be there.
-using LayoutBlocks = std::map<std::uint64_t, std::uint64_t>;
+/// A layout as its dictionary has it.
+struct NamedLayout
+{
+    std::uint64_t handle = 0;
+    std::uint64_t dictionary = 0; ///< which need not be there
+    std::string name;
+};
+
+/// Layouts by the blocks that they show, which need not be there either.
+using LayoutBlocks = std::map<std::uint64_t, NamedLayout>;
 
 /// Finds the layouts in a run over the types of all objects. Those that programs could not open a drawing with are
 /// lost: that cannot be read to the end, or whose block is none, something else, or that of another layout. They are

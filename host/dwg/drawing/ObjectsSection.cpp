@@ -19,18 +19,51 @@ bool writeHere(DrawingParts &parts, std::uint64_t handle)
     return (!frame || mayStandHere(parts.objects, frame->type)) && parts.records.writeObject(handle);
 }
 
+/// The dictionary that layouts tell as theirs; 0 without layouts, or where it is something else.
+std::uint64_t dictionaryOfLayouts(const DrawingParts &parts)
+{
+    constexpr int dictionaryType = 0x2a;
+    const std::uint64_t handle = parts.layouts.empty() ? 0 : parts.layouts.begin()->second.dictionary;
+    const ObjectFrame *const frame = parts.objects.peek(handle);
+    return handle != parts.header.namedObjects && (!frame || frame->type == dictionaryType) ? handle : 0;
+}
+
+using NamedHandles = std::vector<std::pair<std::string, std::uint64_t>>;
+
+void writeDictionaryStandIn(DrawingParts &parts, std::uint64_t handle, std::uint64_t owner, const NamedHandles &entries)
+{
+    Fields &fields = parts.records.fields();
+    fields.start({}, {}, {});
+    fields.noteHandle(5, handle);
+    if (fields.since(Release::R13))
+        fields.noteHandle(330, owner);
+    fields.subclass("AcDbDictionary");
+    for (const auto &[name, named] : entries) {
+        fields.note(3, name);
+        fields.noteHandle(350, named);
+    }
+    parts.records.writeFields("DICTIONARY");
+    parts.objects.standFor(handle);
+}
+
 /// Programs take the first record of the section for the dictionary of named objects, whatever it is: there is one even
-/// where it cannot be read.
+/// where it cannot be read. The layouts are found from it.
 void writeRootStandIn(DrawingParts &parts)
 {
     parts.objects.problems().lose("The dictionary of named objects is missing.");
-    Fields &fields = parts.records.fields();
-    fields.start({}, {}, {});
-    fields.noteHandle(5, parts.header.namedObjects);
-    if (fields.since(Release::R13))
-        fields.noteHandle(330, 0);
-    fields.subclass("AcDbDictionary");
-    parts.records.writeFields("DICTIONARY");
+    const std::uint64_t layouts = dictionaryOfLayouts(parts);
+    writeDictionaryStandIn(parts, parts.header.namedObjects, 0,
+                           layouts != 0 ? NamedHandles{{"ACAD_LAYOUT", layouts}} : NamedHandles());
+}
+
+/// Programs know no layouts but those that the dictionary names, nor what stands on them.
+void writeLayoutsStandIn(DrawingParts &parts, std::uint64_t dictionary)
+{
+    parts.objects.warn(dictionary, 0x2a, "It cannot be read; one with the layouts was made.");
+    NamedHandles entries;
+    for (const auto &[block, layout] : parts.layouts)
+        entries.emplace_back(layout.name, layout.handle);
+    writeDictionaryStandIn(parts, dictionary, parts.header.namedObjects, entries);
 }
 
 /// The dictionary of named objects, then what the records own that were written, in the order of their references, as
@@ -50,6 +83,9 @@ void writeReachable(DrawingParts &parts)
         writeHere(parts, row[i]);
         addOwned();
     }
+    const std::uint64_t layouts = dictionaryOfLayouts(parts);
+    if (layouts != 0 && (!parts.objects.isTold(layouts) || parts.objects.lost().contains(layouts)))
+        writeLayoutsStandIn(parts, layouts);
 }
 
 /// What nobody refers to, by rising handle.

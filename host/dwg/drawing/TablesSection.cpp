@@ -97,15 +97,33 @@ void noteTableStandIn(DrawingParts &parts, const char *name, std::uint64_t handl
         fields.noteHandle(330, 0);
 }
 
+/// Whether nothing could refer to the entry by its name, as to a style that is no more than a file of shapes nothing
+/// has to.
+bool isNameless(DrawingParts &parts, int tableType, std::uint64_t entry)
+{
+    const auto name = parts.records.names().find(entry);
+    return tableType != styleTableType && (name == parts.records.names().end() || name->second.empty());
+}
+
+void writeEntry(DrawingParts &parts, int tableType, std::uint64_t entry)
+{
+    const ObjectFrame *const frame = parts.objects.peek(entry);
+    if (frame && frame->type != tableType + 1)
+        return;
+    if (frame && isNameless(parts, tableType, entry) && parts.objects.take(entry))
+        return parts.objects.lose(entry, frame->type, "It has no name.");
+    parts.records.writeObject(entry);
+    if (parts.objects.lost().contains(entry))
+        parts.records.names().erase(entry); // nothing can refer to it
+}
+
 void writeEntries(DrawingParts &parts, int tableType, const std::vector<std::uint64_t> &entries)
 {
     for (const std::uint64_t entry : entries) {
-        const ObjectFrame *const frame = tableType != blockTableType ? parts.objects.peek(entry) : nullptr;
         if (tableType == blockTableType)
             writeBlockRecord(parts, entry);
-        else if ((!frame || frame->type == tableType + 1) && !parts.records.writeObject(entry) &&
-                 parts.objects.lost().contains(entry))
-            parts.records.names().erase(entry); // nothing can refer to it
+        else
+            writeEntry(parts, tableType, entry);
     }
 }
 
