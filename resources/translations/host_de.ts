@@ -6580,6 +6580,12 @@ Geschrieben: %1
         <source>%1 was changed. Save it?</source>
         <translation>%1 wurde geändert. Speichern?</translation>
     </message>
+    <message>
+        <source>%1
+It is a DWG file: what you change here is saved under another name.</source>
+        <translation>%1
+Es ist eine DWG-Datei: Was Sie hier ändern, wird unter einem anderen Namen gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>Functions</name>

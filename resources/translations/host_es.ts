@@ -6580,6 +6580,12 @@ Escrito: %1
         <source>%1 was changed. Save it?</source>
         <translation>%1 ha cambiado. ¿Guardarlo?</translation>
     </message>
+    <message>
+        <source>%1
+It is a DWG file: what you change here is saved under another name.</source>
+        <translation>%1
+Es un archivo DWG: lo que cambie aquí se guarda con otro nombre.</translation>
+    </message>
 </context>
 <context>
     <name>Functions</name>

@@ -6580,6 +6580,12 @@ Written: %1
         <source>%1 was changed. Save it?</source>
         <translation>%1 a été modifié. L&apos;enregistrer&#xa0;?</translation>
     </message>
+    <message>
+        <source>%1
+It is a DWG file: what you change here is saved under another name.</source>
+        <translation>%1
+C&apos;est un fichier DWG : ce que vous modifiez ici est enregistré sous un autre nom.</translation>
+    </message>
 </context>
 <context>
     <name>Functions</name>

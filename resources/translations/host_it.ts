@@ -6580,6 +6580,12 @@ Scritto: %1
         <source>%1 was changed. Save it?</source>
         <translation>%1 è stato modificato. Salvarlo?</translation>
     </message>
+    <message>
+        <source>%1
+It is a DWG file: what you change here is saved under another name.</source>
+        <translation>%1
+È un file DWG: ciò che si modifica qui si salva con un altro nome.</translation>
+    </message>
 </context>
 <context>
     <name>Functions</name>

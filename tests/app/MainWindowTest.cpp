@@ -693,7 +693,13 @@ TEST_F(MainWindowTest, AsksBeforeADrawingOfOthersIsOpenedOrReplaced)
     user.press(QMessageBox::Cancel);
     window->start({theirs});
     EXPECT_TRUE(user.shown().value(0).contains(u"theirs.dxf is open in another program ("_s));
+    EXPECT_TRUE(user.shown().value(0).contains(u"replaces what is saved there"_s));
     EXPECT_EQ(window->tabs().count(), 1);
+    const QString foreign = write(u"theirs.dwg"_s, dwgFile(2));
+    ASSERT_TRUE(second.documents().open(foreign));
+    user.press(QMessageBox::Cancel);
+    window->start({foreign});
+    EXPECT_TRUE(user.shown().value(1).contains(u"saved under another name"_s)) << "nothing replaces a DWG file";
     pressNext(user, u"Open read-only"_s);
     window->start({theirs});
     ASSERT_EQ(window->tabs().tabText(1), u"theirs.dxf (read only)"_s);
@@ -707,7 +713,7 @@ TEST_F(MainWindowTest, AsksBeforeADrawingOfOthersIsOpenedOrReplaced)
     user.choose(copy);
     save();
     EXPECT_TRUE(user.isDone());
-    EXPECT_TRUE(user.shown().value(5).contains(u"small.dxf is open in this program"_s))
+    EXPECT_TRUE(user.shown().value(6).contains(u"small.dxf is open in this program"_s))
         << user.shown().join(u'\n').toStdString();
     EXPECT_EQ(window->tabs().tabText(1), u"copy.dxf"_s);
 

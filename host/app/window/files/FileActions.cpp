@@ -2,6 +2,7 @@
 
 #include "host/app/window/files/ClosingQuestion.h"
 #include "host/app/workbench/DrawingPicture.h"
+#include "host/drawing/dwg/DwgText.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -37,7 +38,7 @@ kernel::Document *FileActions::openFile(const QString &path)
     const QString file = QFileInfo(path).absoluteFilePath();
     kernel::OpenOutcome outcome = m_workbench.documents().open(file);
     if (outcome.holder) {
-        const std::optional<kernel::OpenMode> mode = askToOpen(outcome.error);
+        const std::optional<kernel::OpenMode> mode = askToOpen(file, outcome.error);
         if (!mode)
             return nullptr;
         outcome = m_workbench.documents().open(file, *mode);
@@ -83,10 +84,12 @@ int FileActions::choose(const QString &text, const QStringList &choices)
     return static_cast<int>(buttons.indexOf(box.clickedButton()));
 }
 
-std::optional<kernel::OpenMode> FileActions::askToOpen(const QString &problem)
+std::optional<kernel::OpenMode> FileActions::askToOpen(const QString &path, const QString &problem)
 {
-    switch (choose(tr("%1\nWhat is saved here replaces what is saved there.").arg(problem),
-                   {tr("Open &read-only"), tr("Open &anyway")})) {
+    const QString text = drawing::isDwgFile(path)
+                             ? tr("%1\nIt is a DWG file: what you change here is saved under another name.")
+                             : tr("%1\nWhat is saved here replaces what is saved there.");
+    switch (choose(text.arg(problem), {tr("Open &read-only"), tr("Open &anyway")})) {
     case 0:
         return kernel::OpenMode::ReadOnly;
     case 1:

@@ -63,7 +63,7 @@ private:
         Nothing
     };
     Wish askToWrite(const kernel::WriteObstacle &obstacle);
-    std::optional<kernel::OpenMode> askToOpen(const QString &problem);
+    std::optional<kernel::OpenMode> askToOpen(const QString &path, const QString &problem);
     /// Tells that it was not saved, and saves it under another name when the user wants that.
     bool saveElsewhere(kernel::Document &document, const QString &problem);
     bool saveUnder(kernel::Document &document, const QString &path, kernel::Overrule overrule);
