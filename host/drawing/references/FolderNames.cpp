@@ -10,7 +10,12 @@ namespace {
 constexpr qsizetype mostEntries = 100'000;
 constexpr qsizetype mostKept = 10 * mostEntries;
 constexpr qsizetype mostAlike = 100;
-constexpr qint64 stepOfTime = 2000; // milliseconds; FAT's is the longest
+
+/// The milliseconds within which a file system may tell the same time twice; FAT's are the most.
+qint64 stepOfTime(const QDateTime &told)
+{
+    return told.time().msec() == 0 ? 2000 : 50;
+}
 
 /// Letter by letter, as file systems do: a name keeps its length, "ß" is not "SS".
 QString withoutCase(const QString &name)
@@ -47,7 +52,7 @@ const FolderNames::Listing &FolderNames::listing(const QString &folder)
         m_known.clear();
         m_namesKnown = 0;
     }
-    Listing listed{changed, changed.msecsTo(QDateTime::currentDateTime()) > stepOfTime, namesIn(folder)};
+    Listing listed{changed, changed.msecsTo(QDateTime::currentDateTime()) > stepOfTime(changed), namesIn(folder)};
     Listing &kept = m_known[folder];
     m_namesKnown += listed.names.size() - kept.names.size();
     kept = std::move(listed);

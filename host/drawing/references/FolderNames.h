@@ -12,8 +12,9 @@ namespace host::drawing {
 /// written.
 ///
 /// A folder is listed once and kept in mind until its time of change is another one: what appears later is found. One
-/// that changed within the last two seconds is listed each time, since file systems count time in such steps. Of
-/// folders with more than 100,000 entries nothing is found.
+/// that has just changed is listed each time, for as long as the steps in which its file system counts time: a
+/// twentieth of a second, or two seconds where the time is one of whole seconds. Of folders with more than 100,000
+/// entries nothing is found.
 ///
 /// For one thread at a time.
 class FolderNames
