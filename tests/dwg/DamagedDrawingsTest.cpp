@@ -324,11 +324,14 @@ TEST_P(DamagedDrawings, HaveEntriesThatTheirTableTellsInAnotherWay)
                                    layerWriter("WALL", true, [](ObjectWriter &o) { o.colour(1); })));
     // Tables of R14 have entries that are lost without damage.
     EXPECT_EQ(recordsOf(readBack(madeFile(moved)), "LAYER"), GetParam() == Release::R14 ? " 10" : " 10 47");
-    // The table counts no layers, and has one behind that.
-    MadeParts left = fiveCircles(GetParam()).parts();
-    *std::ranges::find(left.objects, MadeHandles::LayerTable, &MadeParts::Object::handle) =
-        object(MadeHandles::LayerTable, layerTableType, 0, writerOf("l0 h10"));
-    EXPECT_EQ(recordsOf(readBack(madeFile(left)), "LAYER"), " 10 45");
+    const auto withTable = [&](const char *fields) {
+        MadeParts parts = fiveCircles(GetParam()).parts();
+        *std::ranges::find(parts.objects, MadeHandles::LayerTable, &MadeParts::Object::handle) =
+            object(MadeHandles::LayerTable, layerTableType, 0, writerOf(fields));
+        return recordsOf(readBack(madeFile(parts)), "LAYER");
+    };
+    EXPECT_EQ(withTable("l0 h10"), " 10 45") << "it counts no layers, and has one behind that";
+    EXPECT_EQ(withTable("l2 h45 h10 c7"), " 45 10") << "it has a value that is not known, and keeps its order";
 }
 
 TEST_P(DamagedDrawings, NameNoEntryThatIsLost)

@@ -27,15 +27,16 @@ std::vector<std::uint64_t> entriesByType(const DrawingObjects &objects, int tabl
     return entries;
 }
 
-/// Puts what is of the table's type behind the entries that are, where one of them is lost: it may be that one, by
-/// another handle. Tables of R13 and R14 have lost ones without damage.
-void addMissing(const DrawingObjects &objects, int tableType, std::vector<std::uint64_t> &entries)
+/// Puts what is of the table's type behind the entries that are, where the table leaves bits over, so that it may tell
+/// of fewer, or one of them is lost: it may be that one, by another handle. Tables of R13 and R14 have lost ones without
+/// damage.
+void addMissing(const DrawingObjects &objects, int tableType, bool isUsedUp, std::vector<std::uint64_t> &entries)
 {
     const auto isEntry = [&](std::uint64_t handle) {
         const ObjectFrame *const frame = objects.peek(handle);
         return frame && frame->type == tableType + 1;
     };
-    if (objects.release() <= Release::R14 || std::ranges::all_of(entries, isEntry))
+    if (isUsedUp && (objects.release() <= Release::R14 || std::ranges::all_of(entries, isEntry)))
         return;
     const std::unordered_set<std::uint64_t> had(entries.begin(), entries.end());
     for (const std::uint64_t entry : entriesByType(objects, tableType)) {
@@ -53,11 +54,11 @@ TableContents readTable(DrawingParts &parts, int type, std::uint64_t handle)
         Fields &fields = parts.records.fields();
         parts.records.readHead(*frame, "TABLE", false);
         table.entries = readTableEntries(fields, type, table.further);
-        table.isRead = fields.isUsedUp() && fields.relations().handle == handle;
+        table.isRead = !fields.hasFailed();
+        addMissing(parts.objects, type, fields.isUsedUp(), table.entries);
     }
     if (!table.isRead)
         table = {entriesByType(parts.objects, type), {}, false};
-    addMissing(parts.objects, type, table.entries);
     return table;
 }
 
