@@ -28,8 +28,8 @@ std::vector<std::uint64_t> entriesByType(const DrawingObjects &objects, int tabl
 }
 
 /// Puts what is of the table's type behind the entries that are, where the table leaves bits over, so that it may tell
-/// of fewer, or one of them is lost: it may be that one, by another handle. Tables of R13 and R14 have lost ones without
-/// damage.
+/// of fewer, or one of them is lost: it may be that one, by another handle. Tables of R13 and R14 have lost ones
+/// without damage.
 void addMissing(const DrawingObjects &objects, int tableType, bool isUsedUp, std::vector<std::uint64_t> &entries)
 {
     const auto isEntry = [&](std::uint64_t handle) {
