@@ -241,10 +241,9 @@ TEST(Fonts, FilesOfTheUser)
         file.write(bytes);
     };
     write(compiledFont({{0, fontHead}, {65, letterCodes}}));
-    drawing::ShapeFiles files([&](const QString &name) {
-        const QString path = folder.filePath(name);
-        return QFile::exists(path) ? path : QString();
-    });
+    const auto drawing = readDrawing({});
+    drawing->setPath(folder.filePath(u"plan.dxf"_s));
+    drawing::ShapeFiles files(drawing::namedFiles(*drawing));
     Fonts fonts;
     fonts.readFilesBy(files, "ANSI_1252");
     const int font = fonts.find({.name = u"MINE"_s, .isFile = true});
