@@ -417,6 +417,14 @@ TEST(DwgBits, BytesThatAreNoCharactersAreReplaced)
             text.replace(at, 3, "?");
         EXPECT_EQ(text, expected);
     }
+    // At any place of a text that is looked at in larger pieces, behind none or one that is a character.
+    for (std::size_t at = 0; at < 300; ++at) {
+        for (const std::string front : {"", "\xc3\xa9"}) {
+            std::string text = front + std::string(at, 'x') + '\xff' + std::string(299 - at, 'y');
+            EXPECT_EQ(replaceNoUtf8(text), 1u);
+            EXPECT_EQ(text, front + std::string(at, 'x') + "\xef\xbf\xbd" + std::string(299 - at, 'y')) << at;
+        }
+    }
 }
 
 TEST(DwgBits, ColoursHaveTheIndexThatIsNearest)

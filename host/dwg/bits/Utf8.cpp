@@ -1,7 +1,6 @@
 #include "host/dwg/bits/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -10,16 +9,28 @@ namespace host::dwg {
 
 namespace {
 
+/// Where the first run of `AtOnce` bytes with one beyond ASCII begins, or the last bytes that are fewer.
+template <std::size_t AtOnce>
+std::size_t skipAscii(std::string_view text, std::size_t from)
+{
+    constexpr std::uint64_t highBits = 0x8080'8080'8080'8080;
+    for (; text.size() - from >= AtOnce; from += AtOnce) {
+        std::uint64_t bits = 0;
+        for (std::size_t i = 0; i < AtOnce; i += sizeof bits) {
+            std::uint64_t word = 0;
+            std::memcpy(&word, text.data() + from + i, sizeof word);
+            bits |= word;
+        }
+        if ((bits & highBits) != 0)
+            break;
+    }
+    return from;
+}
+
 /// Where the next byte beyond ASCII is; `text.size()` without one.
 std::size_t nextBeyondAscii(std::string_view text, std::size_t from)
 {
-    constexpr std::uint64_t highBits = 0x8080'8080'8080'8080;
-    std::array<std::uint64_t, 4> words{};
-    for (; text.size() - from >= sizeof words; from += sizeof words) {
-        std::memcpy(words.data(), text.data() + from, sizeof words);
-        if (((words[0] | words[1] | words[2] | words[3]) & highBits) != 0)
-            break;
-    }
+    from = skipAscii<8>(text, skipAscii<128>(text, from));
     const auto isBeyond = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
     return static_cast<std::size_t>(
         std::find_if(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), isBeyond) - text.begin());

@@ -133,7 +133,8 @@ void RecordWriter::writeNoted(std::string_view recordType, std::string_view line
         end += m_fields.mark() - extended;
     }
     writeTags(recordType, lines, end);
-    m_companions.make(m_fields, end);
+    if (!m_companions.isEmpty())
+        m_companions.make(m_fields, end);
     noteOwned();
 }
 
@@ -200,7 +201,8 @@ bool RecordWriter::writeKnown(std::uint64_t handle, const ObjectFrame &frame, co
     if (m_fields.lack())
         return false;
     const bool isWhole = m_fields.isUsedUp();
-    m_companions.complete(m_fields);
+    if (!m_companions.isEmpty())
+        m_companions.complete(m_fields);
     if (!writeUnlessFailed())
         return false;
     if (!isWhole)
