@@ -59,23 +59,32 @@ const std::string dimensionStyle =
     "d0.09 d0 d25.4 d1 d0 d1 d0.09 d0 b0 s2 b0 b0 b0 b0 K#c2ff0000 C0 C0 s0 s4 s4 s2 s2 s0 s0 s2 s46 s0 s0 b0 b0 s1 s0 "
     "s0 s0 b0 s3 b0 s-2 s-2 b0 h0 h11 h0 h0 h0 h0 h0 h0 h0";
 
-/// A linetype with a text in its second dash, whose letters stand in so many raw numbers.
-std::string linetypeFields(const std::string &letters, int zeros)
+/// A linetype with a text in its second dash, whose letters stand in so many raw numbers from `begin` on.
+std::string linetypeFields(const std::string &letters, int zeros, int begin = 0)
 {
-    std::string fields = "nL tD d1.5 c65 c2 d0.5 s0 r0 r0 d1 d0 s0 d-0.25 s0 r0.1 r0.2 d0.75 d1 s2 " + letters;
+    std::string fields = "nL tD d1.5 c65 c2 d0.5 s0 r0 r0 d1 d0 s0 d-0.25 s" + std::to_string(begin) +
+                         " r0.1 r0.2 d0.75 d1 s2 " + letters;
     for (int i = 0; i < zeros; ++i)
         fields += " w0";
     return fields + " h0 h0 h11";
 }
 
 const std::string linetypeTags = "2 L|70 0|3 D|72 65|73 2|40 1.5|49 0.5|74 0|49 -0.25|74 2|75 0|340 11|46 0.75|"
-                                 "50 57.29577951308232|44 0.1|45 0.2|9 AB|";
+                                 "50 57.29577951308232|44 0.1|45 0.2|9 ";
 
 const FormRow formRows[] = {
     {"a linetype with a text, of one byte a character", Release::R2004, Place::Entry, LinetypeType,
-     linetypeFields("w16961", 127), linetypeTags},
+     linetypeFields("w16961", 127), linetypeTags + "AB|"},
     {"a linetype with a text, of two bytes a character", Release::R2007, Place::Entry, LinetypeType,
-     linetypeFields("w65 w66", 254), linetypeTags},
+     linetypeFields("w65 w66", 254), linetypeTags + "AB|"},
+    {"the same from its second letter on", Release::R2007, Place::Entry, LinetypeType,
+     linetypeFields("w65 w66", 254, 2), linetypeTags + "B|"},
+    {"a text in front of all texts", Release::R2007, Place::Entry, LinetypeType, linetypeFields("w65 w66", 254, -1),
+     linetypeTags + "|"},
+    {"the same, of one byte a character", Release::R2004, Place::Entry, LinetypeType, linetypeFields("w16961", 127, -1),
+     linetypeTags + "|"},
+    {"a text behind all texts", Release::R2007, Place::Entry, LinetypeType, linetypeFields("w65 w66", 254, 511),
+     linetypeTags + "|"},
     {"an array of inserts", Release::R2004, Place::Entity, 0x08,
      "p1,2,3 b0 b0 r2 b1 b1 r3 b0 b0 d1 p0,0,-1 b0 s4 s5 d6 d7 h1D",
      "2 *MODEL_SPACE|10 1.0|20 2.0|30 3.0|41 2.0|42 3.0|43 2.0|50 57.29577951308232|70 4|71 5|44 6.0|45 7.0|210 0.0|"

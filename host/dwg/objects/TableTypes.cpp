@@ -128,19 +128,16 @@ std::string textArea(Fields &f, const std::vector<Dash> &dashes)
     return hasText ? f.values().rawBytes(512) : std::string();
 }
 
-std::string textOfDash(const Fields &f, const std::string &area, int shape)
+/// Empty where a damaged file has it begin outside of the texts.
+std::string textOfDash(const Fields &f, std::string_view area, int shape)
 {
-    const auto begin = static_cast<std::size_t>(shape);
-    if (f.since(Release::R2007)) {
-        const Bytes bytes(reinterpret_cast<const std::uint8_t *>(area.data()), area.size());
-        BitReader reader(bytes, begin * 8, bytes.size() * 8);
-        std::size_t units = 0;
-        while (begin + 2 * units + 1 < area.size() &&
-               (area[begin + 2 * units] != 0 || area[begin + 2 * units + 1] != 0))
-            ++units;
-        return reader.utf16(units);
-    }
-    return begin < area.size() ? std::string(area.c_str() + begin) : std::string();
+    if (shape < 0 || static_cast<std::size_t>(shape) >= area.size())
+        return {};
+    area.remove_prefix(static_cast<std::size_t>(shape));
+    if (f.until(Release::R2004))
+        return std::string(area.substr(0, area.find('\0')));
+    BitReader reader(Bytes(reinterpret_cast<const std::uint8_t *>(area.data()), area.size()));
+    return reader.utf16(area.size() / 2);
 }
 
 void noteDash(Fields &f, const Dash &dash, const std::string &area, std::uint64_t style)
