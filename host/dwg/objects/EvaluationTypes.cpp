@@ -98,36 +98,6 @@ void readPrimitive(Fields &f, const char *subclass, int sizes)
         f.real(40 + i);
 }
 
-void readBox(Fields &f)
-{
-    readPrimitive(f, "AcDbShBox", 3);
-}
-
-void readWedge(Fields &f)
-{
-    readPrimitive(f, "AcDbShWedge", 3);
-}
-
-void readSphere(Fields &f)
-{
-    readPrimitive(f, "AcDbShSphere", 1);
-}
-
-void readTorus(Fields &f)
-{
-    readPrimitive(f, "AcDbShTorus", 2);
-}
-
-void readCylinder(Fields &f)
-{
-    readPrimitive(f, "AcDbShCylinder", 4);
-}
-
-void readCone(Fields &f)
-{
-    readPrimitive(f, "AcDbShCone", 4);
-}
-
 /// Parts of solids that are told apart whatever changes: numbers alone, as many as there are.
 void readNumbers(Fields &f, std::size_t left)
 {
@@ -164,12 +134,12 @@ std::span<const ObjectType> evaluationTypes()
         {0, "ACAD_EVALUATION_GRAPH", readEvaluationGraph},
         {0, "ACDB_BLOCKREPRESENTATION_DATA", readRepresentation},
         {0, "ACSH_HISTORY_CLASS", readHistory},
-        {0, "ACSH_BOX_CLASS", readBox},
-        {0, "ACSH_WEDGE_CLASS", readWedge},
-        {0, "ACSH_SPHERE_CLASS", readSphere},
-        {0, "ACSH_TORUS_CLASS", readTorus},
-        {0, "ACSH_CYLINDER_CLASS", readCylinder},
-        {0, "ACSH_CONE_CLASS", readCone},
+        {0, "ACSH_BOX_CLASS", [](Fields &f) { readPrimitive(f, "AcDbShBox", 3); }},
+        {0, "ACSH_WEDGE_CLASS", [](Fields &f) { readPrimitive(f, "AcDbShWedge", 3); }},
+        {0, "ACSH_SPHERE_CLASS", [](Fields &f) { readPrimitive(f, "AcDbShSphere", 1); }},
+        {0, "ACSH_TORUS_CLASS", [](Fields &f) { readPrimitive(f, "AcDbShTorus", 2); }},
+        {0, "ACSH_CYLINDER_CLASS", [](Fields &f) { readPrimitive(f, "AcDbShCylinder", 4); }},
+        {0, "ACSH_CONE_CLASS", [](Fields &f) { readPrimitive(f, "AcDbShCone", 4); }},
         {0, "ACDBPERSSUBENTMANAGER", readPartNumbers},
         {0, "ACDBASSOCPERSSUBENTMANAGER", readAssociativePartNumbers},
     };
